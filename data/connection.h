@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <vector>
+
+namespace data {
+
+class Recordset;
+
+enum class CursorLocation { Server = 2, Client = 3 };
+
+/// The one open database file of the run.
+class Connection {
+public:
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// Default for the recordsets opened here that set no location of their own.
+    void setCursorLocation(CursorLocation location);
+    [[nodiscard]] CursorLocation cursorLocation() const;
+
+    /// Opens an existing file for reading and writing; never makes one. Throws RuntimeError -2147467259 with the
+    /// provider's words for a missing, unreadable, empty, truncated or foreign file, 3705 when open already.
+    void open(const QString& path);
+    /// Closes every recordset opened here, dropping their pending changes, then the file.
+    void close();
+    [[nodiscard]] bool isOpen() const;
+    [[nodiscard]] QString path() const;
+
+    /// Names of the file's tables and views, system tables left out of none, ordered by type, then name.
+    [[nodiscard]] std::vector<QString> tableNames() const;
+
+    struct Private;
+    [[nodiscard]] Private& handle() const { return *d_; }
+
+private:
+    std::unique_ptr<Private> d_;
+};
+
+}  // namespace data

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QStringList>
+#include <memory>
+
+#include "data/connection.h"
+#include "platform/base/record_source.h"
+
+namespace data {
+
+enum class CursorType { ForwardOnly = 0, Keyset = 1, Static = 3 };
+enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
+enum class EditMode { None = 0, InProgress = 1, Add = 2, Deleted = 4 };
+
+/// The rows of one statement, one of them current.
+///
+/// A forward-only recordset streams. Every other one takes the keys of its rows at open() and reads a row when it
+/// is reached. Only selects over one table, or over the columns of one table of a join (`SELECT X.* FROM ..`), can be written.
+class Recordset : public platform::RecordSource {
+    Q_OBJECT
+
+public:
+    explicit Recordset(QObject* parent = nullptr);
+    ~Recordset() override;
+
+    void setCursorLocation(CursorLocation location);
+    void setCursorType(CursorType type);
+    void setLockType(LockType type);
+
+    /// Runs the statement with the settings made before. One that returns no rows is carried out and leaves the
+    /// recordset closed. Throws 3705 when open, 3709 on a closed connection, and the provider's errors.
+    void open(const QString& statement, Connection& connection);
+    void open(const QString& statement, Connection& connection, CursorType type, LockType lock);
+    /// Throws 3704 when closed, 3219 while a change is pending.
+    void close();
+    /// Closes if open, and drops a pending change: what every routine does before it uses a recordset again.
+    void release();
+    [[nodiscard]] bool isOpen() const;
+
+    [[nodiscard]] bool bof() const;
+    [[nodiscard]] bool eof() const;
+    [[nodiscard]] int recordCount() const;       ///< -1 on a forward-only recordset
+    [[nodiscard]] int absolutePosition() const;  ///< 1..N; -1 empty or unknown, -2 before the first, -3 behind the last
+    [[nodiscard]] double bookmark() const;       ///< ordinal of the row in the fetched set, from 1; 3021 without a row
+    void setBookmark(double bookmark);
+    [[nodiscard]] EditMode editMode() const;
+
+    void moveFirst();
+    void moveLast();
+    void moveNext();
+    void movePrevious();
+
+    void addNew();
+    /// Hands over what the bound controls hold, then writes the current row's pending change: one statement, durable on return.
+    void update();
+    void updateBatch();
+    void cancelUpdate();
+    void deleteCurrent();
+    void requery();
+
+    [[nodiscard]] QStringList fieldNames() const;
+    [[nodiscard]] bool hasCurrentRow() const override;
+    [[nodiscard]] QVariant value(const QString& column) const override;
+    void setValue(const QString& column, const QVariant& value) override;
+    [[nodiscard]] platform::ColumnKind columnKind(const QString& column) const override;
+
+Q_SIGNALS:
+    void moveComplete();
+    void willChangeRecord();
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d_;
+};
+
+}  // namespace data
