@@ -1,0 +1,38 @@
+#include "platform/forms/binding.h"
+
+#include "platform/forms/bindable.h"
+
+namespace platform {
+
+Binding::Binding(Bindable& control, QString column, QString format, bool readsOnly, QObject* parent)
+    : QObject(parent),
+      control_(control),
+      column_(std::move(column)),
+      format_(std::move(format)),
+      readsOnly_(readsOnly) {}
+
+void Binding::setSource(RecordSource* source) {
+    if (source_) source_->disconnect(this);
+    source_ = source;
+    if (!source_) return;
+    connect(source, &RecordSource::rowShown, this, &Binding::show);
+    connect(source, &RecordSource::collecting, this, &Binding::handOver);
+    connect(source, &RecordSource::valueSet, this, [this](const QString& column) {
+        if (column.compare(column_, Qt::CaseInsensitive) == 0) show();
+    });
+    show();
+}
+
+void Binding::show() {
+    const QVariant value = source_->hasCurrentRow() ? source_->value(column_) : QVariant();
+    control_.showValue(value, source_->columnKind(column_), format_);
+    shown_ = control_.content();
+}
+
+void Binding::handOver() {
+    if (readsOnly_ || control_.content() == shown_) return;
+    const QVariant content = control_.content();
+    source_->setValue(column_, content);
+}
+
+}  // namespace platform

@@ -1,0 +1,127 @@
+#include "platform/forms/combo_box.h"
+
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+#include <limits>
+
+#include "platform/base/display_format.h"
+#include "platform/base/runtime_error.h"
+
+namespace platform {
+
+ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
+    setEditable(true);
+    setCompleter(nullptr);
+    setInsertPolicy(QComboBox::NoInsert);
+    setMaxVisibleItems(15);
+    setMinimumContentsLength(12);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    lineEdit()->setMaxLength(std::numeric_limits<int>::max() / 2);
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        listIndex_ = index;
+        click();
+    });
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { listIndex_ = -1; });
+}
+
+void ComboBox::click() {
+    if (handler_) handler_();
+}
+
+void ComboBox::setText(const QString& text) {
+    const QSignalBlocker quiet(this);
+    listIndex_ = -1;
+    // The arrow keys go on from the entry that reads like the text.
+    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setEditText(text);
+    lineEdit()->setCursorPosition(0);
+}
+
+void ComboBox::setListIndex(int index) {
+    if (count() == 0 && index == 0) return;
+    if (index < -1 || index >= count()) throw RuntimeError(380);
+    if (index == listIndex_) return;
+    {
+        const QSignalBlocker quiet(this);
+        listIndex_ = index;
+        setCurrentIndex(index);
+        setEditText(index < 0 ? QString() : itemText(index));
+        lineEdit()->setCursorPosition(0);
+    }
+    click();
+}
+
+void ComboBox::addItem(const QString& text) {
+    const QSignalBlocker quiet(this);
+    const QString kept = currentText();
+    QComboBox::addItem(text);
+    // The first entry of a list would choose itself.
+    if (listIndex_ < 0) {
+        setCurrentIndex(-1);
+        setEditText(kept);
+    }
+}
+
+void ComboBox::removeEntry(int index) {
+    if (index < 0 || index >= count()) throw RuntimeError(5);
+    const QSignalBlocker quiet(this);
+    const QString kept = index == listIndex_ ? QString() : currentText();
+    if (index == listIndex_) {
+        listIndex_ = -1;
+    } else if (index < listIndex_) {
+        --listIndex_;
+    }
+    removeItem(index);
+    setCurrentIndex(listIndex_);
+    setEditText(kept);
+}
+
+void ComboBox::clearList() {
+    const QSignalBlocker quiet(this);
+    listIndex_ = -1;
+    clear();
+    clearEditText();
+}
+
+void ComboBox::setLocked(bool locked) {
+    locked_ = locked;
+    lineEdit()->setReadOnly(locked);
+}
+
+void ComboBox::select(int start, int length) { lineEdit()->setSelection(start, length); }
+
+void ComboBox::selectAll() { lineEdit()->selectAll(); }
+
+int ComboBox::selStart() const {
+    return lineEdit()->hasSelectedText() ? lineEdit()->selectionStart() : lineEdit()->cursorPosition();
+}
+
+int ComboBox::selLength() const { return lineEdit()->selectionLength(); }
+
+void ComboBox::showValue(const QVariant& value, ColumnKind kind, const QString& format) {
+    setText(displayText(value, kind, format));
+}
+
+void ComboBox::showPopup() {
+    if (!locked_) QComboBox::showPopup();
+}
+
+void ComboBox::wheelEvent(QWheelEvent* event) {
+    // Scrolling a page must not change what a record says.
+    event->ignore();
+}
+
+void ComboBox::keyPressEvent(QKeyEvent* event) {
+    const bool chooses = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down || event->key() == Qt::Key_PageUp ||
+                         event->key() == Qt::Key_PageDown || event->key() == Qt::Key_F4;
+    if (locked_ && chooses) {
+        event->accept();
+        return;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+}  // namespace platform

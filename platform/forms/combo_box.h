@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QComboBox>
+#include <functional>
+
+#include "platform/forms/bindable.h"
+#include "platform/forms/control.h"
+
+namespace platform {
+
+/// A drop-down list with free typing and no completion.
+class ComboBox : public QComboBox, public Control, public Bindable {
+    Q_OBJECT
+
+public:
+    explicit ComboBox(QWidget* parent = nullptr);
+
+    [[nodiscard]] QWidget& widget() override { return *this; }
+    [[nodiscard]] QString text() const { return currentText(); }
+    /// Sets the text without a click; the list index becomes -1, whatever entries there are.
+    void setText(const QString& text);
+    [[nodiscard]] int listIndex() const { return listIndex_; }
+    /// Chooses an entry, which is a click unless it is chosen already; -1 empties the box. 0 on an empty list does
+    /// nothing; throws RuntimeError 380 for any other index outside the list.
+    void setListIndex(int index);
+    [[nodiscard]] int listCount() const { return count(); }
+    /// Text of an entry; empty outside the list.
+    [[nodiscard]] QString list(int index) const { return itemText(index); }
+    void addItem(const QString& text);
+    /// Takes an entry out; one that is chosen empties the box. Throws RuntimeError 5 outside the list.
+    void removeEntry(int index);
+    void clearList();
+    [[nodiscard]] bool isLocked() const { return locked_; }
+    /// A locked combo takes neither typing nor a choice; code can still set it.
+    void setLocked(bool locked);
+    void select(int start, int length);
+    void selectAll();
+    [[nodiscard]] int selStart() const;
+    [[nodiscard]] int selLength() const;
+
+    void onClick(std::function<void()> handler) { handler_ = std::move(handler); }
+
+    void showValue(const QVariant& value, ColumnKind kind, const QString& format) override;
+    [[nodiscard]] QVariant content() const override { return text(); }
+
+    void showPopup() override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void click();
+
+    std::function<void()> handler_;
+    int listIndex_ = -1;
+    bool locked_ = false;
+};
+
+}  // namespace platform

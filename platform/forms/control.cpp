@@ -1,0 +1,23 @@
+#include "platform/forms/control.h"
+
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+void Control::setName(const QString& name) { widget().setObjectName(name); }
+
+QString Control::name() { return widget().objectName(); }
+
+Control* Control::of(QWidget* widget) {
+    for (; widget; widget = widget->parentWidget()) {
+        if (auto* control = dynamic_cast<Control*>(widget)) return control;
+        if (widget->isWindow()) return nullptr;
+    }
+    return nullptr;
+}
+
+QString indexedName(const QString& array, int index) { return u"%1(%2)"_s.arg(array).arg(index); }
+
+}  // namespace platform

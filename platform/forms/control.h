@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+class QWidget;
+
+namespace platform {
+
+/// What a form knows of each of its controls: its name, its widget, and the check that runs before it loses the focus.
+///
+/// The name of a control in an array is the array's name with the index, "txtFields(3)"; it is the widget's objectName.
+class Control {
+public:
+    /// Runs when the focus is about to leave; returns false to hold it.
+    using Validate = std::function<bool()>;
+
+    Control() = default;
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    [[nodiscard]] virtual QWidget& widget() = 0;
+    void setName(const QString& name);
+    [[nodiscard]] QString name();
+    void setValidate(Validate validate) { validate_ = std::move(validate); }
+    [[nodiscard]] bool allowsLeaving() { return !validate_ || validate_(); }
+
+    /// The control that a widget belongs to: itself or the nearest one around it; nullptr for none.
+    [[nodiscard]] static Control* of(QWidget* widget);
+
+private:
+    Validate validate_;
+};
+
+/// "txtFields" and 3 give "txtFields(3)".
+[[nodiscard]] QString indexedName(const QString& array, int index);
+
+}  // namespace platform

@@ -1,0 +1,122 @@
+#include "platform/forms/desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QThread>
+#include <algorithm>
+
+#include "platform/base/runtime_error.h"
+#include "platform/forms/focus_guard.h"
+#include "platform/forms/form.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+Desktop::Desktop() : dialogs_(std::make_unique<Dialogs>()), guard_(std::make_unique<FocusGuard>(*this)) {
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Desktop::~Desktop() {
+    setPointer(Pointer::Default);
+    while (!forms_.empty()) forms_.pop_back();
+}
+
+QString Desktop::programTitle() { return u"Kinbook"_s; }
+
+void Desktop::setDialogs(std::unique_ptr<Dialogs> dialogs) { dialogs_ = std::move(dialogs); }
+
+void Desktop::take(std::unique_ptr<Form> form) {
+    Form& loaded = *form;
+    forms_.push_back(std::move(form));
+    loaded.loaded_ = true;
+    try {
+        loaded.Form_Load();
+    } catch (const RuntimeError&) {
+        if (loaded.loaded_) retire(loaded);
+        throw;
+    }
+}
+
+Form* Desktop::find(const QString& name) const {
+    const auto found = std::ranges::find_if(forms_, [&](const auto& form) { return form->name() == name; });
+    return found == forms_.end() ? nullptr : found->get();
+}
+
+void Desktop::unloadAll(const std::function<bool(const Form&)>& which) {
+    for (int i = count() - 1; i >= 0; --i) {
+        // An unload can take others along.
+        if (i < count() && which(at(i))) at(i).unload();
+    }
+}
+
+void Desktop::retire(Form& form) {
+    form.loaded_ = false;
+    const auto place = std::ranges::find_if(forms_, [&](const auto& held) { return held.get() == &form; });
+    if (place == forms_.end()) return;
+    std::unique_ptr<Form> held = std::move(*place);
+    forms_.erase(place);
+    form.window().hide();
+    held.release()->window().deleteLater();
+    if (forms_.empty()) Q_EMIT emptied();
+}
+
+void Desktop::notice(const QString& text, const QString& title, Icon icon) {
+    dialogs_->messageBox(text, icon, title, Buttons::Ok);
+}
+
+bool Desktop::ask(const QString& text, const QString& title) {
+    return dialogs_->messageBox(text, Icon::None, title, Buttons::YesNo) == Answer::Yes;
+}
+
+bool Desktop::attempt(const QString& title, const std::function<void()>& routine) {
+    try {
+        routine();
+        return true;
+    } catch (const RuntimeError& error) {
+        notice(error.report(), title, Icon::Critical);
+        return false;
+    }
+}
+
+void Desktop::run(const std::function<void()>& handler) { attempt(programTitle(), handler); }
+
+void Desktop::setPointer(Pointer pointer) {
+    if (pointer == pointer_) return;
+    pointer_ = pointer;
+    if (pointer == Pointer::Hourglass) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void Desktop::beep() {
+    QApplication::beep();
+    Q_EMIT beeped();
+}
+
+void Desktop::setClipboardText(const QString& text) { QApplication::clipboard()->setText(text); }
+
+QString Desktop::clipboardText() const { return QApplication::clipboard()->text(); }
+
+void Desktop::wait(double seconds) {
+    const qint64 length = static_cast<qint64>(seconds * 1000);
+    QElapsedTimer timer;
+    timer.start();
+    waiting_ = true;
+    while (timer.elapsed() < length) {
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+        QThread::msleep(5);
+    }
+    waiting_ = false;
+}
+
+void Desktop::endRun() {
+    for (int i = count() - 1; i >= 0; --i) {
+        if (i < count()) at(i).leave();
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/forms/dialogs.h"
+
+namespace platform {
+
+class FocusGuard;
+class Form;
+class MdiFrame;
+
+enum class Pointer { Default, Hourglass };
+
+/// What all forms of one run share: the collection of loaded forms, the dialogs, the pointer, and the last net under
+/// a failure that no routine handles.
+class Desktop : public QObject {
+    Q_OBJECT
+
+public:
+    Desktop();
+    ~Desktop() override;
+
+    /// Title of boxes that have none of their own.
+    [[nodiscard]] static QString programTitle();
+
+    [[nodiscard]] Dialogs& dialogs() { return *dialogs_; }
+    void setDialogs(std::unique_ptr<Dialogs> dialogs);
+
+    /// Loads a form: it takes its place at the end of the collection and runs its Form_Load. When that fails the form
+    /// is gone again and the failure goes to the caller.
+    template <class F>
+    F& load(std::unique_ptr<F> form) {
+        F& loaded = *form;
+        take(std::move(form));
+        return loaded;
+    }
+    [[nodiscard]] int count() const { return static_cast<int>(forms_.size()); }
+    /// A loaded form by its place in the order of loading, from 0.
+    [[nodiscard]] Form& at(int index) const { return *forms_.at(static_cast<std::size_t>(index)); }
+    /// A loaded form by name; nullptr when none is.
+    [[nodiscard]] Form* find(const QString& name) const;
+    /// Unloads every loaded form for which `which` holds, the latest first. One that vetoes stays.
+    void unloadAll(const std::function<bool(const Form&)>& which);
+
+    [[nodiscard]] MdiFrame* host() const { return host_; }
+    void setHost(MdiFrame* host) { host_ = host; }
+
+    /// Shows a notice and waits for it to be read.
+    void notice(const QString& text, const QString& title = {}, Icon icon = Icon::None);
+    /// Asks a question; true for Yes.
+    [[nodiscard]] bool ask(const QString& text, const QString& title);
+    /// Runs a routine that has an error title: a failure in it ends it and is shown under the title. True if it ran whole.
+    bool attempt(const QString& title, const std::function<void()>& routine);
+    /// Runs what an event set off; a failure that no routine handled is shown under the program's own title.
+    void run(const std::function<void()>& handler);
+
+    void setPointer(Pointer pointer);
+    [[nodiscard]] Pointer pointer() const { return pointer_; }
+    void beep();
+    void setClipboardText(const QString& text);
+    [[nodiscard]] QString clipboardText() const;
+    /// Keeps the program alive to its events for some seconds, while the caller waits.
+    void wait(double seconds);
+    [[nodiscard]] bool isWaiting() const { return waiting_; }
+
+    /// The run is over: every form goes without being asked.
+    void endRun();
+
+Q_SIGNALS:
+    void beeped();
+    /// The last form is gone: the program ends.
+    void emptied();
+
+private:
+    friend class Form;
+    void take(std::unique_ptr<Form> form);
+    /// A form is unloaded: it leaves the collection at once and is destroyed when no event of it runs any more.
+    void retire(Form& form);
+
+    std::unique_ptr<Dialogs> dialogs_;
+    std::vector<std::unique_ptr<Form>> forms_;
+    std::unique_ptr<FocusGuard> guard_;
+    MdiFrame* host_ = nullptr;
+    Pointer pointer_ = Pointer::Default;
+    bool waiting_ = false;
+};
+
+}  // namespace platform

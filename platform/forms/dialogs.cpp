@@ -1,0 +1,105 @@
+#include "platform/forms/dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
+
+#include "platform/forms/desktop.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+constexpr int longestText = 1024;
+
+/// A box whose question must be answered by a button: Esc and the close box stand for no answer.
+class Box : public QMessageBox {
+public:
+    explicit Box(bool mustAnswer) : QMessageBox(QApplication::activeWindow()), mustAnswer_(mustAnswer) {}
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (mustAnswer_ && event->key() == Qt::Key_Escape) return;
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (mustAnswer_) {
+            event->ignore();
+        } else {
+            QMessageBox::closeEvent(event);
+        }
+    }
+
+private:
+    bool mustAnswer_;
+};
+
+QMessageBox::Icon boxIcon(Icon icon) {
+    switch (icon) {
+        case Icon::Information: return QMessageBox::Information;
+        case Icon::Question: return QMessageBox::Question;
+        case Icon::Critical: return QMessageBox::Critical;
+        default: return QMessageBox::NoIcon;
+    }
+}
+
+}  // namespace
+
+Answer Dialogs::messageBox(const QString& text, Icon icon, const QString& title, Buttons buttons) {
+    Box box(buttons == Buttons::YesNo);
+    box.setObjectName(u"MessageBox"_s);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text.left(longestText));
+    box.setWindowTitle(title.isEmpty() ? Desktop::programTitle() : title);
+    box.setIcon(boxIcon(icon));
+    box.setStandardButtons(buttons == Buttons::YesNo ? QMessageBox::Yes | QMessageBox::No
+                                                     : QMessageBox::StandardButtons(QMessageBox::Ok));
+    box.setDefaultButton(buttons == Buttons::YesNo ? QMessageBox::Yes : QMessageBox::Ok);
+    switch (box.exec()) {
+        case QMessageBox::Yes: return Answer::Yes;
+        case QMessageBox::No: return Answer::No;
+        default: return Answer::Ok;
+    }
+}
+
+QString Dialogs::fileDialog(const FileRequest& request) {
+    QFileDialog dialog(QApplication::activeWindow(), request.title);
+    dialog.setObjectName(u"FileDialog"_s);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setAcceptMode(request.mode == FileRequest::Mode::Open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    const QFileInfo preset(request.fileName);
+    if (request.fileName.contains(u'/') && preset.dir().exists()) {
+        dialog.setDirectory(preset.dir());
+    } else if (QFileInfo(request.folder).isDir()) {
+        dialog.setDirectory(request.folder);
+    }
+    if (!request.filterText.isEmpty()) {
+        dialog.setNameFilter(u"%1 (%2)"_s.arg(request.filterText.section(u" ("_s, 0, 0), request.filterPattern));
+    }
+    dialog.setDefaultSuffix(request.suffix);
+    if (!request.fileName.isEmpty()) dialog.selectFile(preset.fileName());
+    return runFileDialog(dialog);
+}
+
+QString Dialogs::runFileDialog(QFileDialog& dialog) {
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString Dialogs::inputBox(const QString& prompt, const QString& title, const QString& preset) {
+    QInputDialog dialog(QApplication::activeWindow());
+    dialog.setObjectName(u"InputBox"_s);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(preset);
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+}  // namespace platform

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+
+class QKeyEvent;
+class QMouseEvent;
+
+namespace platform {
+
+class Control;
+class Desktop;
+class Form;
+
+/// Watches all input of the program for two rules of its forms: a form sees keys before its controls, and a control is
+/// checked before it loses the focus to another control of the same form.
+///
+/// The mouse on a control that takes the focus, Tab and an accelerator lead away from a control; menus, toolbars, other
+/// forms and the host's panel don't. When the check holds the focus, what caused the move is dropped.
+class FocusGuard : public QObject {
+    Q_OBJECT
+
+public:
+    explicit FocusGuard(Desktop& desktop);
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    bool keyPressed(Form& form, QKeyEvent& event);
+    bool mousePressed(QObject* receiver, QMouseEvent& event);
+    bool accelerator(QObject* receiver);
+    /// True if the focus may go from the form's active control to the given one.
+    bool mayLeave(Form& form, const Control* target);
+
+    Desktop& desktop_;
+    bool dropRelease_ = false;
+    bool validating_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,63 @@
+#include "platform/forms/form.h"
+
+#include <QWidget>
+
+#include "platform/forms/control.h"
+#include "platform/forms/desktop.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+Form::Form(Desktop& desktop, QString name) : desktop_(desktop), name_(std::move(name)) {}
+
+Form::~Form() = default;
+
+void Form::setCaption(const QString& caption) {
+    caption_ = caption;
+    // "[*]" in a window title is the toolkit's own mark; doubled it stands for itself.
+    QString shown = caption;
+    window().setWindowTitle(shown.replace(u"[*]"_s, u"[*][*]"_s));
+}
+
+bool Form::agreesToClose() {
+    bool cancel = false;
+    Form_QueryUnload(cancel);
+    return !cancel;
+}
+
+bool Form::unload() {
+    if (!loaded_) return true;
+    if (!agreesToClose()) return false;
+    leave();
+    return true;
+}
+
+void Form::leave() {
+    if (!loaded_) return;
+    Form_Unload();
+    desktop_.retire(*this);
+}
+
+Form* Form::of(QWidget* widget) {
+    for (; widget; widget = widget->parentWidget()) {
+        if (auto* form = dynamic_cast<Form*>(widget)) return form;
+    }
+    return nullptr;
+}
+
+Control* Form::control(const QString& name) {
+    const auto widgets = window().findChildren<QWidget*>(name);
+    for (QWidget* widget : widgets) {
+        if (Form::of(widget) == this) return dynamic_cast<Control*>(widget);
+    }
+    return nullptr;
+}
+
+Control* Form::activeControl() { return Control::of(window().focusWidget()); }
+
+std::function<void()> Form::handler(std::function<void()> routine) {
+    return [this, routine = std::move(routine)] { desktop_.run(routine); };
+}
+
+}  // namespace platform

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+class QMenu;
+class QWidget;
+
+namespace platform {
+
+class Control;
+class Desktop;
+
+/// A window of the program: its name, its place in the collection of loaded forms, and its events.
+///
+/// A form lives from its load to its unload; the next load makes a fresh one, so no flag or kept value outlives a window.
+class Form {
+public:
+    Form(Desktop& desktop, QString name);
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    [[nodiscard]] Desktop& desktop() const { return desktop_; }
+    [[nodiscard]] const QString& name() const { return name_; }
+    [[nodiscard]] virtual QWidget& window() = 0;
+    [[nodiscard]] QString caption() const { return caption_; }
+    virtual void setCaption(const QString& caption);
+    [[nodiscard]] bool isLoaded() const { return loaded_; }
+
+    /// Brings the window up, not modal; a child comes to the front of the host.
+    virtual void show() = 0;
+    /// Asks the form and lets it go; false when it vetoed and stays.
+    bool unload();
+    /// The form's part of an unload that is decided already: no veto.
+    virtual void leave();
+    /// True if the form agrees to go; asks the user where there is something to lose.
+    [[nodiscard]] bool agreesToClose();
+
+    /// The form that a widget stands on; nullptr for none.
+    [[nodiscard]] static Form* of(QWidget* widget);
+    /// A control by name; nullptr if the form has none of that name.
+    [[nodiscard]] Control* control(const QString& name);
+    /// The control that has the form's focus; nullptr if none has.
+    [[nodiscard]] Control* activeControl();
+    /// The menus that stand in the host's bar while this form is the active one.
+    [[nodiscard]] const std::vector<QMenu*>& menus() const { return menus_; }
+
+    /// The form sees keys before its controls do.
+    [[nodiscard]] virtual bool keyPreview() const { return false; }
+
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_KeyDown(int /*keyCode*/, int /*shift*/) {}
+    virtual void Form_KeyPress(int /*keyAscii*/) {}
+    virtual void Form_KeyUp(int /*keyCode*/, int /*shift*/) {}
+    virtual void Form_QueryUnload(bool& /*cancel*/) {}
+    virtual void Form_Unload() {}
+
+protected:
+    /// A handler for an event of one of the form's controls; a failure in it that no routine handled is shown, not thrown.
+    [[nodiscard]] std::function<void()> handler(std::function<void()> routine);
+    void addMenu(QMenu* menu) { menus_.push_back(menu); }
+
+private:
+    friend class Desktop;
+
+    Desktop& desktop_;
+    QString name_;
+    QString caption_;
+    std::vector<QMenu*> menus_;
+    bool loaded_ = false;
+};
+
+}  // namespace platform

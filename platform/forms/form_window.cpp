@@ -1,0 +1,57 @@
+#include "platform/forms/form_window.h"
+
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+
+#include "platform/forms/desktop.h"
+#include "platform/forms/mdi_frame.h"
+
+namespace platform {
+
+FormWindow::FormWindow(Desktop& desktop, const QString& name, Kind kind) : Form(desktop, name), kind_(kind) {
+    setObjectName(name);
+    if (kind == Kind::Dialog) setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+}
+
+FormWindow::~FormWindow() = default;
+
+void FormWindow::show() {
+    if (kind_ != Kind::Child) {
+        QWidget::show();
+        raise();
+        activateWindow();
+        return;
+    }
+    if (!frame_) frame_ = desktop().host()->addChild(*this);
+    desktop().host()->bringToFront(*frame_);
+}
+
+void FormWindow::showModal() {
+    setWindowModality(Qt::ApplicationModal);
+    QWidget::show();
+    activateWindow();
+    QEventLoop loop;
+    modalLoop_ = &loop;
+    loop.exec();
+    modalLoop_ = nullptr;
+}
+
+void FormWindow::leave() {
+    if (!isLoaded()) return;
+    Form::leave();
+    // The frame takes this window along when it is destroyed, which is after the running event.
+    if (frame_) desktop().host()->removeChild(*frame_);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    if (!isLoaded()) return;
+    event->ignore();
+    desktop().run([this] { unload(); });
+}
+
+void FormWindow::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (modalLoop_ && !event->spontaneous()) modalLoop_->quit();
+}
+
+}  // namespace platform

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/forms/form.h"
+
+class QMdiSubWindow;
+
+namespace platform {
+
+/// A form that is a child of the host, a window of its own, or a modal dialog.
+class FormWindow : public QWidget, public Form {
+    Q_OBJECT
+
+public:
+    enum class Kind { Child, Window, Dialog };
+
+    FormWindow(Desktop& desktop, const QString& name, Kind kind);
+    ~FormWindow() override;
+
+    [[nodiscard]] QWidget& window() override { return *this; }
+    [[nodiscard]] Kind kind() const { return kind_; }
+    void show() override;
+    /// Shows the form and returns when it is hidden or unloaded.
+    void showModal();
+    void leave() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    Kind kind_;
+    QPointer<QMdiSubWindow> frame_;
+    QEventLoop* modalLoop_ = nullptr;
+};
+
+}  // namespace platform

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "platform/forms/text_control.h"
+
+namespace platform {
+
+/// A text box of many lines with a vertical scroll bar. Line ends in its text are CR LF; Tab leaves the box.
+class MemoBox : public QPlainTextEdit, public TextControl {
+    Q_OBJECT
+
+public:
+    explicit MemoBox(QWidget* parent = nullptr);
+
+    [[nodiscard]] QWidget& widget() override { return *this; }
+    [[nodiscard]] QString text() const override;
+    void setText(const QString& text) override;
+    [[nodiscard]] bool isLocked() const override { return isReadOnly(); }
+    void setLocked(bool locked) override;
+    [[nodiscard]] int maxLength() const override { return limit_; }
+    void setMaxLength(int characters) override { limit_ = characters; }
+    [[nodiscard]] int selStart() const override;
+    [[nodiscard]] int selLength() const override;
+    void select(int start, int length) override;
+    [[nodiscard]] QString selText() const override;
+    void setSelText(const QString& text) override;
+    using TextControl::selectAll;
+
+private:
+    /// Position in the text with its two-character line ends, of a position in the document, and back.
+    [[nodiscard]] int toText(int documentPosition) const;
+    [[nodiscard]] int toDocument(int textPosition) const;
+
+    int limit_ = 0;
+};
+
+}  // namespace platform

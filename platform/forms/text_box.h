@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform/forms/text_control.h"
+
+namespace platform {
+
+/// A text box of one line.
+class TextBox : public QLineEdit, public TextControl {
+    Q_OBJECT
+
+public:
+    explicit TextBox(QWidget* parent = nullptr);
+
+    [[nodiscard]] QWidget& widget() override { return *this; }
+    [[nodiscard]] QString text() const override { return QLineEdit::text(); }
+    void setText(const QString& text) override;
+    [[nodiscard]] bool isLocked() const override { return isReadOnly(); }
+    void setLocked(bool locked) override { setReadOnly(locked); }
+    [[nodiscard]] int maxLength() const override { return limit_; }
+    void setMaxLength(int characters) override;
+    [[nodiscard]] int selStart() const override;
+    [[nodiscard]] int selLength() const override { return selectionLength(); }
+    void select(int start, int length) override;
+    [[nodiscard]] QString selText() const override { return selectedText(); }
+    void setSelText(const QString& text) override;
+    using TextControl::selectAll;
+
+private:
+    int limit_ = 0;
+};
+
+}  // namespace platform

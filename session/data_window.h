@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/forms/form_window.h"
+
+namespace session {
+
+struct Session;
+class Workspace;
+
+/// A window with the family's data, a child of the host.
+class DataWindow : public platform::FormWindow {
+    Q_OBJECT
+
+public:
+    DataWindow(platform::Desktop& desktop, Session& session, Workspace& workspace, const QString& name);
+
+    /// The window holds unsaved changes. The host reads it before it lets the user leave.
+    bool bChange = false;
+
+    void Form_QueryUnload(bool& cancel) override;
+
+protected:
+    [[nodiscard]] Session& session() const { return session_; }
+    [[nodiscard]] Workspace& workspace() const { return workspace_; }
+
+private:
+    Session& session_;
+    Workspace& workspace_;
+};
+
+}  // namespace session

@@ -1,0 +1,62 @@
+#include "session/definition_file.h"
+
+#include <array>
+
+#include "data/cipher.h"
+#include "platform/base/conversions.h"
+#include "platform/base/files.h"
+
+using namespace Qt::StringLiterals;
+
+namespace session {
+
+namespace {
+
+struct Key {
+    QLatin1StringView text;
+    QString Definition::*value;
+};
+
+constexpr std::array<Key, 14> keys{{
+    {"CompanyName="_L1, &Definition::gsCompanyName},
+    {"NameFontSize="_L1, &Definition::gsNameFontSize},
+    {"ProductName="_L1, &Definition::gsProductName},
+    {"Version="_L1, &Definition::gsVersion},
+    {"Copyright="_L1, &Definition::gsCopyright},
+    {"Company="_L1, &Definition::gsCompany},
+    {"Slogan="_L1, &Definition::gsSlogan},
+    {"Address="_L1, &Definition::gsAddress},
+    {"City="_L1, &Definition::gsCity},
+    {"State="_L1, &Definition::gsState},
+    {"Zip="_L1, &Definition::gsZip},
+    {"Phone="_L1, &Definition::gsPhone},
+    {"SupportPhone="_L1, &Definition::gsSupportPhone},
+    {"Value="_L1, &Definition::gsMainPassword},
+}};
+
+constexpr auto splashKey = "Splash="_L1;
+
+bool readLine(Definition& definition, const QString& line) {
+    for (const Key& key : keys) {
+        if (!line.startsWith(key.text)) continue;
+        definition.*key.value = line.mid(key.text.size());
+        return true;
+    }
+    if (!line.startsWith(splashKey)) return false;
+    definition.giSplashSeconds = platform::toInteger(platform::val(line.mid(splashKey.size())));
+    return true;
+}
+
+}  // namespace
+
+std::optional<Definition> readDefinition(const QString& path) {
+    Definition definition;
+    const QStringList lines = platform::files::readLines(path);
+    for (const QString& line : lines) {
+        if (!readLine(definition, line)) return std::nullopt;
+    }
+    definition.gsMainPassword = data::cipher(definition.gsMainPassword);
+    return definition;
+}
+
+}  // namespace session

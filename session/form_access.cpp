@@ -1,0 +1,24 @@
+#include "session/form_access.h"
+
+#include <QWidget>
+
+#include "platform/forms/check_box.h"
+#include "platform/forms/form.h"
+#include "platform/forms/text_control.h"
+
+using namespace Qt::StringLiterals;
+
+namespace session {
+
+void setFormAccess(platform::Form& form, bool canEdit) {
+    const auto widgets = form.window().findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (auto* text = dynamic_cast<platform::TextControl*>(widget)) {
+            if (widget->objectName().startsWith(u"txtFields("_s)) text->setLocked(!canEdit);
+        } else if (widget->objectName().startsWith(u"chkFields("_s)) {
+            widget->setEnabled(canEdit);
+        }
+    }
+}
+
+}  // namespace session

@@ -1,0 +1,46 @@
+#include "session/refusals.h"
+
+#include "platform/forms/desktop.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace session {
+
+bool closeConfirm(platform::Desktop& desktop, const Session& session, bool& bChange) {
+    if (!bChange || !session.gbCanEdit) return true;
+    const bool closes = desktop.ask(
+        u"Your changes or additions will not be saved unless you \r\n"
+        "click the Edit button and then the Save button before \r\n"
+        "closing this window.\r\n\r\n"
+        "Do you want to close this window?"_s,
+        u"Close Confirmation"_s);
+    if (closes) bChange = false;
+    return closes;
+}
+
+void showScreenChanges(platform::Desktop& desktop) {
+    desktop.notice(
+        u"Changes have been made to this screen.  \r\n"
+        "You must click on Edit and then either Cancel \r\n"
+        "or Save before you leave this screen."_s,
+        u"Screen Changes"_s, platform::Icon::Information);
+}
+
+void showInvalidLogin(platform::Desktop& desktop) {
+    desktop.notice(
+        u"You cannot add, edit, or delete information because you have not logged in with the proper password.\r\n\r\n"
+        "You must go to the Security category and select Login to log in properly."_s,
+        u"Invalid Login"_s, platform::Icon::Information);
+}
+
+void showNoDataNoLogin(platform::Desktop& desktop) {
+    desktop.notice(
+        u"This screen cannot be accessed because it does not contain any data.  You cannot add, edit, or delete "
+        "information because you have not logged in with the proper password.  Because of this, you are not allowed "
+        "access to this screen.\r\n\r\n"
+        "You must go to the Security category and select Login to log in properly."_s,
+        u"Invalid Login"_s, platform::Icon::Information);
+}
+
+}  // namespace session

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace platform {
+class Desktop;
+}
+
+namespace session {
+
+struct Session;
+
+/// Asks whether a window with changes may close. True at once, with the flag as it is, when there are none or when the
+/// session may not save any; Yes clears the flag.
+[[nodiscard]] bool closeConfirm(platform::Desktop& desktop, const Session& session, bool& bChange);
+
+/// The window holds changes and can't be left before they are saved or dropped.
+void showScreenChanges(platform::Desktop& desktop);
+/// A read-only session wants to change something.
+void showInvalidLogin(platform::Desktop& desktop);
+/// A read-only session wants to see a category that holds nothing.
+void showNoDataNoLogin(platform::Desktop& desktop);
+
+}  // namespace session

@@ -1,0 +1,9 @@
+#include "session/session.h"
+
+#include "platform/base/files.h"
+
+namespace session {
+
+QString Session::path(const QString& name) const { return platform::files::join(applicationFolder, name); }
+
+}  // namespace session
