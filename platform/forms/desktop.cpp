@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QThread>
+#include <QWidget>
 #include <algorithm>
 
 #include "platform/base/runtime_error.h"
