@@ -107,7 +107,7 @@ bool Kinbook::restoreMissingDatabase() {
                                         .filterPattern = u"*.mdb"_s,
                                         .title = u"Database to Restore"_s};
     // The dialog belongs to the splash window, which is loaded again for it but not shown.
-    splash();
+    [[maybe_unused]] const SplashWindow& holder = splash();
     const QString chosen = desktop_->dialogs().fileDialog(request);
     session_->gsDatabasePath = chosen;
     session_->gsDatabaseName = platform::files::nameOf(chosen);

@@ -30,7 +30,7 @@ void loadPicture(QLabel& label, const QString& path, int size) {
     label.show();
 }
 
-void setFont(QLabel& label, int points, bool bold) {
+void setLabelFont(QLabel& label, int points, bool bold) {
     QFont font = label.font();
     font.setPointSize(points);
     font.setBold(bold);
@@ -88,11 +88,11 @@ void SplashWindow::setCaptions(const session::Session& session) {
     lblCopyright->setText(words.gsCopyright);
     lblCompany->setText(words.gsCompany);
     lblTM->setText(u"\u2122"_s);
-    setFont(*lblProductName, 30, true);
-    setFont(*lblVersion, 12, true);
+    setLabelFont(*lblProductName, 30, true);
+    setLabelFont(*lblVersion, 12, true);
 
     const int nameSize = qBound(1, static_cast<int>(platform::val(words.gsNameFontSize)), 96);
-    setFont(*lblCompanyName, nameSize, true);
+    setLabelFont(*lblCompanyName, nameSize, true);
     // A full logo carries the name already.
     if (!imgFullLogo->isHidden()) return;
     lblCompanyName->setText(words.gsCompanyName);
