@@ -83,6 +83,14 @@ bool Desktop::attempt(const QString& title, const std::function<void()>& routine
 
 void Desktop::run(const std::function<void()>& handler) { attempt(programTitle(), handler); }
 
+void Desktop::passOver(const std::function<void()>& step) {
+    try {
+        step();
+    } catch (const RuntimeError&) {
+        return;
+    }
+}
+
 void Desktop::setPointer(Pointer pointer) {
     if (pointer == pointer_) return;
     pointer_ = pointer;

@@ -59,6 +59,9 @@ public:
     /// Runs what an event set off; a failure that no routine handled is shown under the program's own title.
     void run(const std::function<void()>& handler);
 
+    /// Runs a step whose failure doesn't matter to the ones behind it.
+    static void passOver(const std::function<void()>& step);
+
     void setPointer(Pointer pointer);
     [[nodiscard]] Pointer pointer() const { return pointer_; }
     void beep();

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QLatin1StringView>
+#include <span>
+
+namespace data {
+
+/// What a column holds. Whole is a number to count or to refer with, Number one to reckon with.
+enum class FieldKind { Text, LongText, Number, Whole, Date, YesNo };
+
+/// Where a window shows a column: in a box of its kind, in a combo of the state names or of the marital status, or in
+/// none.
+enum class ShownIn { Box, StateCombo, StatusCombo, Nowhere };
+
+/// What a column holds in a new row that doesn't set it. A yes/no column is always no.
+enum class Initially { Null, Zero };
+
+/// One field of a window and the column behind it. A window numbers its boxes in the order of the definitions, text
+/// boxes first, then check boxes.
+struct Column {
+    QLatin1StringView name{};  ///< empty: shown only, nothing stores it
+    QLatin1StringView label{};
+    FieldKind kind = FieldKind::Text;
+    int maxLength = 0;  ///< characters, 0 for no limit
+    /// How the value is shown, never what is stored. Some text columns carry a number format: it doesn't touch text.
+    QLatin1StringView format{};
+    QLatin1StringView hint{};
+    ShownIn shownIn = ShownIn::Box;
+    Initially initially = Initially::Null;
+
+    [[nodiscard]] constexpr bool isStored() const { return !name.isEmpty(); }
+    [[nodiscard]] constexpr bool isState() const { return shownIn == ShownIn::StateCombo; }
+};
+
+/// Which key columns a table has before its others: none, the counter ID, ID with PersonID, ID with PersonID and
+/// MedicalID (the doctor), or ID with TypeID and ParentID (the kind of site, and the row of that kind). A key that the
+/// columns list themselves stands where they list it.
+enum class Keys { None, Counter, Owner, OwnerAndDoctor, Parent };
+
+struct Table {
+    QLatin1StringView name{};
+    QLatin1StringView caption{};
+    Keys keys = Keys::Counter;
+    std::span<const Column> columns{};
+};
+
+}  // namespace data

@@ -1,0 +1,92 @@
+#include "platform/forms/tree_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "platform/base/runtime_error.h"
+
+namespace platform {
+
+namespace {
+constexpr int indexRole = Qt::UserRole;
+}
+
+TreeView::TreeView(QWidget* parent) : QTreeWidget(parent) {
+    setHeaderHidden(true);
+    setColumnCount(1);
+    setIconSize({16, 16});
+    setUniformRowHeights(true);
+    setExpandsOnDoubleClick(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header()->setStretchLastSection(false);
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        if (clicked_) clicked_(indexOf(item));
+    });
+    const auto toggle = [this] {
+        if (toggled_) toggled_();
+    };
+    connect(this, &QTreeWidget::itemExpanded, this, toggle);
+    connect(this, &QTreeWidget::itemCollapsed, this, toggle);
+}
+
+int TreeView::addNode(const QString& parentKey, const QString& key, const QString& text) {
+    const int parent = parentKey.isEmpty() ? 0 : indexOf(parentKey);
+    if (!parentKey.isEmpty() && parent == 0) throw RuntimeError(35601);
+    auto* item = parent == 0 ? new QTreeWidgetItem(this) : new QTreeWidgetItem(at(parent).item);
+    nodes_.push_back({key, item});
+    item->setText(0, text);
+    item->setData(0, indexRole, nodeCount());
+    return nodeCount();
+}
+
+int TreeView::indexOf(const QString& key) const {
+    const auto found = std::ranges::find(nodes_, key, &Node::key);
+    return found == nodes_.end() ? 0 : static_cast<int>(found - nodes_.begin()) + 1;
+}
+
+void TreeView::expandNode(int index) { at(index).item->setExpanded(true); }
+
+void TreeView::setImage(int index, int image) {
+    Node& node = nodes_.at(static_cast<std::size_t>(index - 1));
+    if (node.image == image) return;
+    node.image = image;
+    node.item->setIcon(0, image == 0 ? QIcon() : images_.at(static_cast<std::size_t>(image - 1)));
+}
+
+void TreeView::setImages(std::vector<QIcon> images) {
+    images_ = std::move(images);
+    for (const Node& node : nodes_) {
+        if (node.image > 0) node.item->setIcon(0, images_.at(static_cast<std::size_t>(node.image - 1)));
+    }
+}
+
+int TreeView::parentIndex(int index) const { return indexOf(at(index).item->parent()); }
+
+int TreeView::firstChild(int index) const { return indexOf(at(index).item->child(0)); }
+
+int TreeView::lastSibling(int index) const {
+    const QTreeWidgetItem* parent = at(index).item->parent();
+    return parent ? indexOf(parent->child(parent->childCount() - 1)) : index;
+}
+
+int TreeView::previous(int index) const {
+    QTreeWidgetItem* item = at(index).item;
+    const QTreeWidgetItem* parent = item->parent();
+    return parent ? indexOf(parent->child(parent->indexOfChild(item) - 1)) : 0;
+}
+
+void TreeView::keyPressEvent(QKeyEvent* event) {
+    const QTreeWidgetItem* before = currentItem();
+    QTreeWidget::keyPressEvent(event);
+    if (currentItem() && currentItem() != before && clicked_) clicked_(indexOf(currentItem()));
+}
+
+const TreeView::Node& TreeView::at(int index) const {
+    if (index < 1 || index > nodeCount()) throw RuntimeError(35600, QStringLiteral("Index out of bounds"));
+    return nodes_[static_cast<std::size_t>(index - 1)];
+}
+
+int TreeView::indexOf(const QTreeWidgetItem* item) const { return item ? item->data(0, indexRole).toInt() : 0; }
+
+}  // namespace platform

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <functional>
+#include <vector>
+
+#include "platform/forms/control.h"
+
+namespace platform {
+
+/// A tree whose nodes count from 1 in order of creation and are known by key.
+class TreeView : public QTreeWidget, public Control {
+    Q_OBJECT
+
+public:
+    explicit TreeView(QWidget* parent = nullptr);
+
+    [[nodiscard]] QWidget& widget() override { return *this; }
+
+    /// Adds a node at the end of its parent's children; an empty parent key adds the root. Returns its index.
+    /// Throws RuntimeError 35601 for an unknown parent.
+    int addNode(const QString& parentKey, const QString& key, const QString& text);
+    [[nodiscard]] int nodeCount() const { return static_cast<int>(nodes_.size()); }
+    /// Index of the node with the key; 0 if there is none.
+    [[nodiscard]] int indexOf(const QString& key) const;
+    [[nodiscard]] QString key(int index) const { return at(index).key; }
+    [[nodiscard]] QString text(int index) const { return at(index).item->text(0); }
+    [[nodiscard]] QTreeWidgetItem* node(int index) const { return at(index).item; }
+    [[nodiscard]] bool selected(int index) const { return at(index).item->isSelected(); }
+    [[nodiscard]] bool expanded(int index) const { return at(index).item->isExpanded(); }
+    void expandNode(int index);
+
+    /// Picture of a node, counted from 1 in the list of pictures; 0 for none.
+    [[nodiscard]] int image(int index) const { return at(index).image; }
+    void setImage(int index, int image);
+    void setImages(std::vector<QIcon> images);
+
+    // A node's place, each as an index; 0 where there is none.
+    [[nodiscard]] int parentIndex(int index) const;
+    [[nodiscard]] int firstChild(int index) const;
+    [[nodiscard]] int lastSibling(int index) const;
+    [[nodiscard]] int previous(int index) const;
+
+    /// The user clicked a node's text or picture, or moved the selection to it by the keyboard.
+    void onNodeClick(std::function<void(int index)> handler) { clicked_ = std::move(handler); }
+    /// A branch was opened or closed.
+    void onToggle(std::function<void()> handler) { toggled_ = std::move(handler); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Node {
+        QString key;
+        QTreeWidgetItem* item;
+        int image = 0;
+    };
+    [[nodiscard]] const Node& at(int index) const;
+    [[nodiscard]] int indexOf(const QTreeWidgetItem* item) const;
+
+    std::vector<Node> nodes_;
+    std::vector<QIcon> images_;
+    std::function<void(int)> clicked_;
+    std::function<void()> toggled_;
+};
+
+}  // namespace platform

@@ -1,0 +1,217 @@
+#include "screens/person_screen.h"
+
+#include "data/person_deletion.h"
+#include "platform/forms/check_box.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/key_codes.h"
+#include "platform/forms/text_control.h"
+#include "screens/catalogue/person_entry.h"
+#include "screens/person_ids.h"
+#include "session/form_access.h"
+#include "session/session.h"
+#include "session/workspace.h"
+
+using namespace Qt::StringLiterals;
+
+namespace screens {
+
+namespace {
+constexpr int nameBox = 0;
+constexpr int sexBox = 2;
+constexpr int socialSecurityBox = 7;
+constexpr int socialSecurityLength = 11;
+}  // namespace
+
+PersonScreen::PersonScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace)
+    : RecordScreen(desktop, session, workspace, personEntry()) {}
+
+QString PersonScreen::legalName() const { return boxes().text(nameBox).text(); }
+
+// Load -------------------------------------------------------------------------------------------------------------
+
+QString PersonScreen::selectStatement() {
+    if (!session().gbWholeFamily) return u"select * from Person WHERE ID = "_s + QString::number(session().gPersonID);
+    session().gPersonID = getFirstPersonID(session().gConnection);
+    return u"select * from Person Order by Seq, ID"_s;
+}
+
+void PersonScreen::Form_Load() {
+    desktop().attempt(u"Form Load Error"_s, [this] {
+        openRows(selectStatement());
+        bindBoxes();
+        fillStateCombos();
+        showStateCombos();
+        setCaption(session().gbWholeFamily ? definition().title + u" for Whole Family"_s
+                                           : definition().title + u" -- "_s + session().gsPersonName);
+        setAttachKey();
+        setButtons(true);
+        if ((rows().bof() && rows().eof()) || session().gbAddMember) {
+            session().gbAddMember = false;
+            if (workspace().selectedName().isEmpty()) workspace().setSelectedName(u"Whole Family"_s);
+            bChange = false;
+            cmdAdd_Click();
+        }
+        // Also behind an add that began here, unlike one that the button began.
+        workspace().enableTree(true);
+        session::setFormAccess(*this, session().gbCanEdit);
+    });
+}
+
+// Add and save -----------------------------------------------------------------------------------------------------
+
+void PersonScreen::beginAdd() {
+    workspace().enableTree(false);
+    RecordScreen::beginAdd();
+    // While the screen loads nothing can take the focus; it falls on the name box when the window comes up.
+    if (boxes().text(nameBox).widget().isVisible()) boxes().text(nameBox).widget().setFocus();
+}
+
+bool PersonScreen::readyToSave() {
+    if (legalName().isEmpty()) {
+        desktop().notice(
+            u"No legal name has been entered.  We cannot add a family member without a name.  Just enter the name in "
+            "the Legal Name box and click the Save button and we can press on."_s,
+            u"No Legal Name"_s, platform::Icon::Information);
+        return false;
+    }
+    workspace().enableTree(true);
+    return true;
+}
+
+bool PersonScreen::finishAdd() {
+    rows().moveLast();
+    workspace().appendName(rows().value(u"LegalName"_s).toString());
+    workspace().endFirstRun();
+    boxes().bindCombos(&rows());
+    rows().requery();
+    bChange = false;
+    return true;
+}
+
+void PersonScreen::finishSave() { workspace().refreshTree(); }
+
+// Delete -----------------------------------------------------------------------------------------------------------
+
+QString PersonScreen::deleteQuestion() { return u"Are you sure you want to delete "_s + legalName() + u"?"_s; }
+
+void PersonScreen::deleteRecord() {
+    // The member of the session goes, who after moves need not be the one on screen.
+    data::deleteFromAllTables(session().gConnection, u"PersonID"_s, session().gPersonID);
+    const QString name = legalName();
+    deleteCurrentRow();
+    workspace().removeName(name);
+}
+
+// Moves ------------------------------------------------------------------------------------------------------------
+
+void PersonScreen::setPerson(qint16 id) {
+    session().gPersonID = id;
+}
+
+void PersonScreen::goFirst() {
+    rows().moveFirst();
+    setPerson(getFirstPersonID(session().gConnection));
+    setAttachKey();
+}
+
+void PersonScreen::goLast() {
+    rows().moveLast();
+    setPerson(getLastPersonID(session().gConnection));
+    setAttachKey();
+}
+
+void PersonScreen::goNext() {
+    if (!rows().eof()) {
+        rows().moveNext();
+        setPerson(getNextPersonID(session().gConnection, session().gPersonID));
+    }
+    if (rows().eof() && rows().recordCount() > 0) {
+        desktop().beep();
+        setLastRecord();
+        rows().moveLast();
+        setPerson(getLastPersonID(session().gConnection));
+    }
+    setAttachKey();
+}
+
+void PersonScreen::goPrevious() {
+    if (!rows().bof()) {
+        rows().movePrevious();
+        setPerson(getPrevPersonID(session().gConnection, session().gPersonID));
+    }
+    if (rows().bof() && rows().recordCount() > 0) {
+        desktop().beep();
+        rows().moveFirst();
+        setPerson(getFirstPersonID(session().gConnection));
+    }
+    setAttachKey();
+}
+
+QString PersonScreen::moveCompleteTitle() const { return u"Move Complete Error"_s; }
+
+// Close ------------------------------------------------------------------------------------------------------------
+
+void PersonScreen::cmdClose_Click() {
+    if (!confirmsClosing()) return;
+    workspace().enableTree(true);
+    desktop().unloadAll([](const platform::Form& form) { return form.name() != u"MDIHost"_s; });
+    workspace().clearSelection();
+}
+
+// Checks and aids --------------------------------------------------------------------------------------------------
+
+bool PersonScreen::validates(int box) {
+    bool valid = true;
+    desktop().attempt(u"txtFieldsValidate Error"_s, [&] {
+        if (box == sexBox) {
+            valid = sexIsValid();
+        } else if (box == socialSecurityBox) {
+            valid = socialSecurityIsValid();
+        } else {
+            valid = RecordScreen::validates(box);
+        }
+    });
+    return valid;
+}
+
+bool PersonScreen::sexIsValid() {
+    platform::TextControl& box = boxes().text(sexBox);
+    const QString sex = box.text();
+    if (sex == u"m"_s) box.setText(u"M"_s);
+    if (sex == u"f"_s) box.setText(u"F"_s);
+    if (box.text() == u"M"_s || box.text() == u"F"_s) return true;
+    desktop().notice(u"Invalid entry in the Sex field."_s, u"Invalid Entry"_s, platform::Icon::Information);
+    box.selectAll();
+    return false;
+}
+
+bool PersonScreen::socialSecurityIsValid() {
+    platform::TextControl& box = boxes().text(socialSecurityBox);
+    if (box.text().isEmpty() || box.text().size() == socialSecurityLength) return true;
+    desktop().notice(
+        u"The %1 field has an error in it.  Check to see that all the numbers are there in the proper grouping and "
+        "that there are no spaces between a hyphen and a number or between numbers within a group.\r\n\r\n"
+        "Before you Save or Cancel, you must enter the social security number correctly or delete the invalid entry."_s
+            .arg(boxes().label(socialSecurityBox)),
+        u"Invalid Social Security Number"_s, platform::Icon::Information);
+    box.selectAll();
+    return false;
+}
+
+void PersonScreen::Form_KeyUp(int keyCode, int /*shift*/) {
+    platform::TextControl& box = boxes().text(socialSecurityBox);
+    if (activeControl() != &box || keyCode == platform::key::del || keyCode == platform::key::backspace) return;
+    desktop().attempt(u"txtFields_KeyUp Error"_s, [&] {
+        const qsizetype length = box.text().size();
+        if (length != 3 && length != 6) return;
+        box.setText(box.text() + u'-');
+        box.select(static_cast<int>(length) + 1, 0);
+    });
+}
+
+void PersonScreen::setAttachKey() {
+    session().gvAttachKey = definition().attachmentPrefix + QString::number(session().gPersonID) + u"_0"_s;
+    setNumAttachments();
+}
+
+}  // namespace screens

@@ -1,0 +1,91 @@
+#include "screens/record_buttons.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "platform/forms/command_button.h"
+#include "platform/forms/icons.h"
+
+using namespace Qt::StringLiterals;
+
+namespace screens {
+
+namespace {
+
+platform::CommandButton* button(QWidget& row, const QString& name, const QString& caption,
+                                const std::function<void()>& action) {
+    auto* made = new platform::CommandButton(&row);
+    made->setName(name);
+    made->setText(caption);
+    made->onClick(action);
+    row.layout()->addWidget(made);
+    return made;
+}
+
+platform::CommandButton* moveButton(QWidget& row, const QString& name, const QString& icon, const QString& hint,
+                                    const std::function<void()>& action) {
+    auto* made = button(row, name, QString(), action);
+    made->setIcon(platform::themeIcon(icon));
+    made->setToolTip(hint);
+    made->setAccessibleName(hint);
+    made->setFixedWidth(made->sizeHint().height() + 8);
+    return made;
+}
+
+QWidget* row(QWidget& form, QVBoxLayout& column, const QString& name) {
+    auto* made = new QWidget(&form);
+    made->setObjectName(name);
+    auto* layout = new QHBoxLayout(made);
+    layout->setContentsMargins(0, 0, 0, 0);
+    column.addWidget(made);
+    return made;
+}
+
+}  // namespace
+
+RecordButtons::RecordButtons(QWidget& form, QVBoxLayout& column, const QString& addCaption,
+                             const RecordActions& actions) {
+    makeMoveRow(form, column, actions);
+    makeActionRow(form, column, addCaption, actions);
+    showBrowsing(true);
+}
+
+void RecordButtons::makeMoveRow(QWidget& form, QVBoxLayout& column, const RecordActions& actions) {
+    QWidget* moves = row(form, column, u"picStatBox"_s);
+    first_ = moveButton(*moves, u"cmdFirst"_s, u"go-first"_s, u"First Record"_s, actions.first);
+    previous_ = moveButton(*moves, u"cmdPrevious"_s, u"go-previous"_s, u"Previous Record"_s, actions.previous);
+    status_ = new QLabel(moves);
+    status_->setObjectName(u"lblStatus"_s);
+    status_->setFrameShape(QFrame::StyledPanel);
+    status_->setIndent(6);
+    static_cast<QHBoxLayout*>(moves->layout())->addWidget(status_, 1);
+    next_ = moveButton(*moves, u"cmdNext"_s, u"go-next"_s, u"Next Record"_s, actions.next);
+    last_ = moveButton(*moves, u"cmdLast"_s, u"go-last"_s, u"Last Record"_s, actions.last);
+}
+
+void RecordButtons::makeActionRow(QWidget& form, QVBoxLayout& column, const QString& addCaption,
+                                  const RecordActions& actions) {
+    QWidget* buttons = row(form, column, u"picButtons"_s);
+    add_ = button(*buttons, u"cmdAdd"_s, addCaption, actions.add);
+    edit_ = button(*buttons, u"cmdEdit"_s, u"&Edit"_s, actions.edit);
+    update_ = button(*buttons, u"cmdUpdate"_s, u"&Save"_s, actions.update);
+    cancel_ = button(*buttons, u"cmdCancel"_s, u"&Cancel"_s, actions.cancel);
+    delete_ = button(*buttons, u"cmdDelete"_s, u"&Delete"_s, actions.remove);
+    static_cast<QHBoxLayout*>(buttons->layout())->addStretch(1);
+    close_ = button(*buttons, u"cmdClose"_s, u"C&lose"_s, actions.close);
+}
+
+void RecordButtons::showBrowsing(bool browsing) {
+    add_->setVisible(browsing);
+    edit_->setVisible(browsing);
+    update_->setVisible(!browsing);
+    cancel_->setVisible(!browsing);
+    delete_->setVisible(browsing);
+    close_->setVisible(browsing);
+}
+
+void RecordButtons::enableMoves(bool enabled) {
+    for (platform::CommandButton* move : {next_, first_, last_, previous_}) move->setEnabled(enabled);
+}
+
+}  // namespace screens

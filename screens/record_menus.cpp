@@ -1,0 +1,121 @@
+#include "screens/record_menus.h"
+
+#include <QAction>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QToolBar>
+
+#include "platform/forms/icons.h"
+#include "platform/forms/menus.h"
+
+using namespace Qt::StringLiterals;
+
+namespace screens {
+
+namespace {
+
+void entry(QMenu& menu, const QString& name, const QString& caption, const std::function<void()>& routine) {
+    QAction* made = platform::addEntry(menu, name, caption, routine ? routine : [] {});
+    made->setEnabled(static_cast<bool>(routine));
+}
+
+}  // namespace
+
+RecordMenus::RecordMenus(QWidget& form, const RecordCommands& commands) : toolbar_(new QToolBar(&form)) {
+    makeFileMenu(form, commands);
+    makeEditMenu(form, commands);
+    makeOptionsMenu(form, commands);
+    makeWindowMenu(form);
+    makeHelpMenu(form, commands);
+
+    toolbar_->setObjectName(u"Toolbar1"_s);
+    toolbar_->setIconSize({22, 22});
+    addKey("tbNew", "document-new", "New database", commands.newDatabase);
+    addKey("tbOpen", "document-open", "Restore database", commands.restore);
+    addKey("tbBackup", "document-save-as", "Backup database", commands.backup);
+    toolbar_->addSeparator();
+    addKey("tbCopy", "edit-copy", "Copy highlighted text", commands.copy);
+    addKey("tbCut", "edit-cut", "Cut highlighted text", commands.cut);
+    addKey("tbPaste", "edit-paste", "Paste highlighted text", commands.paste);
+    toolbar_->addSeparator();
+    addKey("tbPrint", "document-print", "Print screen", commands.print);
+    addKey("tbPrintAll", "document-print-preview", "Print all screens", commands.printAll);
+    toolbar_->addSeparator();
+    addKey("tbAttach", "mail-attachment", "View/save attachments", commands.attachments);
+    addKey("tbSave", "document-save", "SaveToFile", commands.save);
+    addKey("tbSaveAll", "document-save-all", commands.saveAllHint, commands.saveAll);
+}
+
+void RecordMenus::makeFileMenu(QWidget& form, const RecordCommands& commands) {
+    QMenu* menu = platform::makeMenu(form, u"mFile"_s, u"&File"_s);
+    entry(*menu, u"mNew"_s, u"New"_s, commands.newDatabase);
+    entry(*menu, u"mOpen"_s, u"Restore"_s, commands.restore);
+    entry(*menu, u"mBackup"_s, u"Backup"_s, commands.backup);
+    platform::addSeparator(*menu, u"Sep1"_s);
+    entry(*menu, u"mCoverPage"_s, u"Cover Page"_s, commands.coverPage);
+    platform::addSeparator(*menu, u"Sep4"_s);
+    entry(*menu, u"mExit"_s, u"Exit"_s, commands.exit);
+    menus_.push_back(menu);
+}
+
+void RecordMenus::makeEditMenu(QWidget& form, const RecordCommands& commands) {
+    QMenu* menu = platform::makeMenu(form, u"mEdit"_s, u"&Edit"_s);
+    entry(*menu, u"mCopy"_s, u"Copy"_s, commands.copy);
+    entry(*menu, u"mCut"_s, u"Cut"_s, commands.cut);
+    entry(*menu, u"mPaste"_s, u"Paste"_s, commands.paste);
+    menus_.push_back(menu);
+}
+
+void RecordMenus::makeOptionsMenu(QWidget& form, const RecordCommands& commands) {
+    QMenu* menu = platform::makeMenu(form, u"mOptions"_s, u"&Options"_s);
+    entry(*menu, u"mAttachments"_s, u"Attachments"_s, commands.attachments);
+    entry(*menu, u"mPrint"_s, u"Print"_s, commands.print);
+    entry(*menu, u"mPrintAll"_s, u"Print All"_s, commands.printAll);
+    entry(*menu, u"mSave"_s, u"Save To File"_s, commands.save);
+    entry(*menu, u"mSaveAll"_s, u"Save All To File"_s, commands.saveAll);
+    menus_.push_back(menu);
+}
+
+void RecordMenus::makeWindowMenu(QWidget& form) {
+    QMenu* menu = platform::makeMenu(form, u"mWindow"_s, u"&Window"_s);
+    // The list of open windows is made anew each time it is looked at.
+    QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, &form] {
+        menu->clear();
+        const auto* frame = qobject_cast<QMdiSubWindow*>(form.parentWidget());
+        QMdiArea* area = frame ? frame->mdiArea() : nullptr;
+        const auto frames = area ? area->subWindowList() : QList<QMdiSubWindow*>();
+        for (QMdiSubWindow* window : frames) {
+            QAction* line = menu->addAction(window->windowTitle().replace(u'&', u"&&"_s));
+            line->setCheckable(true);
+            line->setChecked(window == frame);
+            QObject::connect(line, &QAction::triggered, area, [area, window] { area->setActiveSubWindow(window); });
+        }
+    });
+    menus_.push_back(menu);
+}
+
+void RecordMenus::makeHelpMenu(QWidget& form, const RecordCommands& commands) {
+    QMenu* menu = platform::makeMenu(form, u"mnuHelp1"_s, u"&Help"_s);
+    entry(*menu, u"mnuHelp"_s, u"Contents and Index"_s, commands.help);
+    entry(*menu, u"mnuAbout"_s, u"About"_s, commands.about);
+    menus_.push_back(menu);
+}
+
+void RecordMenus::addKey(const char* key, const char* icon, const char* hint, const std::function<void()>& routine) {
+    QAction* made = toolbar_->addAction(platform::themeIcon(QLatin1StringView(icon)), QLatin1StringView(hint));
+    made->setObjectName(QLatin1StringView(key));
+    made->setEnabled(static_cast<bool>(routine));
+    if (routine) QObject::connect(made, &QAction::triggered, made, [routine] { routine(); });
+    // A key of the toolbar leaves the focus where it is.
+    toolbar_->widgetForAction(made)->setFocusPolicy(Qt::NoFocus);
+}
+
+void RecordMenus::enable(bool enabled) {
+    toolbar_->setEnabled(enabled);
+    for (QMenu* menu : menus_) {
+        if (menu->objectName() != u"mnuHelp1"_s) menu->menuAction()->setEnabled(enabled);
+    }
+}
+
+}  // namespace screens

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+class QAction;
+class QMenu;
+class QToolBar;
+class QWidget;
+
+namespace screens {
+
+/// What the menus and the toolbar of a record screen set off. An entry without a routine is there, but disabled.
+struct RecordCommands {
+    std::function<void()> newDatabase, restore, backup, coverPage, exit;
+    std::function<void()> copy, cut, paste;
+    std::function<void()> attachments, print, printAll, save, saveAll;
+    std::function<void()> help, about;
+    /// Tooltip of the toolbar's last key, which differs on the Person screen.
+    const char* saveAllHint = "Save all records to file";
+};
+
+/// The menus and the toolbar of a record screen; a key of the toolbar and its menu entry set off the same routine.
+class RecordMenus {
+public:
+    RecordMenus(QWidget& form, const RecordCommands& commands);
+
+    [[nodiscard]] const std::vector<QMenu*>& menus() const { return menus_; }
+    [[nodiscard]] QToolBar& toolbar() const { return *toolbar_; }
+    /// While a record is added or edited only the help menu can be used.
+    void enable(bool enabled);
+
+private:
+    void makeFileMenu(QWidget& form, const RecordCommands& commands);
+    void makeEditMenu(QWidget& form, const RecordCommands& commands);
+    void makeOptionsMenu(QWidget& form, const RecordCommands& commands);
+    void makeWindowMenu(QWidget& form);
+    void makeHelpMenu(QWidget& form, const RecordCommands& commands);
+    void addKey(const char* key, const char* icon, const char* hint, const std::function<void()>& routine);
+
+    std::vector<QMenu*> menus_;
+    QToolBar* toolbar_;
+};
+
+}  // namespace screens

@@ -1,0 +1,374 @@
+#include "screens/record_screen.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QScrollArea>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "platform/base/conversions.h"
+#include "platform/base/date_text.h"
+#include "platform/base/runtime_error.h"
+#include "platform/forms/check_box.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/command_button.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/key_codes.h"
+#include "platform/forms/text_control.h"
+#include "screens/field_checks.h"
+#include "screens/frame_layout.h"
+#include "session/refusals.h"
+#include "session/session.h"
+#include "session/workspace.h"
+
+using namespace Qt::StringLiterals;
+using platform::RuntimeError;
+
+namespace screens {
+
+RecordScreen::RecordScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+                           const ScreenDefinition& definition)
+    : DataWindow(desktop, session, workspace, definition.name), definition_(definition), boxes_(*this, definition) {
+    rsLookup_.setLockType(data::LockType::ReadOnly);
+    rsLookup_.setCursorLocation(data::CursorLocation::Server);
+    rsLookup_.setCursorType(data::CursorType::ForwardOnly);
+    connect(&rows_, &data::Recordset::moveComplete, this,
+            [this] { this->desktop().attempt(moveCompleteTitle(), [this] { showPosition(); }); });
+    menus_ = std::make_unique<RecordMenus>(*this, commands());
+    for (QMenu* menu : menus_->menus()) addMenu(menu);
+    layOut();
+    connectControls();
+}
+
+void RecordScreen::layOut() {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 6);
+    column->setSpacing(4);
+    column->addWidget(&menus_->toolbar());
+
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    auto* page = new QWidget;
+    auto* frames = new QVBoxLayout(page);
+    frames->setContentsMargins(9, 0, 9, 0);
+    lblAttachments_ = new QLabel(u"Attachments:  0"_s, page);
+    lblAttachments_->setObjectName(u"lblAttachments"_s);
+    layOutFrames(*page, *frames, definition_, boxes_, *lblAttachments_);
+    scroll->setWidget(page);
+    column->addWidget(scroll, 1);
+
+    auto* foot = new QVBoxLayout;
+    foot->setContentsMargins(9, 0, 9, 0);
+    column->addLayout(foot);
+    buttons_ = std::make_unique<RecordButtons>(*this, *foot, definition_.addCaption, actions());
+}
+
+RecordActions RecordScreen::actions() {
+    return {
+        .first = handler([this] { cmdFirst_Click(); }),
+        .previous = handler([this] { cmdPrevious_Click(); }),
+        .next = handler([this] { cmdNext_Click(); }),
+        .last = handler([this] { cmdLast_Click(); }),
+        .add = handler([this] { cmdAdd_Click(); }),
+        .edit = handler([this] { cmdEdit_Click(); }),
+        .update = handler([this] { cmdUpdate_Click(); }),
+        .cancel = handler([this] { cmdCancel_Click(); }),
+        .remove = handler([this] { cmdDelete_Click(); }),
+        .close = handler([this] { cmdClose_Click(); }),
+    };
+}
+
+RecordCommands RecordScreen::commands() {
+    RecordCommands commands;
+    commands.exit = handler([this] { workspace().exitProgram(); });
+    commands.copy = handler([this] { copySelection(false); });
+    commands.cut = handler([this] { copySelection(true); });
+    commands.paste = handler([this] { pasteSelection(); });
+    return commands;
+}
+
+void RecordScreen::connectControls() {
+    for (const auto& [index, text] : boxes_.texts()) {
+        text.box->setValidate([this, box = index] { return validates(box); });
+    }
+    for (const FieldBoxes::Check& check : boxes_.checks()) {
+        check.box->onClick([this] { bChange = true; });
+    }
+    for (const FieldBoxes::Combo& combo : boxes_.combos()) {
+        combo.box->onClick(handler([this] { cbFields_Click(); }));
+    }
+}
+
+// Load -------------------------------------------------------------------------------------------------------------
+
+void RecordScreen::openRows(const QString& statement) {
+    rows_.open(statement, session().gConnection, data::CursorType::Static, data::LockType::Optimistic);
+}
+
+void RecordScreen::bindBoxes() { boxes_.bind(&rows_); }
+
+void RecordScreen::fillStateCombos() {
+    lookUp(u"Select * from LUStates Order By Name"_s);
+    while (!rsLookup_.eof()) {
+        const QString name = rsLookup_.value(u"Name"_s).toString();
+        for (const FieldBoxes::Combo& combo : boxes_.combos()) combo.box->addItem(name);
+        rsLookup_.moveNext();
+    }
+    rsLookup_.close();
+}
+
+void RecordScreen::showStateCombos() {
+    if (rows_.eof()) {
+        for (const FieldBoxes::Combo& combo : boxes_.combos()) combo.box->setListIndex(0);
+    } else {
+        boxes_.bindCombos(&rows_);
+    }
+    boxes_.copyShadows();
+}
+
+// Add --------------------------------------------------------------------------------------------------------------
+
+void RecordScreen::pressAdd() { buttons_->add().press(); }
+
+void RecordScreen::cmdAdd_Click() {
+    desktop().attempt(u"Add Error"_s, [this] {
+        if (bChange) {
+            session::showScreenChanges(desktop());
+            return;
+        }
+        beginAdd();
+    });
+}
+
+void RecordScreen::beginAdd() {
+    boxes_.bindDates(&rows_);
+    if (!(rows_.bof() && rows_.eof())) vBookmark_ = rows_.bookmark();
+    rows_.addNew();
+    buttons_->status().setText(u"Add record"_s);
+    bAdding_ = true;
+    setButtons(false);
+    for (const FieldBoxes::Check& check : boxes_.checks()) check.box->setValue(0);
+    if (!boxes_.combos().empty()) boxes_.combos().front().box->setListIndex(0);
+    boxes_.bindDates(nullptr);
+    bChange = false;
+}
+
+// Edit -------------------------------------------------------------------------------------------------------------
+
+void RecordScreen::cmdEdit_Click() {
+    desktop().attempt(u"Edit Error"_s, [this] {
+        if (!session().gbCanEdit) {
+            session::showInvalidLogin(desktop());
+            return;
+        }
+        buttons_->status().setText(u"Edit record"_s);
+        bEditing_ = true;
+        setButtons(false);
+    });
+}
+
+// Save -------------------------------------------------------------------------------------------------------------
+
+void RecordScreen::cmdUpdate_Click() {
+    desktop().attempt(u"Update Error"_s, [this] {
+        if (!readyToSave()) return;
+        writeCombos();
+        writeDates();
+        rows_.updateBatch();
+        if (bAdding_) {
+            if (!finishAdd()) return;
+        } else if (bEditing_) {
+            showPosition();
+        }
+        bEditing_ = false;
+        bAdding_ = false;
+        setButtons(true);
+        boxes_.bindDates(nullptr);
+        finishSave();
+    });
+}
+
+void RecordScreen::writeCombos() {
+    for (const FieldBoxes::Combo& combo : boxes_.combos()) rows_.setValue(combo.column.column, combo.box->text());
+}
+
+void RecordScreen::writeDates() {
+    for (const DateColumn& date : definition_.dates) {
+        const FieldBoxes::Text& text = boxes_.texts().at(date.box);
+        // Binding shows what the row holds, so the typed text is kept first.
+        const QString typed = text.box->text();
+        text.binding->setSource(&rows_);
+        if (platform::isDate(typed)) {
+            rows_.setValue(date.column, typed);
+        } else if (typed.isEmpty()) {
+            rows_.setValue(date.column, QVariant());
+        }
+    }
+}
+
+// Cancel -----------------------------------------------------------------------------------------------------------
+
+void RecordScreen::cmdCancel_Click() {
+    workspace().enableTree(true);
+    setButtons(true);
+    bEditing_ = false;
+    bAdding_ = false;
+    boxes_.bindDates(&rows_);
+    // Goes to the record of the last add, or to the first one: not to the record that was being edited.
+    platform::Desktop::passOver([this] { rows_.cancelUpdate(); });
+    platform::Desktop::passOver([this] {
+        if (vBookmark_.value_or(0) > 0) {
+            rows_.setBookmark(*vBookmark_);
+        } else {
+            rows_.moveFirst();
+        }
+    });
+    finishCancel();
+    boxes_.bindDates(nullptr);
+    bChange = false;
+    if (rows_.recordCount() == 0) unload();
+}
+
+// Delete -----------------------------------------------------------------------------------------------------------
+
+void RecordScreen::cmdDelete_Click() {
+    desktop().attempt(u"Delete Error"_s, [this] {
+        if (!session().gbCanEdit) {
+            session::showInvalidLogin(desktop());
+            return;
+        }
+        if (!desktop().ask(deleteQuestion(), u"Delete Confirmation"_s)) return;
+        boxes_.bindDates(&rows_);
+        deleteRecord();
+        boxes_.bindDates(nullptr);
+        bChange = false;
+    });
+}
+
+void RecordScreen::deleteCurrentRow() {
+    rows_.deleteCurrent();
+    rows_.moveNext();
+    bChange = false;
+    if (rows_.eof()) rows_.moveLast();
+}
+
+// Moves ------------------------------------------------------------------------------------------------------------
+
+void RecordScreen::cmdFirst_Click() { move(u"Goto First Record Error"_s, &RecordScreen::goFirst); }
+
+void RecordScreen::cmdPrevious_Click() { move(u"Goto Previous Record Error"_s, &RecordScreen::goPrevious); }
+
+void RecordScreen::cmdNext_Click() { move(u"Goto Next Record Error"_s, &RecordScreen::goNext); }
+
+void RecordScreen::cmdLast_Click() { move(u"Goto Last Record Error"_s, &RecordScreen::goLast); }
+
+void RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)()) {
+    desktop().attempt(errorTitle, [this, step] {
+        if (bChange) {
+            session::showScreenChanges(desktop());
+            return;
+        }
+        boxes_.bindDates(&rows_);
+        (this->*step)();
+        // A move can change a bound check box, and its click raises the flag.
+        bChange = false;
+        boxes_.bindDates(nullptr);
+    });
+}
+
+void RecordScreen::showPosition() {
+    buttons_->status().setText(u"Record: %1 of %2"_s.arg(rows_.absolutePosition()).arg(rows_.recordCount()));
+}
+
+QString RecordScreen::moveCompleteTitle() const { return u"MoveComplete Error"_s; }
+
+// Close ------------------------------------------------------------------------------------------------------------
+
+void RecordScreen::cmdClose_Click() {
+    if (!confirmsClosing()) return;
+    workspace().enableTree(true);
+    unload();
+}
+
+bool RecordScreen::confirmsClosing() { return session::closeConfirm(desktop(), session(), bChange); }
+
+void RecordScreen::Form_Unload() { desktop().setPointer(platform::Pointer::Default); }
+
+// Keys -------------------------------------------------------------------------------------------------------------
+
+void RecordScreen::Form_KeyPress(int keyAscii) {
+    if (keyAscii != platform::key::enter && keyAscii != platform::key::tab) bChange = true;
+}
+
+void RecordScreen::Form_KeyDown(int keyCode, int shift) {
+    namespace key = platform::key;
+    if (bEditing_ || bAdding_) return;
+    switch (keyCode) {
+        case key::escape: cmdClose_Click(); break;
+        case key::end: cmdLast_Click(); break;
+        case key::home: cmdFirst_Click(); break;
+        case key::up:
+        case key::pageUp: shift == platform::ctrlMask ? cmdFirst_Click() : cmdPrevious_Click(); break;
+        case key::down:
+        case key::pageDown: shift == platform::ctrlMask ? cmdLast_Click() : cmdNext_Click(); break;
+        default: break;
+    }
+}
+
+// Checks and aids --------------------------------------------------------------------------------------------------
+
+bool RecordScreen::validates(int box) {
+    for (const FieldCheck& check : definition_.checks) {
+        if (check.box == box) return passes(desktop(), boxes_.text(box), check.check, boxes_.label(box));
+    }
+    return true;
+}
+
+void RecordScreen::cbFields_Click() { boxes_.copyShadows(); }
+
+void RecordScreen::copySelection(bool cut) {
+    auto* box = dynamic_cast<platform::TextControl*>(activeInput());
+    if (!box) throw RuntimeError(438);
+    desktop().setClipboardText(box->selText());
+    if (cut) box->setSelText(QString());
+}
+
+void RecordScreen::pasteSelection() {
+    auto* box = dynamic_cast<platform::TextControl*>(activeInput());
+    if (!box) throw RuntimeError(438);
+    box->setSelText(desktop().clipboardText());
+}
+
+platform::Control* RecordScreen::activeInput() {
+    platform::Control* active = activeControl();
+    if (!active) throw RuntimeError(91);
+    return active;
+}
+
+// What the screen shows of its state -------------------------------------------------------------------------------
+
+void RecordScreen::setNumAttachments() {
+    desktop().attempt(u"SetNumAttachments Error"_s, [this] {
+        lookUp(u"Select Count(*) as AttachCnt from Attachments where BugNum = '"_s + session().gvAttachKey + u"'"_s);
+        const double count = rsLookup_.value(u"AttachCnt"_s).toDouble();
+        lblAttachments_->setText(u"Attachments: "_s + platform::str(count));
+    });
+}
+
+void RecordScreen::setButtons(bool browsing) {
+    buttons_->showBrowsing(browsing);
+    buttons_->enableMoves(browsing);
+    menus_->enable(browsing);
+    workspace().enableAddMember(browsing);
+    // An add or an edit counts as a change from its start.
+    bChange = !browsing;
+}
+
+void RecordScreen::lookUp(const QString& statement) {
+    rsLookup_.release();
+    rsLookup_.open(statement, session().gConnection);
+}
+
+}  // namespace screens

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "data/recordset.h"
+#include "screens/field_boxes.h"
+#include "screens/record_buttons.h"
+#include "screens/record_menus.h"
+#include "session/data_window.h"
+
+class QLabel;
+
+namespace screens {
+
+/// A window that shows one record at a time: the design that every record screen shares.
+///
+/// Its inputs are never locked for browsing. Typing raises bChange, and from then on the screen refuses to leave the
+/// record until the user has gone through Edit and then Save or Cancel. Date boxes are bound only while a record comes
+/// up, and written by hand on save, so that a half-typed date never reaches the record.
+class RecordScreen : public session::DataWindow {
+    Q_OBJECT
+
+public:
+    RecordScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+                 const ScreenDefinition& definition);
+
+    /// Raised when cmdNext runs off the end: a walk over all records stops on it.
+    [[nodiscard]] bool bLastRecord() const { return bLastRecord_; }
+    /// Presses the add button.
+    void pressAdd();
+
+    [[nodiscard]] bool keyPreview() const override { return true; }
+    void Form_KeyDown(int keyCode, int shift) override;
+    void Form_KeyPress(int keyAscii) override;
+    void Form_Unload() override;
+
+protected:
+    // Load, in the steps that the kinds of screens string together.
+    void openRows(const QString& statement);
+    void bindBoxes();
+    void fillStateCombos();
+    void showStateCombos();
+
+    // Add, edit, save, cancel, delete. The steps in which a kind of screen differs are its overrides.
+    void cmdAdd_Click();
+    virtual void beginAdd();
+    void cmdEdit_Click();
+    void cmdUpdate_Click();
+    /// Tells what a save needs and doesn't have; false keeps the state.
+    [[nodiscard]] virtual bool readyToSave() = 0;
+    /// After the write of an add. False when the screen has gone.
+    [[nodiscard]] virtual bool finishAdd() = 0;
+    virtual void finishSave() {}
+    void cmdCancel_Click();
+    virtual void finishCancel() {}
+    void cmdDelete_Click();
+    [[nodiscard]] virtual QString deleteQuestion() = 0;
+    virtual void deleteRecord() = 0;
+    /// Deletes the row on screen and goes on to its neighbour; fails when none is left.
+    void deleteCurrentRow();
+
+    // Moves. Each ends with what the record on screen means to the session.
+    void cmdFirst_Click();
+    void cmdPrevious_Click();
+    void cmdNext_Click();
+    void cmdLast_Click();
+    virtual void goFirst() = 0;
+    virtual void goPrevious() = 0;
+    virtual void goNext() = 0;
+    virtual void goLast() = 0;
+    void showPosition();
+    /// Title under which a failure to show the position is reported.
+    [[nodiscard]] virtual QString moveCompleteTitle() const;
+
+    virtual void cmdClose_Click();
+    /// Asks where there is something to lose; false if the window stays.
+    [[nodiscard]] bool confirmsClosing();
+
+    // Checks and aids at the boxes.
+    [[nodiscard]] virtual bool validates(int box);
+    virtual void cbFields_Click();
+
+    virtual void setAttachKey() = 0;
+    /// Shows how many files belong to the attachment key.
+    void setNumAttachments();
+    void setButtons(bool browsing);
+    /// Opens the look-up recordset anew; it stays open.
+    void lookUp(const QString& statement);
+
+    [[nodiscard]] data::Recordset& rows() { return rows_; }
+    [[nodiscard]] data::Recordset& rsLookup() { return rsLookup_; }
+    [[nodiscard]] const FieldBoxes& boxes() const { return boxes_; }
+    [[nodiscard]] FieldBoxes& boxes() { return boxes_; }
+    [[nodiscard]] const ScreenDefinition& definition() const { return definition_; }
+    void setLastRecord() { bLastRecord_ = true; }
+
+private:
+    void layOut();
+    void connectControls();
+    [[nodiscard]] RecordActions actions();
+    [[nodiscard]] RecordCommands commands();
+    void move(const QString& errorTitle, void (RecordScreen::*step)());
+    void writeCombos();
+    void writeDates();
+    void copySelection(bool cut);
+    void pasteSelection();
+    /// The control that the clipboard commands work on; throws 91 when none has the focus.
+    [[nodiscard]] platform::Control* activeInput();
+
+    const ScreenDefinition& definition_;
+    data::Recordset rows_;
+    data::Recordset rsLookup_;
+    FieldBoxes boxes_;
+    std::unique_ptr<RecordMenus> menus_;
+    std::unique_ptr<RecordButtons> buttons_;
+    QLabel* lblAttachments_ = nullptr;
+
+    bool bEditing_ = false;
+    bool bAdding_ = false;
+    bool bLastRecord_ = false;
+    /// The record that was current when the last add began. Not cleared after use: a cancelled edit goes there too.
+    std::optional<double> vBookmark_;
+};
+
+}  // namespace screens

@@ -1,0 +1,245 @@
+#include "data/schema.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QMap>
+#include <QSet>
+#include <QTemporaryDir>
+
+#include "data/states.h"
+#include "data/tables.h"
+#include "data/template.h"
+#include "platform/base/runtime_error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class TemplateFile : public testing::Test {
+protected:
+    TemplateFile() { data::createTemplate(path_); }
+
+    SQLite::Database open() const { return {path_.toStdString(), SQLite::OPEN_READWRITE}; }
+
+    QTemporaryDir folder_;
+    const QString path_ = folder_.filePath(u"FamilyInfo_Empty.mdb"_s);
+};
+
+const data::Column& columnOf(QStringView table, QStringView name) {
+    for (const auto& column : data::table(table).columns) {
+        if (column.name == name) return column;
+    }
+    throw std::out_of_range("no such column");
+}
+
+QString text(SQLite::Database& database, const char* sql) {
+    return QString::fromStdString(database.execAndGet(sql).getString());
+}
+
+// The kind that a reader of the file finds, from nothing but the declared type.
+QString declared(data::FieldKind kind) {
+    static const QMap<data::FieldKind, QString> words{
+        {data::FieldKind::Text, u"TEXT"_s},     {data::FieldKind::LongText, u"LONGTEXT"_s},
+        {data::FieldKind::Number, u"DOUBLE"_s}, {data::FieldKind::Whole, u"INTEGER"_s},
+        {data::FieldKind::Date, u"DATE"_s},     {data::FieldKind::YesNo, u"BOOLEAN"_s},
+    };
+    return words.value(kind);
+}
+
+QString plan(SQLite::Database& database, const std::string& sql) {
+    SQLite::Statement explain(database, "EXPLAIN QUERY PLAN " + sql);
+    QString steps;
+    while (explain.executeStep())
+        steps += QString::fromStdString(explain.getColumn(3).getString()) + u'\n';
+    return steps;
+}
+
+}  // namespace
+
+TEST(Tables, HoldEveryTableAndField) {
+    const QSet<QString> system{u"PIN_Password"_s, u"Attachments"_s, u"LUStates"_s};
+    int tables = 0;
+    int fields = 0;
+    for (const auto& table : data::allTables()) {
+        if (system.contains(table.name)) continue;
+        ++tables;
+        fields += static_cast<int>(table.columns.size());
+    }
+    EXPECT_EQ(tables, 62);
+    EXPECT_EQ(fields, 837 + 1);  // PMI is shown by the mortgages only, and listed with the loans
+    EXPECT_EQ(data::allTables().size(), 65U);
+}
+
+TEST(Tables, NamesAreDistinctEvenWithoutCase) {
+    QSet<QString> tables;
+    for (const auto& table : data::allTables()) {
+        tables.insert(QString(table.name).toLower());
+        QSet<QString> columns;
+        const auto stored = data::storedColumns(table);
+        for (const auto& column : stored)
+            columns.insert(QString(column.name).toLower());
+        EXPECT_EQ(columns.size(), qsizetype(stored.size())) << table.name.data();
+    }
+    EXPECT_EQ(tables.size(), qsizetype(data::allTables().size()));
+}
+
+TEST(Tables, TextBoxesStandBeforeCheckBoxes) {
+    for (const auto& table : data::allTables()) {
+        const auto isCheck = [](const data::Column& column) { return column.kind == data::FieldKind::YesNo; };
+        EXPECT_TRUE(std::ranges::is_partitioned(table.columns, std::not_fn(isCheck))) << table.name.data();
+    }
+}
+
+TEST(Tables, AreFoundInAnyCase) {
+    EXPECT_EQ(data::table(u"cds").name, "CDs"_L1);
+    EXPECT_THROW(data::table(u"Boats"), std::out_of_range);
+}
+
+TEST(Tables, KeepTheFieldsThatLookLikeMistakes) {
+    using enum data::FieldKind;
+    const auto& guarantee = data::table(u"CheckingAccounts").columns.back();
+    EXPECT_EQ(guarantee.label, "Overdraft Guarantee"_L1);
+    EXPECT_EQ(guarantee.kind, YesNo);
+    EXPECT_FALSE(guarantee.isStored());
+    EXPECT_EQ(columnOf(u"SavingsAccounts", u"OverdraftGuarantee").kind, YesNo);
+
+    EXPECT_EQ(columnOf(u"Taxes", u"For").format, "#,##0.00"_L1);
+    EXPECT_EQ(columnOf(u"Taxes", u"For").hint, "Year for which the taxes are owed"_L1);
+    EXPECT_EQ(columnOf(u"CreditCards", u"ExpirationDate").maxLength, 5);
+    EXPECT_EQ(columnOf(u"CreditCards", u"ExpirationDate").kind, Text);
+    EXPECT_EQ(columnOf(u"HomeInsurance", u"ExpirationDate").kind, Date);
+    EXPECT_EQ(columnOf(u"Stocks", u"StockType").hint, "Publicly Traded,  Private"_L1);
+    EXPECT_EQ(columnOf(u"ShotRecords", u"Rubella").label, "Rubella "_L1);
+    EXPECT_FALSE(columnOf(u"Marriage", u"Status").isState());
+    EXPECT_EQ(columnOf(u"Marriage", u"Status").shownIn, data::ShownIn::StatusCombo);
+    EXPECT_TRUE(columnOf(u"Vehicles", u"RegState").isState());
+    EXPECT_EQ(columnOf(u"Person", u"Seq").shownIn, data::ShownIn::Nowhere);
+    EXPECT_EQ(columnOf(u"Obligations", u"Type").shownIn, data::ShownIn::Nowhere);
+    EXPECT_EQ(columnOf(u"HomeOwned", u"Type").shownIn, data::ShownIn::Box);
+}
+
+TEST_F(TemplateFile, HasTheColumnsAndKindsOfTheDefinitions) {
+    auto database = open();
+    for (const auto& table : data::allTables()) {
+        SQLite::Statement info(database, "SELECT name, type FROM pragma_table_info(?) ORDER BY cid");
+        info.bind(1, table.name.data());
+        for (const auto& column : data::storedColumns(table)) {
+            ASSERT_TRUE(info.executeStep()) << table.name.data() << " lacks " << column.name.data();
+            EXPECT_EQ(info.getColumn(0).getString(), column.name.data());
+            QString type = declared(column.kind);
+            if (column.maxLength > 0) type += u"(%1)"_s.arg(column.maxLength);
+            EXPECT_EQ(info.getColumn(1).getString(), type.toStdString()) << table.name.data();
+        }
+        EXPECT_FALSE(info.executeStep()) << table.name.data() << " has more columns than defined";
+    }
+}
+
+TEST_F(TemplateFile, HasNoOtherTableAndNoRowButTheStates) {
+    auto database = open();
+    EXPECT_EQ(text(database, "SELECT Count(*) FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'"),
+              QString::number(data::allTables().size()));
+    for (const auto& table : data::allTables()) {
+        if (table.name == "LUStates"_L1) continue;
+        EXPECT_EQ(database.execAndGet("SELECT Count(*) FROM " + std::string(table.name.data())).getInt(), 0);
+    }
+    EXPECT_EQ(text(database, "PRAGMA page_size"), u"4096"_s);
+    EXPECT_EQ(text(database, "PRAGMA journal_mode"), u"delete"_s);
+    EXPECT_EQ(text(database, "PRAGMA integrity_check"), u"ok"_s);
+}
+
+TEST_F(TemplateFile, KeepsSecretsInTheOrderOfTheirGrid) {
+    auto database = open();
+    EXPECT_EQ(text(database, "SELECT group_concat(name, ' ') FROM pragma_table_info('PIN_Password')"),
+              u"ID Seq Account UserName PIN_Password PersonID Encrypted"_s);
+}
+
+TEST_F(TemplateFile, OffersNoStateFirst) {
+    auto database = open();
+    SQLite::Statement states(database, "SELECT * FROM LUStates ORDER BY Name");
+    QStringList names;
+    while (states.executeStep())
+        names << QString::fromStdString(states.getColumn(0).getString());
+    EXPECT_EQ(names.size(), 1 + 50 + 1 + 5);
+    EXPECT_EQ(names.first(), u"--"_s);
+    EXPECT_EQ(names.value(1), u"Alabama"_s);
+    EXPECT_EQ(names.last(), u"Wyoming"_s);
+    EXPECT_TRUE(names.contains(u"District of Columbia"_s));
+    QStringList defined;
+    for (const auto name : data::stateNames())
+        defined << name;
+    EXPECT_EQ(names, defined);
+}
+
+TEST_F(TemplateFile, NeverGivesANumberTwice) {
+    auto database = open();
+    for (const auto& table : data::allTables()) {
+        if (table.keys == data::Keys::None) continue;
+        const std::string name = table.name.data();
+        database.exec("INSERT INTO " + name + " DEFAULT VALUES");
+        database.exec("INSERT INTO " + name + " DEFAULT VALUES");
+        database.exec("DELETE FROM " + name);
+        database.exec("INSERT INTO " + name + " DEFAULT VALUES");
+        EXPECT_EQ(database.execAndGet("SELECT ID FROM " + name).getInt(), 3) << name;
+    }
+}
+
+TEST_F(TemplateFile, ComparesEveryTextWithoutCase) {
+    auto database = open();
+    for (const auto& table : data::allTables()) {
+        for (const auto& column : data::storedColumns(table)) {
+            if (column.kind != data::FieldKind::Text && column.kind != data::FieldKind::LongText) continue;
+            const std::string name = table.name.data();
+            const std::string quoted = '"' + std::string(column.name.data()) + '"';
+            database.exec("INSERT INTO " + name + " (" + quoted + ") VALUES ('Ann')");
+            EXPECT_GE(database.execAndGet("SELECT Count(*) FROM " + name + " WHERE " + quoted + " = 'aNN'").getInt(), 1)
+                << name << "." << quoted;
+        }
+    }
+}
+
+TEST_F(TemplateFile, StartsYesNoAtNoAndTheSequenceAtZero) {
+    auto database = open();
+    database.exec("INSERT INTO Person (LegalName) VALUES ('Ann')");
+    EXPECT_EQ(text(database, "SELECT Seq || ' ' || IsMinor || ' ' || (BirthDate IS NULL) FROM Person"), u"0 0 1"_s);
+}
+
+// What the windows ask again and again must come from an index alone: a scan of fat rows is a hundred times slower.
+TEST_F(TemplateFile, AnswersCountsAndKeyListsFromIndexesAlone) {
+    auto database = open();
+    const std::string home = "SELECT HomeOwned.ID FROM Person INNER JOIN HomeOwned ON Person.ID = HomeOwned.PersonID ";
+    const std::string loan =
+        "SELECT Obligations.ID FROM Person INNER JOIN Obligations ON Person.ID = Obligations.PersonID ";
+    const std::vector<std::pair<std::string, QString>> cases{
+        {"SELECT Count(*) FROM HomeOwned", u"HomeOwned USING COVERING INDEX"_s},
+        {"SELECT Count(*) FROM HomeOwned WHERE PersonID = 3", u"HomeOwned USING COVERING INDEX"_s},
+        {home + "ORDER BY Person.Seq, HomeOwned.ID", u"HomeOwned USING COVERING INDEX"_s},
+        {home + "WHERE HomeOwned.PersonID = 3 ORDER BY Person.Seq, HomeOwned.ID", u"HomeOwned USING COVERING INDEX"_s},
+        {loan + "Where Type = 3 ORDER BY Person.Seq, Obligations.ID", u"Obligations USING COVERING INDEX"_s},
+        {"SELECT ID FROM Inventory WHERE TypeID = 1 and ParentID = 7", u"Inventory USING COVERING INDEX"_s},
+        {"SELECT Count(*) FROM Attachments WHERE BugNum = 'Hom_1_2'", u"COVERING INDEX Attachments_by_BugNum"_s},
+        {"SELECT * FROM Attachments WHERE FileName = 'a.txt'", u"INDEX Attachments_by_FileName"_s},
+    };
+    for (const auto& [sql, expected] : cases) {
+        const QString steps = plan(database, sql);
+        EXPECT_TRUE(steps.contains(expected)) << sql << '\n' << steps.toStdString();
+    }
+    EXPECT_FALSE(plan(database, "SELECT * FROM Attachments WHERE BugNum = 'a' ORDER BY SeqNum").contains(u"B-TREE"_s));
+}
+
+TEST_F(TemplateFile, ReplacesAnOlderFileWhole) {
+    open().exec("INSERT INTO Doctors (Name) VALUES ('Smith')");
+    data::createTemplate(path_);
+    auto database = open();
+    EXPECT_EQ(text(database, "SELECT Count(*) FROM Doctors"), u"0"_s);
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{u"FamilyInfo_Empty.mdb"_s});
+}
+
+TEST(Template, FailsWithoutLeavingAnything) {
+    const QTemporaryDir folder;
+    EXPECT_THROW(data::createTemplate(folder.filePath(u"absent/a.mdb"_s)), SQLite::Exception);
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"taken.mdb/inside"_s));
+    EXPECT_THROW(data::createTemplate(folder.filePath(u"taken.mdb"_s)), platform::RuntimeError);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::NoDotAndDotDot), QStringList{});
+}
