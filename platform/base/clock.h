@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDate>
+
+namespace platform {
+
+/// Local date and time of day: the one place where the program learns what time it is.
+class Clock {
+public:
+    virtual ~Clock() = default;
+    [[nodiscard]] virtual QDate today() const;
+    /// With fractions; falls to 0 at midnight.
+    [[nodiscard]] virtual double secondsSinceMidnight() const;
+};
+
+/// The clock in use: the computer's, unless a ClockInPlace stands for it.
+[[nodiscard]] const Clock& systemClock();
+
+/// Puts another clock in the place of the computer's for as long as it lives; the seam for tests. The clock must live
+/// longer than this; the places nest.
+class ClockInPlace {
+public:
+    explicit ClockInPlace(const Clock& clock);
+    ~ClockInPlace();
+    ClockInPlace(const ClockInPlace&) = delete;
+    ClockInPlace& operator=(const ClockInPlace&) = delete;
+
+private:
+    const Clock* before_;
+};
+
+}  // namespace platform

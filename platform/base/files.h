@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+/// Files and folders with the answers of the forms run-time. A read-only file is one whose owner may not write it;
+/// the refusals (70) are made here, so that they hold for every user. Paths use the platform's own separator.
+namespace platform::files {
+
+/// Called now and then during a long copy with the bytes copied so far and those of the whole file.
+using CopyProgress = std::function<void(qint64 copied, qint64 total)>;
+
+[[nodiscard]] QChar separator();
+/// Folder and name with one separator between them.
+[[nodiscard]] QString join(const QString& folder, const QString& name);
+/// What stands behind the last separator; the whole path without one.
+[[nodiscard]] QString nameOf(const QString& path);
+/// What stands before the last separator; "" without one.
+[[nodiscard]] QString folderOf(const QString& path);
+
+/// False for a folder, and for "".
+[[nodiscard]] bool fileExists(const QString& path);
+[[nodiscard]] bool folderExists(const QString& path);
+
+/// Bytes; error 53 for a missing file.
+[[nodiscard]] qint64 fileSize(const QString& path);
+/// Bytes of all files in it and in its subfolders; error 76 for a missing folder, 70 for a part that can't be read.
+[[nodiscard]] qint64 folderSize(const QString& folder);
+
+/// Copies a file with its attributes. The target is replaced whole, on the disk when this returns, or left as it was.
+/// Errors: 53 no source, 76 no folder for the target, 70 a read-only target or the source itself, 61 disk full.
+void copyFile(const QString& source, const QString& target, const CopyProgress& progress = {});
+/// Copies the files of a folder, not its subfolders; stops at the first error. 53 when there are none.
+void copyAllFiles(const QString& folder, const QString& targetFolder);
+/// Errors: 53 missing, 70 read-only and not forced.
+void deleteFile(const QString& path, bool force);
+/// Deletes the files of a folder, not its subfolders; stops at the first error. 53 when there are none.
+void deleteAllFiles(const QString& folder, bool force);
+
+/// Copies what a folder holds, with its subfolders, into a folder that is made or merged into. 76 for a missing source.
+void copyFolder(const QString& source, const QString& target);
+/// Deletes a folder with all it holds. Errors: 76 missing, 70 for a read-only file inside that isn't forced.
+void deleteFolder(const QString& path, bool force);
+
+/// Error 53 for a missing file.
+[[nodiscard]] bool isReadOnly(const QString& path);
+void setReadOnly(const QString& path, bool readOnly = true);
+
+/// The lines of a single-byte text file. Only LF ends a line, and a CR right before it is dropped; behind the last LF
+/// stands no empty line. Errors: 53 missing, 70 unreadable.
+[[nodiscard]] QStringList readLines(const QString& path);
+/// Writes a whole text as single bytes, as it stands. The file is replaced whole or left as it was.
+/// Errors: 5 for a character outside the code page, 70 for a read-only file, 76 for a missing folder, 61 disk full.
+void writeTextFile(const QString& path, const QString& text);
+
+}  // namespace platform::files
