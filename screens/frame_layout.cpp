@@ -33,7 +33,8 @@ public:
     Grid(QGroupBox& frame, const FieldBoxes& boxes) : frame_(frame), boxes_(boxes), grid_(new QGridLayout(&frame)) {
         grid_->setHorizontalSpacing(8);
         grid_->setVerticalSpacing(6);
-        for (int i = 0; i < columnsOfBoxes; ++i) grid_->setColumnStretch(i * cellsPerBox + 1, 1);
+        for (int i = 0; i < columnsOfBoxes; ++i)
+            grid_->setColumnStretch(i * cellsPerBox + 1, 1);
     }
 
     void add(int index, const FieldBoxes::Text& text, bool alone) {
@@ -51,14 +52,17 @@ public:
         if (++column_ == columnsOfBoxes) newRow();
     }
 
-    void addChecks(Range range) {
+    void addChecks(const Ranges& checks) {
         newRow();
         auto* row = new QGridLayout;
         row->setHorizontalSpacing(18);
-        for (int i = range.first; i <= range.last; ++i) {
-            QWidget* box = boxes_.checks().at(static_cast<std::size_t>(i)).box;
-            box->setParent(&frame_);
-            row->addWidget(box, (i - range.first) / checksPerRow, (i - range.first) % checksPerRow);
+        int at = 0;
+        for (const Range& run : checks.runs()) {
+            for (int i = run.first; i <= run.last; ++i, ++at) {
+                QWidget* box = boxes_.checks().at(static_cast<std::size_t>(i)).box;
+                box->setParent(&frame_);
+                row->addWidget(box, at / checksPerRow, at % checksPerRow);
+            }
         }
         grid_->addLayout(row, row_, 0, 1, columnsOfBoxes * cellsPerBox);
         ++row_;
@@ -108,17 +112,16 @@ private:
 void layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& definition, const FieldBoxes& boxes,
                   QLabel& attachments) {
     bool stretches = false;
-    int index = 0;
     for (const Frame& frame : definition.frames) {
         auto* box = new QGroupBox(QString(frame.caption).replace(u'&', u"&&"_s), &page);
-        box->setObjectName(platform::indexedName(u"frFrame"_s, index++));
+        box->setObjectName(platform::indexedName(u"frFrame"_s, frame.index));
         Grid grid(*box, boxes);
         for (const auto& [i, text] : boxes.texts()) {
             if (!frame.boxes.holds(i)) continue;
-            grid.add(i, text, frame.boxes.first == frame.boxes.last);
-            if (&frame == &definition.frames.front() && i == frame.boxes.first) grid.addAttachments(attachments);
+            grid.add(i, text, frame.boxes.count() == 1);
+            if (&frame == &definition.frames.front() && i == frame.boxes.first()) grid.addAttachments(attachments);
         }
-        if (frame.checks.last >= frame.checks.first) grid.addChecks(frame.checks);
+        if (frame.checks.count() > 0) grid.addChecks(frame.checks);
         column.addWidget(box, grid.stretches() ? 1 : 0);
         stretches = stretches || grid.stretches();
     }
