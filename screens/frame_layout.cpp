@@ -33,8 +33,7 @@ public:
     Grid(QGroupBox& frame, const FieldBoxes& boxes) : frame_(frame), boxes_(boxes), grid_(new QGridLayout(&frame)) {
         grid_->setHorizontalSpacing(8);
         grid_->setVerticalSpacing(6);
-        for (int i = 0; i < columnsOfBoxes; ++i)
-            grid_->setColumnStretch(i * cellsPerBox + 1, 1);
+        for (int i = 0; i < columnsOfBoxes; ++i) grid_->setColumnStretch(i * cellsPerBox + 1, 1);
     }
 
     void add(int index, const FieldBoxes::Text& text, bool alone) {
@@ -52,17 +51,14 @@ public:
         if (++column_ == columnsOfBoxes) newRow();
     }
 
-    void addChecks(const Ranges& checks) {
+    void addChecks(Range range) {
         newRow();
         auto* row = new QGridLayout;
         row->setHorizontalSpacing(18);
-        int at = 0;
-        for (const Range& run : checks.runs()) {
-            for (int i = run.first; i <= run.last; ++i, ++at) {
-                QWidget* box = boxes_.checks().at(static_cast<std::size_t>(i)).box;
-                box->setParent(&frame_);
-                row->addWidget(box, at / checksPerRow, at % checksPerRow);
-            }
+        for (int i = range.first; i <= range.last; ++i) {
+            QWidget* box = boxes_.checks().at(static_cast<std::size_t>(i)).box;
+            box->setParent(&frame_);
+            row->addWidget(box, (i - range.first) / checksPerRow, (i - range.first) % checksPerRow);
         }
         grid_->addLayout(row, row_, 0, 1, columnsOfBoxes * cellsPerBox);
         ++row_;
@@ -119,7 +115,7 @@ void layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& de
         for (const auto& [i, text] : boxes.texts()) {
             if (!frame.boxes.holds(i)) continue;
             grid.add(i, text, frame.boxes.count() == 1);
-            if (&frame == &definition.frames.front() && i == frame.boxes.first()) grid.addAttachments(attachments);
+            if (&frame == &definition.frames.front() && i == frame.boxes.first) grid.addAttachments(attachments);
         }
         if (frame.checks.count() > 0) grid.addChecks(frame.checks);
         column.addWidget(box, grid.stretches() ? 1 : 0);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLatin1StringView>
-#include <array>
 #include <optional>
 #include <span>
 
@@ -37,40 +36,13 @@ struct Range {
     [[nodiscard]] constexpr int count() const { return last < first ? 0 : last - first + 1; }
 };
 
-/// The members of a control array that stand in one frame: one run of neighbours, or a few.
-class Ranges {
-public:
-    constexpr Ranges() = default;
-    constexpr Ranges(int first, int last) : runs_{Range{first, last}} {}
-    constexpr Ranges(Range one, Range two, Range three = {}) : runs_{one, two, three} {}
-
-    [[nodiscard]] constexpr bool holds(int index) const {
-        for (const Range& run : runs_) {
-            if (run.holds(index)) return true;
-        }
-        return false;
-    }
-    [[nodiscard]] constexpr int count() const {
-        int sum = 0;
-        for (const Range& run : runs_)
-            sum += run.count();
-        return sum;
-    }
-    /// Lowest index; only where there is one.
-    [[nodiscard]] constexpr int first() const { return runs_.front().first; }
-    [[nodiscard]] constexpr const std::array<Range, 3>& runs() const { return runs_; }
-
-private:
-    std::array<Range, 3> runs_{};
-};
-
 /// A group of controls. The frames of an entry stand in the order in which they are shown, so that reading down is
 /// reading by index; their own index in frFrame can be another one.
 struct Frame {
     int index;  ///< in frFrame
     QLatin1StringView caption;
-    Ranges boxes;   ///< in txtFields; 0 is the owner
-    Ranges checks;  ///< in chkFields
+    Range boxes;   ///< in txtFields; 0 is the owner
+    Range checks;  ///< in chkFields
 };
 
 /// Why a save is refused while the owner, or the name that a row goes by, is empty. The message is the opening and the
