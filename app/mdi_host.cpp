@@ -1,8 +1,10 @@
 #include "app/mdi_host.h"
 
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QMenu>
+#include <QScreen>
 
 #include "app/host_panel.h"
 #include "app/tree_pictures.h"
@@ -41,7 +43,7 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
     setPanel(*panel_);
     setCaption(u"Larkmoor Kinbook"_s);
     setWindowIcon(QIcon(session.path(u"TheLarkmoorIcon.ico"_s)));
-    resize(1200, 800);
+    resize(QSize(1200, 800).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     makeMenus();
     connectControls();
 }
