@@ -43,7 +43,8 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
     setPanel(*panel_);
     setCaption(u"Larkmoor Kinbook"_s);
     setWindowIcon(QIcon(session.path(u"TheLarkmoorIcon.ico"_s)));
-    resize(QSize(1200, 800).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    // Leaves room for the frame that the desktop puts around the window.
+    resize(QSize(1200, 800).boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(8, 40)));
     makeMenus();
     connectControls();
 }
