@@ -1,12 +1,17 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
+#include <map>
 #include <memory>
+#include <vector>
 
 #include "data/connection.h"
 #include "platform/base/record_source.h"
 
 namespace data {
+
+class RowPosition;
 
 enum class CursorType { ForwardOnly = 0, Keyset = 1, Static = 3 };
 enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
@@ -15,7 +20,8 @@ enum class EditMode { None = 0, InProgress = 1, Add = 2, Deleted = 4 };
 /// The rows of one statement, one of them current.
 ///
 /// A forward-only recordset streams. Every other one takes the keys of its rows at open() and reads a row when it
-/// is reached. Only selects over one table, or over the columns of one table of a join (`SELECT X.* FROM ..`), can be written.
+/// is reached. Only selects over one table, or over the columns of one table of a join (`SELECT X.* FROM ..`), can be
+/// written.
 class Recordset : public platform::RecordSource {
     Q_OBJECT
 
@@ -51,7 +57,8 @@ public:
     void movePrevious();
 
     void addNew();
-    /// Hands over what the bound controls hold, then writes the current row's pending change: one statement, durable on return.
+    /// Hands over what the bound controls hold, then writes the current row's pending change: one statement, durable on
+    /// return.
     void update();
     void updateBatch();
     void cancelUpdate();
@@ -69,6 +76,14 @@ Q_SIGNALS:
     void willChangeRecord();
 
 private:
+    void move(const std::function<void(RowPosition&)>& step);
+    void travel(const std::function<void()>& journey);
+    void refuseInsideHandler() const;
+    void announceMove();
+    void announceRow();
+    void writePending();
+    void showFilledIn(const std::vector<QVariant>& before, const std::map<int, QVariant>& given);
+
     struct Private;
     std::unique_ptr<Private> d_;
 };

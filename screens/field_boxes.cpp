@@ -17,7 +17,7 @@ namespace screens {
 
 FieldBoxes::FieldBoxes(QWidget& form, const ScreenDefinition& definition) : definition_(definition) {
     int index = definition.firstBox;
-    for (const data::Column& column : data::table(definition.table).columns) {
+    for (const data::Column& column : data::table(QString(definition.table)).columns) {
         if (column.shownIn == data::ShownIn::Nowhere) continue;
         if (column.kind == data::FieldKind::YesNo) {
             makeCheck(form, column);

@@ -23,7 +23,4 @@ namespace platform {
 /// A date through a pattern of m, d and y, case regardless: "M/d/yy" gives "5/13/01". "" for an invalid date.
 [[nodiscard]] QString formatDate(const QDateTime& date, const QString& pattern);
 
-/// True for a pattern that formatDate() understands, rather than one of formatNumber().
-[[nodiscard]] bool isDatePattern(const QString& pattern);
-
 }  // namespace platform

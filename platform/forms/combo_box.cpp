@@ -20,6 +20,8 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
     setMinimumContentsLength(12);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lineEdit()->setMaxLength(std::numeric_limits<int>::max() / 2);
+    // A typed text that reads like an entry isn't a choice of it when the focus goes.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(this, &QComboBox::activated, this, [this](int index) {
         listIndex_ = index;
         click();
@@ -118,6 +120,12 @@ void ComboBox::keyPressEvent(QKeyEvent* event) {
     const bool chooses = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down || event->key() == Qt::Key_PageUp ||
                          event->key() == Qt::Key_PageDown || event->key() == Qt::Key_F4;
     if (locked_ && chooses) {
+        event->accept();
+        return;
+    }
+    const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enters && enter_) {
+        enter_();
         event->accept();
         return;
     }

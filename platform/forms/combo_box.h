@@ -39,6 +39,8 @@ public:
     [[nodiscard]] int selLength() const;
 
     void onClick(std::function<void()> handler) { handler_ = std::move(handler); }
+    /// Enter was pressed in the box, before anything comes of the key.
+    void onEnter(std::function<void()> handler) { enter_ = std::move(handler); }
 
     void showValue(const QVariant& value, ColumnKind kind, const QString& format) override;
     [[nodiscard]] QVariant content() const override { return text(); }
@@ -53,6 +55,7 @@ private:
     void click();
 
     std::function<void()> handler_;
+    std::function<void()> enter_;
     int listIndex_ = -1;
     bool locked_ = false;
 };

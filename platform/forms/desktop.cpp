@@ -81,7 +81,13 @@ bool Desktop::attempt(const QString& title, const std::function<void()>& routine
     }
 }
 
-void Desktop::run(const std::function<void()>& handler) { attempt(programTitle(), handler); }
+void Desktop::run(const std::function<void()>& handler) {
+    try {
+        attempt(programTitle(), handler);
+    } catch (const RunEnded&) {
+        endRun();
+    }
+}
 
 void Desktop::passOver(const std::function<void()>& step) {
     try {

@@ -16,6 +16,9 @@ class MdiFrame;
 
 enum class Pointer { Default, Hourglass };
 
+/// Thrown by what the program can't go on without: nothing catches it but the event that set it off, and the run ends.
+struct RunEnded {};
+
 /// What all forms of one run share: the collection of loaded forms, the dialogs, the pointer, and the last net under
 /// a failure that no routine handles.
 class Desktop : public QObject {

@@ -16,12 +16,12 @@ enum class Answer { Ok, Yes, No };
 struct FileRequest {
     enum class Mode { Open, Save };
     Mode mode = Mode::Open;
-    QString folder;         ///< where it starts; one that doesn't exist is passed over
-    QString filterText;     ///< "Database Files (*.mdb)"
-    QString filterPattern;  ///< "*.mdb"
-    QString title;
-    QString fileName;  ///< preset name, with or without a folder
-    QString suffix;    ///< added to a typed name without one
+    QString folder{};         ///< where it starts; one that doesn't exist is passed over
+    QString filterText{};     ///< "Database Files (*.mdb)"
+    QString filterPattern{};  ///< "*.mdb"
+    QString title{};
+    QString fileName{};  ///< preset name, with or without a folder
+    QString suffix{};    ///< added to a typed name without one
 };
 
 /// The one door to message boxes, file dialogs and input boxes. Each call is modal and returns when it is answered.

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+
+#include "data/recordset.h"
+
+namespace platform {
+class TreeView;
+}
+
+namespace session {
+struct Session;
+}
+
+namespace app {
+
+/// The tree's 83 nodes and the rule of their pictures: 1 for a category without data, 2 for one with data, for a branch
+/// with such a child, and for the node clicked last.
+class CategoryTree {
+public:
+    /// `rsHost`: the host's scratch recordset, which nobody may hold open across a call.
+    CategoryTree(platform::TreeView& view, session::Session& session, data::Recordset& rsHost);
+
+    void build();
+    /// Gives one node its picture and carries the news up the tree. A failure ends the run.
+    void setImage(int nodeIndex);
+    /// The same for every node, in index order.
+    void setAllImages();
+
+private:
+    void countNode(int nodeIndex);
+    [[nodiscard]] QString countStatement(int nodeIndex) const;
+    /// The parent has data if one of the node's siblings has.
+    void setParent(int nodeIndex);
+
+    platform::TreeView& view_;
+    session::Session& session_;
+    data::Recordset& rsHost_;
+    /// By node index; the table whose rows decide the node's picture.
+    std::array<QString, 101> nodeTable_;
+};
+
+}  // namespace app

@@ -1,0 +1,64 @@
+#include "app/dispatch.h"
+
+#include "app/dispatch_table.h"
+#include "app/mdi_host.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/tree_view.h"
+#include "session/data_window.h"
+#include "session/form_access.h"
+#include "session/refusals.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace app {
+
+namespace {
+constexpr int withData = 2;
+constexpr int mostForms = 10;
+}  // namespace
+
+void Dispatch::nodeClick(int nodeIndex) {
+    host_.desktop().attempt(u"NodeClick Error"_s, [&] {
+        if (host_.desktop().count() > 1 && host_.activeHasChanges()) {
+            host_.setSelectedName(host_.session().gsPersonName);
+            session::showScreenChanges(host_.desktop());
+            return;
+        }
+        if (tooManyWindows()) return;
+        platform::TreeView& tree = host_.tvTree();
+        host_.categories().setImage(host_.currentNode());
+        tree.setImage(nodeIndex, withData);
+        host_.setCurrentNode(nodeIndex);
+        if (follow(tree.key(nodeIndex))) tree.setImage(nodeIndex, withData);
+    });
+}
+
+bool Dispatch::tooManyWindows() const {
+    if (host_.desktop().count() <= mostForms) return false;
+    host_.desktop().notice(
+        u"You have ten data windows open. You will soon exhaust your computer's resources.  Please close some data "
+        "windows by clicking on the Close button at the lower right corner of the data window or the Cancel button "
+        "at the bottom of the screen."_s,
+        u"Too Many Data Windows Open"_s, platform::Icon::Information);
+    return true;
+}
+
+bool Dispatch::follow(const QString& key) {
+    const DispatchRow* row = dispatchRow(key);
+    return !row || openWindow(*row);
+}
+
+bool Dispatch::openWindow(const DispatchRow& row) {
+    if (host_.count(QString(row.counted)) == 0 && !host_.session().gbCanEdit) {
+        session::showNoDataNoLogin(host_.desktop());
+        return false;
+    }
+    session::DataWindow* window = host_.touch(row.window);
+    if (!window) return true;
+    if (row.access == Access::Apply) session::setFormAccess(*window, host_.session().gbCanEdit);
+    window->show();
+    return true;
+}
+
+}  // namespace app

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace app {
+
+class MDIHost;
+struct DispatchRow;
+
+/// What a click on a node of the category tree leads to: the guards, the pictures, and the window or dialog of the node.
+class Dispatch {
+public:
+    explicit Dispatch(MDIHost& host) : host_(host) {}
+
+    void nodeClick(int nodeIndex);
+
+private:
+    /// False for a refusal that ends the click there, with the node's picture as it is.
+    [[nodiscard]] bool follow(const QString& key);
+    [[nodiscard]] bool openWindow(const DispatchRow& row);
+    [[nodiscard]] bool tooManyWindows() const;
+
+    MDIHost& host_;
+};
+
+}  // namespace app

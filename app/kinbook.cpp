@@ -1,0 +1,140 @@
+#include "app/kinbook.h"
+
+#include <QApplication>
+
+#include "app/mdi_host.h"
+#include "app/splash_window.h"
+#include "platform/base/files.h"
+#include "platform/base/runtime_error.h"
+#include "platform/forms/desktop.h"
+#include "session/definition_file.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+using platform::Icon;
+
+namespace app {
+
+namespace {
+
+constexpr int cannotOpenDatabase = -2147467259;
+constexpr int usualSplashSeconds = 2;
+
+}  // namespace
+
+Kinbook::Kinbook(const QString& applicationFolder)
+    : desktop_(std::make_unique<platform::Desktop>()), session_(std::make_unique<session::Session>()) {
+    session_->applicationFolder = applicationFolder;
+}
+
+Kinbook::~Kinbook() = default;
+
+void Kinbook::main() {
+    desktop_->run([this] {
+        if (!desktop_->attempt(u"Main Error"_s, [this] { start(); })) unloadSplash();
+    });
+}
+
+void Kinbook::start() {
+    if (!getSplashValues()) {
+        desktop_->notice(
+            u"Values are missing for the Splash screen.  They should be contained in the SplashDef file."_s,
+            u"Missing Splash Screen Values"_s, Icon::Information);
+        return;
+    }
+    splash().show();
+    QApplication::processEvents();
+    const int seconds = session_->definition.giSplashSeconds;
+    desktop_->wait(seconds != 0 ? seconds : usualSplashSeconds);
+
+    session_->gConnection.setCursorLocation(data::CursorLocation::Client);
+    try {
+        session_->gConnection.open(session_->path(u"FamilyInfo.mdb"_s));
+    } catch (const platform::RuntimeError& error) {
+        if (error.number() != cannotOpenDatabase) throw;
+        if (!restoreMissingDatabase()) {
+            unloadSplash();
+            return;
+        }
+    }
+    session_->gsDatabaseName = u"FamilyInfo.mdb"_s;
+    session_->gsDatabasePath = session_->path(session_->gsDatabaseName);
+    desktop_->load(std::make_unique<MDIHost>(*desktop_, *session_)).show();
+    unloadSplash();
+}
+
+bool Kinbook::getSplashValues() {
+    const QString path = session_->path(u"SplashDef.txt"_s);
+    if (!platform::files::fileExists(path)) {
+        desktop_->notice(path + u" does not exist."_s, u"No PDF File"_s, Icon::Information);
+        return false;
+    }
+    std::optional<session::Definition> definition;
+    try {
+        definition = session::readDefinition(path);
+    } catch (const platform::RuntimeError&) {
+        return false;
+    }
+    if (!definition) {
+        desktop_->notice(u"Error in Splash Screen Definition File."_s, u"Splash Screen Error"_s, Icon::Information);
+        return false;
+    }
+    session_->definition = *definition;
+    session_->gbCanEdit = definition->gsMainPassword.isEmpty();
+    return true;
+}
+
+SplashWindow& Kinbook::splash() {
+    if (auto* loaded = dynamic_cast<SplashWindow*>(desktop_->find(SplashWindow::formName()))) return *loaded;
+    return desktop_->load(std::make_unique<SplashWindow>(*desktop_, *session_));
+}
+
+void Kinbook::unloadSplash() {
+    if (platform::Form* loaded = desktop_->find(SplashWindow::formName())) loaded->unload();
+}
+
+bool Kinbook::restoreMissingDatabase() {
+    desktop_->notice(u"No FamilyInfo database was found.  You must restore a database in order to proceed."_s);
+    unloadSplash();
+    const bool goesOn = desktop_->ask(
+        u"When you restore a database, the current database will be destroyed.  If, for some reason, you are wanting "
+        "to restore a database and not lose the current database, you must backup the current database before "
+        "continuing this restore function.\r\n\r\nDo you want to continue?"_s,
+        u"Restore Database Confirmation"_s);
+    if (!goesOn) return false;
+    const platform::FileRequest request{.folder = session_->applicationFolder,
+                                        .filterText = u"Database Files (*.mdb)"_s,
+                                        .filterPattern = u"*.mdb"_s,
+                                        .title = u"Database to Restore"_s};
+    // The dialog belongs to the splash window, which is loaded again for it but not shown.
+    [[maybe_unused]] const SplashWindow& holder = splash();
+    const QString chosen = desktop_->dialogs().fileDialog(request);
+    session_->gsDatabasePath = chosen;
+    session_->gsDatabaseName = platform::files::nameOf(chosen);
+    if (chosen.isEmpty()) {
+        desktop_->notice(u"No database name was selected to restore."_s, u"No Database Name"_s, Icon::Information);
+        return false;
+    }
+    if (!platform::files::fileExists(chosen)) {
+        desktop_->notice(chosen + u" does not exist.  No database was opened."_s, u"File Does Not Exist"_s,
+                         Icon::Information);
+        return false;
+    }
+    replaceDatabase(chosen);
+    return true;
+}
+
+void Kinbook::replaceDatabase(const QString& chosen) {
+    const QString chosenName = session_->gsDatabaseName;
+    session_->gsDatabaseName = u"FamilyInfo.mdb"_s;
+    session_->gsDatabasePath = session_->path(session_->gsDatabaseName);
+    if (session_->gConnection.isOpen()) session_->gConnection.close();
+    desktop_->unloadAll([](const platform::Form& form) { return form.name() != MDIHost::formName(); });
+    platform::files::copyFile(chosen, session_->gsDatabasePath);
+    session_->gConnection.setCursorLocation(data::CursorLocation::Client);
+    session_->gConnection.open(session_->gsDatabasePath);
+    desktop_->notice(u"Your database, "_s + chosenName + u", has been restored as "_s + u"FamilyInfo.mdb"_s +
+                     u", and is ready for use."_s);
+}
+
+}  // namespace app

@@ -1,0 +1,306 @@
+#include "app/mdi_host.h"
+
+#include <QGroupBox>
+#include <QIcon>
+#include <QMenu>
+
+#include "app/host_panel.h"
+#include "app/tree_pictures.h"
+#include "app/windows.h"
+#include "platform/base/conversions.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/command_button.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/form_window.h"
+#include "platform/forms/menus.h"
+#include "platform/forms/tree_view.h"
+#include "screens/person_screen.h"
+#include "session/data_window.h"
+#include "session/refusals.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+using platform::Icon;
+
+namespace app {
+
+namespace {
+
+const QString wholeFamily = u"Whole Family"_s;
+const QString personScreen = u"frmKinbook"_s;
+
+}  // namespace
+
+MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
+    : MdiFrame(desktop, formName()),
+      session_(session),
+      panel_(new HostPanel(this)),
+      categories_(panel_->tvTree(), session, rsHost_),
+      dispatch_(*this) {
+    desktop.setHost(this);
+    setPanel(*panel_);
+    setCaption(u"Larkmoor Kinbook"_s);
+    setWindowIcon(QIcon(session.path(u"TheLarkmoorIcon.ico"_s)));
+    resize(1200, 800);
+    makeMenus();
+    connectControls();
+}
+
+MDIHost::~MDIHost() = default;
+
+QString MDIHost::formName() { return u"MDIHost"_s; }
+
+void MDIHost::makeMenus() {
+    QMenu* file = platform::makeMenu(*this, u"mFile"_s, u"&File"_s);
+    for (const auto& [name, caption] :
+         {std::pair{u"mNew"_s, u"New"_s}, {u"mOpen"_s, u"Restore"_s}, {u"mBackup"_s, u"Backup"_s}}) {
+        platform::addEntry(*file, name, caption, [] {})->setEnabled(false);
+    }
+    platform::addSeparator(*file, u"Sep1"_s);
+    platform::addEntry(*file, u"mFamilySequence"_s, u"Family Sequence..."_s, [] {})->setEnabled(false);
+    platform::addSeparator(*file, u"Sep2"_s);
+    platform::addEntry(*file, u"mCoverPage"_s, u"Cover Page"_s, [] {})->setEnabled(false);
+    platform::addSeparator(*file, u"Sep4"_s);
+    platform::addEntry(*file, u"mExit"_s, u"Exit"_s, handler([this] { closeHost(); }));
+    addMenu(file);
+
+    QMenu* help = platform::makeMenu(*this, u"mnuHelp1"_s, u"&Help"_s);
+    platform::addEntry(*help, u"mnuHelp"_s, u"Kinbook Help"_s, [] {})->setEnabled(false);
+    platform::addSeparator(*help, u"Sep3"_s);
+    platform::addEntry(*help, u"mnuAbout"_s, u"About"_s, [] {})->setEnabled(false);
+    addMenu(help);
+}
+
+void MDIHost::connectControls() {
+    panel_->cbPerson().onClick(handler([this] { cbPerson_Click(); }));
+    panel_->cbPerson().onEnter(handler([this] { cbPerson_Click(); }));
+    panel_->cmdAddNew().onClick(handler([this] { cmdAddNew_Click(); }));
+    panel_->onClick(handler([this] { picture1_Click(); }));
+    tvTree().onNodeClick([this](int index) { desktop().run([&] { dispatch_.nodeClick(index); }); });
+    tvTree().onToggle(handler([this] {
+        if (iCurrentNode_ > 1) categories_.setImage(iCurrentNode_);
+    }));
+}
+
+// Start ------------------------------------------------------------------------------------------------------------
+
+void MDIHost::Form_Load() {
+    desktop().attempt(u"MDIForm Load Error"_s, [this] {
+        session_.gbAddMember = false;
+        rsHost_.setLockType(data::LockType::ReadOnly);
+        rsHost_.setCursorType(data::CursorType::ForwardOnly);
+        rsHost_.setCursorLocation(data::CursorLocation::Server);
+        loadFamily();
+        categories_.build();
+        tvTree().expandNode(1);
+        session_.gPersonID = 0;
+        session_.gsPersonName = u"Family"_s;
+        session_.gbWholeFamily = true;
+        tvTree().setEnabled(false);
+        tvTree().setImages(treePictures());
+        categories_.setAllImages();
+        if (panel_->cbPerson().listCount() < 2) {
+            panel_->showFirstRun();
+            panel_->cmdAddNew().setFocus();
+        }
+    });
+}
+
+void MDIHost::loadFamily() {
+    desktop().attempt(u"LoadFamily Error"_s, [this] {
+        platform::ComboBox& selector = panel_->cbPerson();
+        selector.clearList();
+        rsHost_.release();
+        rsHost_.open(u"SELECT ID, Seq, LegalName from Person Order By Seq"_s, session_.gConnection);
+        selector.addItem(wholeFamily);
+        // The first member without a name ends the list.
+        while (!rsHost_.eof() && !rsHost_.value(u"LegalName"_s).isNull()) {
+            selector.addItem(rsHost_.value(u"LegalName"_s).toString());
+            rsHost_.moveNext();
+        }
+        if (selector.isVisible()) selector.selectAll();
+    });
+}
+
+// Selection --------------------------------------------------------------------------------------------------------
+
+bool MDIHost::onlyHelpIsOpen() const { return session_.gbHelpOpened && desktop().count() == 2; }
+
+bool MDIHost::leavesChanges() const { return desktop().count() > 1 && !onlyHelpIsOpen() && activeHasChanges(); }
+
+bool MDIHost::activeHasChanges() const {
+    const auto* active = dynamic_cast<session::DataWindow*>(activeForm());
+    return active && active->bChange;
+}
+
+void MDIHost::cbPerson_Click() {
+    desktop().attempt(u"cbPersonClick Error"_s, [this] {
+        if (leavesChanges()) {
+            setSelectedName(session_.gsPersonName);
+            session::showScreenChanges(desktop());
+            return;
+        }
+        if (!acceptSelection()) {
+            refuseSelection();
+            return;
+        }
+        desktop().unloadAll([](const platform::Form& form) { return form.name() != formName(); });
+        if (panel_->frame1().isVisible()) {
+            if (session::DataWindow* screen = touch(personScreen)) screen->show();
+        }
+        categories_.setAllImages();
+    });
+}
+
+bool MDIHost::acceptSelection() {
+    session_.gsPersonName = selectedName();
+    rsHost_.release();
+    rsHost_.open(u"SELECT ID from Person where LegalName = '"_s + session_.gsPersonName + u"'"_s,
+                 session_.gConnection);
+    const bool found = !rsHost_.eof();
+    session_.gPersonID = found ? platform::toInteger(rsHost_.value(u"ID"_s).toDouble()) : qint16{0};
+    if (found) tvTree().setEnabled(true);
+    rsHost_.close();
+    session_.gbWholeFamily = session_.gsPersonName == wholeFamily && session_.gPersonID == 0;
+    if (session_.gbWholeFamily) tvTree().setEnabled(true);
+    return session_.gsPersonName == wholeFamily || session_.gPersonID != 0;
+}
+
+void MDIHost::refuseSelection() {
+    if (selectedName().isEmpty()) return;
+    desktop().notice(
+        u"The name, "_s + selectedName() +
+            u", does not match any of the family member names that you have already entered.  Either (1) the spelling "
+            "is different or (2) this family member has not yet been entered.\r\n\r\n"
+            "(1) If the spelling is different, the easiest way to get the correct spelling is to click on the "
+            "down-arrow button on the Select Whole Family or Individual drop down box in the upper left hand corner "
+            "of the screen and select the correct name from the list that drops down.  You will then be able to see "
+            "the data window for the selected family member or for the whole family.\r\n\r\n"
+            "(2) If the family member has not yet been entered into the computer, you may click on the Enter Another "
+            "Family Member button at the upper left hand corner of the screen.  You will then have no trouble "
+            "entering the information for this new family member.\r\n\r\n"
+            "Go for it...."_s,
+        u"No Matching Family Member"_s, Icon::Information);
+    panel_->cbPerson().selectAll();
+}
+
+void MDIHost::cmdAddNew_Click() {
+    desktop().attempt(u"Form Load Error"_s, [this] {
+        if (leavesChanges()) {
+            session::showScreenChanges(desktop());
+            return;
+        }
+        const bool usual = panel_->cmdAddNew().text() == HostPanel::usualAddCaption();
+        if (selectedName().isEmpty() && usual) {
+            desktop().notice(
+                u"You must have an Individual or Whole Family selected before you can add another family member."_s,
+                u"Missing Selection"_s, Icon::Information);
+            return;
+        }
+        tvTree().setEnabled(false);
+        categories_.setAllImages();
+        const bool addsAtOnce = desktop().count() > 1 && usual;
+        if (!addsAtOnce) session_.gbAddMember = true;
+        session::DataWindow* screen = touch(personScreen);
+        screen->show();
+        if (addsAtOnce) static_cast<screens::PersonScreen*>(screen)->pressAdd();
+    });
+}
+
+void MDIHost::picture1_Click() {
+    if (tvTree().isEnabled()) return;
+    desktop().notice(
+        u"You have clicked on the Data Window Selection Box when it is disabled.  It is disabled either because (1) no "
+        "family member has been selected and the large data window area to the right is empty or (2) you have a data "
+        "window to the right of the sort that must be either saved or canceled before you can proceed (only Save and "
+        "Cancel buttons are displayed at the bottom of the data window).\r\n\r\n"
+        "(1) If no family member has been selected, select one by using the Select Whole Family or Individual drop "
+        "down box in the upper left hand corner of the screen.\r\n\r\n"
+        "(2) If you have a data window to the right that has only Save and Cancel buttons at the bottom, either save "
+        "or cancel the data window and all will be well and you can then select another category."_s);
+}
+
+// Windows ----------------------------------------------------------------------------------------------------------
+
+qint64 MDIHost::count(const QString& counted) {
+    rsHost_.release();
+    rsHost_.open(u"SELECT Count(*) as NumRec from "_s + counted, session_.gConnection);
+    const qint64 rows = rsHost_.value(u"NumRec"_s).toLongLong();
+    rsHost_.close();
+    return rows;
+}
+
+session::DataWindow* MDIHost::touch(const QString& name) {
+    if (platform::Form* loaded = desktop().find(name)) return dynamic_cast<session::DataWindow*>(loaded);
+    std::unique_ptr<session::DataWindow> window = makeWindow(name, desktop(), session_, *this);
+    return window ? &desktop().load(std::move(window)) : nullptr;
+}
+
+// Workspace --------------------------------------------------------------------------------------------------------
+
+platform::TreeView& MDIHost::tvTree() const { return panel_->tvTree(); }
+
+void MDIHost::enableTree(bool enabled) { tvTree().setEnabled(enabled); }
+
+void MDIHost::refreshTree() { categories_.setAllImages(); }
+
+void MDIHost::enableAddMember(bool enabled) { panel_->cmdAddNew().setEnabled(enabled); }
+
+void MDIHost::endFirstRun() { panel_->endFirstRun(); }
+
+QString MDIHost::selectedName() const { return panel_->cbPerson().text(); }
+
+void MDIHost::setSelectedName(const QString& name) { panel_->cbPerson().setText(name); }
+
+void MDIHost::appendName(const QString& name) { panel_->cbPerson().addItem(name); }
+
+void MDIHost::removeName(const QString& name) {
+    platform::ComboBox& selector = panel_->cbPerson();
+    const int entries = selector.listCount();
+    // The entry behind a removed one moves up and is passed over.
+    for (int i = 0; i < entries; ++i) {
+        if (selector.list(i) == name) selector.removeEntry(i);
+    }
+}
+
+void MDIHost::clearSelection() {
+    panel_->cbPerson().setListIndex(-1);
+    panel_->cbPerson().setFocus();
+}
+
+QString MDIHost::defaultOwner() const {
+    if (const auto* screen = dynamic_cast<screens::PersonScreen*>(desktop().find(personScreen))) {
+        return screen->legalName();
+    }
+    return session_.gPersonID != 0 ? session_.gsPersonName : QString();
+}
+
+// The way down -----------------------------------------------------------------------------------------------------
+
+void MDIHost::exitProgram() { closeHost(); }
+
+bool MDIHost::mayGoDown() {
+    auto* active = dynamic_cast<session::DataWindow*>(activeForm());
+    const bool asks = !onlyHelpIsOpen() && desktop().count() > 1 && tvTree().isEnabled() && active && active->bChange;
+    if (asks) {
+        bool changed = active->bChange;
+        if (!session::closeConfirm(desktop(), session_, changed)) return false;
+        active->bChange = false;
+    }
+    for (int i = desktop().count() - 1; i >= 0; --i) {
+        if (&desktop().at(i) != this && !desktop().at(i).agreesToClose()) return false;
+    }
+    return true;
+}
+
+void MDIHost::closeHost() {
+    if (isLoaded() && mayGoDown()) leave();
+}
+
+void MDIHost::Form_Unload() {
+    for (int i = desktop().count() - 1; i >= 0; --i) {
+        if (&desktop().at(i) != this) desktop().at(i).leave();
+    }
+}
+
+}  // namespace app

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "app/category_tree.h"
+#include "app/dispatch.h"
+#include "data/recordset.h"
+#include "platform/forms/mdi_frame.h"
+#include "session/workspace.h"
+
+namespace session {
+class DataWindow;
+}
+
+namespace app {
+
+class HostPanel;
+
+/// The host: the window in which every data window stands, with the family selector and the category tree at its left.
+class MDIHost : public platform::MdiFrame, public session::Workspace {
+    Q_OBJECT
+
+public:
+    MDIHost(platform::Desktop& desktop, session::Session& session);
+    ~MDIHost() override;
+
+    [[nodiscard]] static QString formName();
+
+    [[nodiscard]] session::Session& session() const { return session_; }
+    [[nodiscard]] platform::TreeView& tvTree() const;
+    [[nodiscard]] CategoryTree& categories() { return categories_; }
+    /// Index of the tree node clicked last, 1 at start.
+    [[nodiscard]] int currentNode() const { return iCurrentNode_; }
+    void setCurrentNode(int index) { iCurrentNode_ = index; }
+    /// The active child holds unsaved changes.
+    [[nodiscard]] bool activeHasChanges() const;
+    /// Rows behind "SELECT Count(*) from" and the given text.
+    [[nodiscard]] qint64 count(const QString& counted);
+    /// The data window of that name, loaded if it isn't yet; nullptr for a name that no window has.
+    [[nodiscard]] session::DataWindow* touch(const QString& name);
+
+    void Form_Load() override;
+    void Form_Unload() override;
+
+    // Workspace
+    void enableTree(bool enabled) override;
+    void refreshTree() override;
+    void enableAddMember(bool enabled) override;
+    void endFirstRun() override;
+    [[nodiscard]] QString selectedName() const override;
+    void setSelectedName(const QString& name) override;
+    void appendName(const QString& name) override;
+    void removeName(const QString& name) override;
+    void clearSelection() override;
+    [[nodiscard]] QString defaultOwner() const override;
+    void exitProgram() override;
+
+protected:
+    void closeHost() override;
+
+private:
+    void makeMenus();
+    void connectControls();
+    void loadFamily();
+    void cbPerson_Click();
+    /// Sets the session's member from the selector's text; false when it matches nobody.
+    [[nodiscard]] bool acceptSelection();
+    void refuseSelection();
+    void cmdAddNew_Click();
+    void picture1_Click();
+    /// A window is loaded besides the host (help, once used, isn't one), and the active one holds changes.
+    [[nodiscard]] bool leavesChanges() const;
+    [[nodiscard]] bool onlyHelpIsOpen() const;
+    [[nodiscard]] bool mayGoDown();
+
+    session::Session& session_;
+    HostPanel* panel_;
+    data::Recordset rsHost_;
+    CategoryTree categories_;
+    Dispatch dispatch_;
+    int iCurrentNode_ = 1;
+};
+
+}  // namespace app

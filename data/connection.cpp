@@ -1,0 +1,115 @@
+#include "data/connection.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "data/connection_private.h"
+#include "data/recordset.h"
+
+using namespace Qt::StringLiterals;
+
+namespace data {
+
+using platform::RuntimeError;
+
+namespace {
+
+/// How long a statement waits for another program that is writing to the file.
+constexpr int busyMilliseconds = 2000;
+
+/// The engine would make a missing file and take an empty one for a new database.
+void refuseWhatIsNoFile(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.dir().exists())
+        throw providerError(ProviderError::Failed,
+                            u"'%1' is not a valid path.  Make sure that the path name is spelled correctly and that "
+                            "you are connected to the server on which the file resides."_s.arg(path));
+    if (!file.isFile()) throw providerError(ProviderError::Failed, u"Could not find file '%1'."_s.arg(path));
+    if (file.size() == 0) throw providerError(ProviderError::Failed, u"Unrecognized database format '%1'."_s.arg(path));
+}
+
+/// Deleting the journal ends a save, so that one file is always the whole database; EXTRA also flushes the folder
+/// behind that, without which a finished save could be taken back by a power cut.
+void configure(SQLite::Database& database) {
+    database.exec("PRAGMA trusted_schema=OFF");
+    database.exec("PRAGMA foreign_keys=OFF");
+    database.exec("PRAGMA synchronous=EXTRA");
+    database.tryExec("PRAGMA journal_mode=DELETE");
+}
+
+/// Reading the schema rolls an interrupted save back and finds most damage; a last page cut short is not noticed by it.
+void checkWhole(SQLite::Database& database, const QString& path) {
+    database.execAndGet("SELECT count(*) FROM sqlite_schema");
+    const qint64 pages = database.execAndGet("PRAGMA page_count").getInt64();
+    const qint64 pageSize = database.execAndGet("PRAGMA page_size").getInt64();
+    if (QFileInfo(path).size() < pages * pageSize)
+        throw providerError(ProviderError::Failed, u"Unrecognized database format '%1'."_s.arg(path));
+}
+
+std::unique_ptr<SQLite::Database> openDatabase(const QString& path) {
+    try {
+        const auto file = QFileInfo(path).absoluteFilePath().toStdString();
+        auto database = std::make_unique<SQLite::Database>(file, SQLite::OPEN_READWRITE, busyMilliseconds);
+        configure(*database);
+        checkWhole(*database, path);
+        return database;
+    } catch (const SQLite::Exception& cause) {
+        throw openingError(cause, path);
+    }
+}
+
+}  // namespace
+
+Connection::Connection() : d_(std::make_unique<Private>()) {}
+
+Connection::~Connection() {
+    close();
+}
+
+void Connection::setCursorLocation(CursorLocation location) {
+    d_->location = location;
+}
+
+CursorLocation Connection::cursorLocation() const {
+    return d_->location;
+}
+
+void Connection::open(const QString& path) {
+    if (isOpen()) throw RuntimeError(3705);
+    refuseWhatIsNoFile(path);
+    d_->database = openDatabase(path);
+    d_->path = path;
+    watchRowChanges(*d_);
+}
+
+void Connection::close() {
+    while (!d_->recordsets.empty())
+        d_->recordsets.back()->release();
+    d_->database.reset();
+    d_->path.clear();
+}
+
+bool Connection::isOpen() const {
+    return d_->database != nullptr;
+}
+
+QString Connection::path() const {
+    return d_->path;
+}
+
+std::vector<QString> Connection::tableNames() const {
+    if (!isOpen()) throw RuntimeError(3709);
+    // Tables whose names begin "MSys" count as system tables, which come before the user's.
+    const char* statement =
+        "SELECT name FROM sqlite_schema WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "
+        "ORDER BY type, substr(name, 1, 4) <> 'MSys', name COLLATE NOCASE";
+    return d_->run(QString::fromUtf8(statement), [statement](SQLite::Database& database) {
+        std::vector<QString> names;
+        SQLite::Statement rows(database, statement);
+        while (rows.executeStep())
+            names.push_back(QString::fromUtf8(rows.getColumn(0).getText()));
+        return names;
+    });
+}
+
+}  // namespace data

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "data/connection.h"
+#include "data/row_set.h"
+
+namespace SQLite {
+class Statement;
+}
+
+namespace data {
+
+/// The columns that a prepared select shows.
+[[nodiscard]] std::vector<ShownColumn> shownColumns(const SQLite::Statement& statement);
+
+/// The values of all rows of a select whose rows have no key of their own: a join of several tables' columns, groups,
+/// expressions. They can't be written.
+class FetchedRows : public RowSet {
+public:
+    /// Throws the provider's errors.
+    FetchedRows(Connection::Private& connection, SQLite::Statement& statement);
+
+    [[nodiscard]] const std::vector<ShownColumn>& columns() const override { return columns_; }
+    [[nodiscard]] int count() const override { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] std::optional<StoredRow> read(int row) override { return rows_[static_cast<size_t>(row)]; }
+
+private:
+    std::vector<ShownColumn> columns_;
+    std::vector<StoredRow> rows_;
+};
+
+}  // namespace data

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+#include "platform/base/runtime_error.h"
+
+namespace SQLite {
+class Database;
+class Exception;
+}  // namespace SQLite
+
+namespace data {
+
+/// Numbers of the database provider's errors.
+enum class ProviderError : int {
+    Failed = -2147467259,
+    Syntax = -2147217900,
+    BookmarkInvalid = -2147217906,
+    MissingParameter = -2147217904,
+    DoesNotFit = -2147217887,
+    RowDeleted = -2147217885,
+    NoFetchBackward = -2147217884,
+    Duplicate = -2147217873,
+    MissingTable = -2147217865,
+    RowChanged = -2147217864,
+};
+
+/// The error with its standing words; Failed and Syntax have none of their own and take them from the place.
+[[nodiscard]] platform::RuntimeError providerError(ProviderError number);
+[[nodiscard]] platform::RuntimeError providerError(ProviderError number, const QString& words);
+
+/// What the provider says when SQLite fails while it prepares or runs a statement.
+[[nodiscard]] platform::RuntimeError statementError(const SQLite::Exception& cause, SQLite::Database& database,
+                                                    const QString& statement);
+
+/// What the provider says when the file can't be opened or turns out to be no database.
+[[nodiscard]] platform::RuntimeError openingError(const SQLite::Exception& cause, const QString& path);
+
+}  // namespace data

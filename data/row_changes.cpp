@@ -1,0 +1,45 @@
+#include <sqlite3.h>
+
+#include "data/connection_private.h"
+#include "data/keyed_rows.h"
+
+namespace data {
+
+namespace {
+
+QVariant oldValue(sqlite3* database, int column) {
+    sqlite3_value* value = nullptr;
+    if (sqlite3_preupdate_old(database, column, &value) != SQLITE_OK) return {};
+    switch (sqlite3_value_type(value)) {
+        case SQLITE_INTEGER:
+            return QVariant(static_cast<qlonglong>(sqlite3_value_int64(value)));
+        case SQLITE_FLOAT:
+            return QVariant(sqlite3_value_double(value));
+        case SQLITE_TEXT: {
+            const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+            return QVariant(QString::fromUtf8(text, sqlite3_value_bytes(value)));
+        }
+        case SQLITE_BLOB: {
+            const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
+            return QVariant(QByteArray(bytes, sqlite3_value_bytes(value)));
+        }
+        default:
+            return {};
+    }
+}
+
+void beforeChange(void* context, sqlite3* database, int operation, const char*, const char* table, sqlite3_int64 rowId,
+                  sqlite3_int64) {
+    if (operation == SQLITE_INSERT) return;
+    const auto* connection = static_cast<Connection::Private*>(context);
+    for (auto* snapshot : connection->snapshots)
+        snapshot->keep(table, rowId, [database](int column) { return oldValue(database, column); });
+}
+
+}  // namespace
+
+void watchRowChanges(Connection::Private& connection) {
+    sqlite3_preupdate_hook(connection.database->getHandle(), beforeChange, &connection);
+}
+
+}  // namespace data

@@ -1,0 +1,40 @@
+#include "data/value_text.h"
+
+#include "data/provider_error.h"
+#include "platform/base/conversions.h"
+#include "platform/base/date_text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace data {
+
+namespace {
+
+/// A text that is none of its column's kind fails as a value that doesn't fit, not as a mismatch of types.
+template <typename Conversion>
+auto fitting(Conversion conversion) {
+    try {
+        return conversion();
+    } catch (const platform::RuntimeError&) {
+        throw providerError(ProviderError::DoesNotFit);
+    }
+}
+
+}  // namespace
+
+QString plainText(const QVariant& value) {
+    if (value.typeId() == QMetaType::Double) return platform::numberText(value.toDouble());
+    if (value.typeId() == QMetaType::Bool) return value.toBool() ? u"True"_s : u"False"_s;
+    if (value.typeId() == QMetaType::QDate) return platform::dateText(QDateTime(value.toDate(), QTime(0, 0), Qt::UTC));
+    return value.typeId() == QMetaType::QDateTime ? platform::dateText(value.toDateTime()) : value.toString();
+}
+
+double numberFromText(const QString& text) {
+    return fitting([&text] { return platform::toDouble(text); });
+}
+
+QDateTime dateFromText(const QString& text) {
+    return fitting([&text] { return platform::toDate(text); });
+}
+
+}  // namespace data
