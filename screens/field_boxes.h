@@ -69,6 +69,9 @@ public:
     void bindFirstCombo(platform::RecordSource* rows);
     /// Fills the status combo with its own items and every other combo with the names of the states.
     void fillCombos(const QStringList& states);
+    /// Tab runs through the boxes in index order, then through the check boxes. To be called when they stand in their
+    /// frames.
+    void orderTabs() const;
     /// Copies each combo's text into its shadow, for the output that walks the text boxes.
     void copyShadows();
 
