@@ -1,28 +1,40 @@
 #include "data/value_text.h"
 
 #include "data/provider_error.h"
+#include "platform/base/conversions.h"
+#include "platform/base/date_text.h"
 
 using namespace Qt::StringLiterals;
 
 namespace data {
 
+namespace {
+
+/// A text that is none of its column's kind fails as a value that doesn't fit, not as a mismatch of types.
+template <typename Conversion>
+auto fitting(Conversion conversion) {
+    try {
+        return conversion();
+    } catch (const platform::RuntimeError&) {
+        throw providerError(ProviderError::DoesNotFit);
+    }
+}
+
+}  // namespace
+
 QString plainText(const QVariant& value) {
-    if (value.typeId() == QMetaType::Double) return QString::number(value.toDouble(), 'g', 15);
+    if (value.typeId() == QMetaType::Double) return platform::numberText(value.toDouble());
     if (value.typeId() == QMetaType::Bool) return value.toBool() ? u"True"_s : u"False"_s;
-    if (value.typeId() == QMetaType::QDateTime) return value.toDateTime().toString(u"M/d/yyyy"_s);
-    return value.toString();
+    if (value.typeId() == QMetaType::QDate) return platform::dateText(QDateTime(value.toDate(), QTime(0, 0), Qt::UTC));
+    return value.typeId() == QMetaType::QDateTime ? platform::dateText(value.toDateTime()) : value.toString();
 }
 
 double numberFromText(const QString& text) {
-    bool ok = false;
-    const double number = text.toDouble(&ok);
-    return ok ? number : throw providerError(ProviderError::DoesNotFit);
+    return fitting([&text] { return platform::toDouble(text); });
 }
 
 QDateTime dateFromText(const QString& text) {
-    QDate day = QDate::fromString(text, Qt::ISODate);
-    if (!day.isValid()) day = QDate::fromString(text, u"M/d/yyyy"_s);
-    return day.isValid() ? QDateTime(day, QTime(0, 0), Qt::UTC) : throw providerError(ProviderError::DoesNotFit);
+    return fitting([&text] { return platform::toDate(text); });
 }
 
 }  // namespace data

@@ -1,0 +1,18 @@
+# The Debian packages that the project needs, in the one place that names them.
+
+# To build, run and test.
+buildPackages=(
+  g++ cmake ninja-build ccache
+  qt6-base-dev      # windows, printing, tests; brings the X11 and the headless platform along
+  qt6-svg-dev       # draws the icons of the application folder
+  libqt6svg6        # lets the icon theme's pictures be read at run time
+  libgl-dev         # Qt's own CMake files ask for it
+  libsqlite3-dev libsqlitecpp-dev
+  breeze-icon-theme # toolbar pictures
+  fonts-liberation  # the type-writer font of the documents, and any font at all on a bare machine
+  libgtest-dev libbenchmark-dev
+  xvfb xauth        # a display for machines that have none
+)
+
+# For .ci/run alone.
+checkPackages=(clang-format clang-tidy)
