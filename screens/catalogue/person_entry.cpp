@@ -19,9 +19,11 @@ constexpr Frame frames[] = {
 constexpr ScreenDefinition entry{
     .name = "frmKinbook"_L1,
     .table = "Person"_L1,
+    .recordset = "adoPrimaryRS"_L1,
     .title = "Birth Information"_L1,
     .attachmentPrefix = "Kbk_"_L1,
     .addCaption = "&Add New Family Member"_L1,
+    .reportsLoadFailure = true,
     .combos = combos,
     .dates = dates,
     .checks = checks,

@@ -91,7 +91,7 @@ struct ScreenDefinition {
     QLatin1StringView table;
     QLatin1StringView recordset{};
     QLatin1StringView caption{};           ///< before the load gives the title; empty: the table's
-    QLatin1StringView title;               ///< ahead of the selected name; whole where there is none to follow
+    QLatin1StringView title{};             ///< ahead of the selected name; whole where there is none to follow
     QLatin1StringView attachmentPrefix{};  ///< empty: no attachments
     QLatin1StringView addCaption;
 
