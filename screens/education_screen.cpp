@@ -1,5 +1,7 @@
 #include "screens/education_screen.h"
 
+#include <QTimer>
+
 #include "platform/forms/text_control.h"
 
 namespace screens {
