@@ -171,12 +171,10 @@ int columnWidth(const QAbstractItemView& view, int column) {
 }
 
 QString focusName() {
-    for (QWidget* widget = QApplication::focusWidget(); widget; widget = widget->parentWidget()) {
-        if (platform::Control* control = platform::Control::of(widget)) return control->name();
-        if (widget->isWindow()) break;
-        if (!widget->objectName().isEmpty() && platform::Form::of(widget)) return widget->objectName();
-    }
-    return {};
+    QWidget* focus = QApplication::focusWidget();
+    if (!platform::Form::of(focus)) return {};
+    if (platform::Control* control = platform::Control::of(focus)) return control->name();
+    return focus->objectName();
 }
 
 QJsonValue nullIfEmpty(const QString& text) {

@@ -62,7 +62,7 @@ public:
         layout->addWidget(makeButtons());
         makeMenu();
         log_->setObjectName(u"lblLog"_s);
-        log_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        log_->hide();
     }
 
     [[nodiscard]] bool keyPreview() const override { return true; }

@@ -16,6 +16,8 @@
 #include <QStyleOptionComboBox>
 #include <QToolBar>
 #include <QToolButton>
+#include <chrono>
+#include <thread>
 
 #include "platform/forms/combo_box.h"
 #include "platform/forms/desktop.h"
@@ -34,8 +36,10 @@ namespace support {
 
 namespace {
 
-/// The list of a combo takes no choice within a double click's time of the press that opened it.
-constexpr int doubleClickMilliseconds = 1;
+/// The list of a combo takes no choice within a double click's time of the press that opened it, but closes when the
+/// button is let go later than that.
+constexpr std::chrono::milliseconds doubleClick{150};
+constexpr int mostTries = 4;
 
 template <class Dialog>
 Dialog& openDialog(const QString& what) {
@@ -153,7 +157,7 @@ QTreeWidgetItem& shownNode(platform::TreeView& tree, const QString& key) {
 
 User::User(MakeProgram make) : make_(std::move(make)), gui_([this] { return settled(); }) {
     gui_.look([] {
-        QApplication::setDoubleClickInterval(doubleClickMilliseconds);
+        QApplication::setDoubleClickInterval(doubleClick.count());
         for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip}) {
             QApplication::setEffectEnabled(effect, false);
         }
@@ -235,11 +239,28 @@ void User::key(const QString& name) {
     stroke(keyNamed(name));
 }
 
+bool User::openList(const QString& combo, const QString& entry) {
+    gui_.act([&] {
+        const Spot arrow = spotOnArrow(comboFor(finder().control(combo), entry));
+        press(arrow);
+        letGo(arrow);
+    });
+    std::this_thread::sleep_for(doubleClick);
+    return read([&] { return comboFor(finder().control(combo), entry).view()->isVisible(); });
+}
+
 void User::pick(const QString& combo, const QString& entry) {
-    click([&] { return spotOnArrow(comboFor(finder().control(combo), entry)); });
+    const auto isLocked = [&] {
+        const auto* box = dynamic_cast<platform::ComboBox*>(&finder().control(combo));
+        return box && box->isLocked();
+    };
+    const int tries = read(isLocked) ? 1 : mostTries;
+    bool open = false;
+    for (int i = 0; i < tries && !open; ++i)
+        open = openList(combo, entry);
+    if (!open) throw Refused(u"the list of %1 did not open"_s.arg(combo));
     click([&] {
         QComboBox& box = comboFor(finder().control(combo), entry);
-        if (!box.view()->isVisible()) throw Refused(u"the list of %1 did not open"_s.arg(combo));
         const int row = box.findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
         return spotOnRow(*box.view(), box.model()->index(row, box.modelColumn()));
     });

@@ -78,6 +78,7 @@ private:
     void click(const std::function<Spot()>& find, Qt::MouseButton button = Qt::LeftButton);
     void stroke(const KeyStroke& stroke);
     void typeAll(const QString& text);
+    [[nodiscard]] bool openList(const QString& combo, const QString& entry);
     void setExpanded(const QString& key, bool expanded);
     void chooseFromMenu(const QString& name);
     void leaveProgram();
