@@ -45,8 +45,17 @@ bool Dispatch::tooManyWindows() const {
 }
 
 bool Dispatch::follow(const QString& key) {
-    const DispatchRow* row = dispatchRow(key);
-    return !row || openWindow(*row);
+    if (const DispatchRow* row = dispatchRow(key)) return openWindow(*row);
+    if (key == u"PINsPasswords"_s) openPins();
+    return true;
+}
+
+void Dispatch::openPins() {
+    if (!host_.session().gbWholeFamily) return;
+    host_.desktop().notice(
+        u"No family member has been selected.  The PIN And Password screen is tied \r\n"
+        "to specific family members.  Please select a family member."_s,
+        u"No Family Member Selected"_s, platform::Icon::Information);
 }
 
 bool Dispatch::openWindow(const DispatchRow& row) {

@@ -18,6 +18,8 @@ private:
     /// False for a refusal that ends the click there, with the node's picture as it is.
     [[nodiscard]] bool follow(const QString& key);
     [[nodiscard]] bool openWindow(const DispatchRow& row);
+    /// The list of accounts belongs to one member, so one has to be selected.
+    void openPins();
     [[nodiscard]] bool tooManyWindows() const;
 
     MDIHost& host_;

@@ -45,8 +45,8 @@ private:
     platform::ComboBox* cbPerson_;
     platform::CommandButton* cmdAddNew_;
     platform::TreeView* tvTree_;
+    QLabel* label1_ = nullptr;  // made along with the guidance
     QWidget* guidance_;
-    QLabel* label1_ = nullptr;
     std::function<void()> clicked_;
 };
 

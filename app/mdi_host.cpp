@@ -1,8 +1,10 @@
 #include "app/mdi_host.h"
 
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QMenu>
+#include <QScreen>
 
 #include "app/host_panel.h"
 #include "app/tree_pictures.h"
@@ -41,7 +43,8 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
     setPanel(*panel_);
     setCaption(u"Larkmoor Kinbook"_s);
     setWindowIcon(QIcon(session.path(u"TheLarkmoorIcon.ico"_s)));
-    resize(1200, 800);
+    // Leaves room for the frame that the desktop puts around the window.
+    resize(QSize(1200, 800).boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(8, 40)));
     makeMenus();
     connectControls();
 }

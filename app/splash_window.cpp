@@ -44,6 +44,7 @@ SplashWindow::SplashWindow(platform::Desktop& desktop, const session::Session& s
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     setFocusPolicy(Qt::StrongFocus);
     setCaption(session.definition.gsProductName);
+    setAttribute(Qt::WA_StyledBackground);
     imgFullLogo = makeLabel(u"imgFullLogo"_s);
     imgLarkmoorLogo = makeLabel(u"imgLarkmoorLogo"_s);
     imgLogo = makeLabel(u"imgLogo"_s);
@@ -108,6 +109,7 @@ void SplashWindow::layOut() {
     product->addStretch(1);
 
     auto* words = new QVBoxLayout;
+    words->setSpacing(2);
     words->addWidget(imgFullLogo);
     words->addWidget(lblCompanyName);
     words->addSpacing(lineGap);

@@ -1,15 +1,10 @@
 # Lays out the application folder: `cmake --install build --prefix Kinbook`.
 # The program and what it ships are refreshed each time. What a family has written there is laid down once and then left alone.
 
-# What must be built before the folder can be laid out.
-add_custom_target(application DEPENDS icons)
-foreach(target kinbook template)
-  if(TARGET ${target})
-    add_dependencies(application ${target})
-  endif()
-endforeach()
+# All that must be built before the folder can be laid out.
+add_custom_target(application DEPENDS kinbook empty_database icons)
 
-install(PROGRAMS ${CMAKE_BINARY_DIR}/app/kinbook DESTINATION .)
+install(TARGETS kinbook RUNTIME DESTINATION .)
 install(FILES
   ${CMAKE_BINARY_DIR}/FamilyInfo_Empty.mdb
   ${CMAKE_BINARY_DIR}/TheLarkmoorIcon.ico

@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <cmath>
-#include <limits>
 
 #include "data/provider_error.h"
 #include "data/value_text.h"
@@ -33,7 +32,9 @@ QVariant shownDate(const QVariant& stored) {
 }
 
 QVariant storedText(const QVariant& value, int maxLength) {
-    const QString text = plainText(value);
+    QString text = plainText(value);
+    // Half of a surrogate pair has no place in the file's encoding and would come back as another sign.
+    if (!text.isValidUtf16()) text = QString::fromUtf8(text.toUtf8());
     if (maxLength > 0 && text.size() > maxLength) doesNotFit();
     return text;
 }
@@ -49,10 +50,11 @@ double numberOf(const QVariant& value) {
 /// Halves go to the even neighbour, as everywhere a fraction meets a whole number.
 QVariant storedNumber(const QVariant& value, int wholeBits) {
     const double number = numberOf(value);
+    if (!std::isfinite(number)) doesNotFit();
     if (wholeBits == 0) return number;
     const double whole = std::nearbyint(number);
     const double limit = std::ldexp(1.0, wholeBits - 1);
-    if (!(whole >= -limit && whole < limit)) doesNotFit();
+    if (whole < -limit || whole >= limit) doesNotFit();
     return static_cast<qlonglong>(whole);
 }
 

@@ -5,6 +5,7 @@
 #include <QScopeGuard>
 #include <QStringList>
 #include <algorithm>
+#include <limits>
 
 #include "data/connection_private.h"
 #include "data/select_shape.h"
@@ -195,6 +196,16 @@ void KeyedRows::keep(const char* table, qint64 key, const std::function<QVariant
     for (const int column : tableColumns_)
         row.push_back(oldValue(column));
     aside_.emplace(key, std::move(row));
+}
+
+/// Tables without a counter give the number of a deleted row again.
+void KeyedRows::retire(const char* table, qint64 key) {
+    if (tableName_ != table || !aside_.contains(key)) return;
+    const qint64 nobodys = std::numeric_limits<qint64>::min() + retired_++;
+    std::replace(keys_.begin(), keys_.end(), key, nobodys);
+    auto kept = aside_.extract(key);
+    kept.key() = nobodys;
+    aside_.insert(std::move(kept));
 }
 
 }  // namespace data

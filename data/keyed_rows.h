@@ -45,6 +45,9 @@ public:
     /// @param oldValue gives the value of a column of the table, by the column's number there
     void keep(const char* table, qint64 key, const std::function<QVariant(int)>& oldValue);
 
+    /// A row whose number is given to a new one is known by that number no longer.
+    void retire(const char* table, qint64 key);
+
 private:
     KeyedRows(Connection::Private& connection, BaseTable table);
     bool showColumns(const SelectShape& shape);
@@ -63,6 +66,7 @@ private:
     std::unordered_map<qint64, StoredRow> aside_;
     std::unique_ptr<SQLite::Statement> reading_;
     std::optional<StoredRow> defaults_;
+    int retired_ = 0;
     bool isWriting_ = false;
 };
 

@@ -55,13 +55,18 @@ RuntimeError unrecognized(const QString& path) {
     return providerError(ProviderError::Failed, u"Unrecognized database format '%1'."_s.arg(path));
 }
 
-/// A full disk shows in several result codes; the operating system's own number tells them apart.
+bool meansNoRoom(int systemError) {
+    return systemError == ENOSPC || systemError == EDQUOT || systemError == EFBIG;
+}
+
+/// A full disk shows in several result codes; the operating system's own number tells them apart. SQLite keeps it for
+/// the statement, or for the file when the failure came at the very end of the save.
 bool isFullDisk(const SQLite::Exception& cause, SQLite::Database& database) {
     const int code = cause.getErrorCode();
-    if (code == SQLITE_FULL) return true;
-    const int system = sqlite3_system_errno(database.getHandle());
-    return (code == SQLITE_IOERR || code == SQLITE_CANTOPEN) &&
-           (system == ENOSPC || system == EDQUOT || system == EFBIG);
+    if (code != SQLITE_IOERR && code != SQLITE_CANTOPEN) return code == SQLITE_FULL;
+    int ofFile = 0;
+    sqlite3_file_control(database.getHandle(), "main", SQLITE_FCNTL_LAST_ERRNO, &ofFile);
+    return meansNoRoom(ofFile) || meansNoRoom(sqlite3_system_errno(database.getHandle()));
 }
 
 RuntimeError missingTable(const QString& name) {

@@ -451,11 +451,12 @@ void Recordset::setValue(const QString& column, const QVariant& value) {
     d_->requireWritable();
     const int number = d_->columnNumber(column);
     d_->requireRow();
-    const QVariant stored = storedForm(value, *d_->columns()[static_cast<size_t>(number)].type);
+    const auto& shown = d_->columns()[static_cast<size_t>(number)];
+    const QVariant stored = storedForm(value, *shown.type);
     if (!d_->hasPending()) Q_EMIT willChangeRecord();
     d_->pending[number] = stored;
     if (d_->mode == EditMode::None) d_->mode = EditMode::InProgress;
-    Q_EMIT valueSet(column);
+    Q_EMIT valueSet(shown.name);
 }
 
 ColumnKind Recordset::columnKind(const QString& column) const {

@@ -19,9 +19,13 @@ enum class EditMode { None = 0, InProgress = 1, Add = 2, Deleted = 4 };
 
 /// The rows of one statement, one of them current.
 ///
-/// A forward-only recordset streams. Every other one takes the keys of its rows at open() and reads a row when it
-/// is reached. Only selects over one table, or over the columns of one table of a join (`SELECT X.* FROM ..`), can be
-/// written.
+/// Only a server cursor of the forward-only type streams. Every other recordset takes the keys of its rows at open()
+/// and reads a row when it is reached; which rows there are and what they hold stays as it was then, whatever other
+/// statements of the connection do, until requery(). Only selects over one table, or over the columns of one table of
+/// a join (`SELECT X.* FROM ..`), can be written; the rows of any other select are fetched whole at open().
+///
+/// A move, requery or close never asks bound controls for what stands in them, but a move writes what code has set.
+/// After rowShown() comes moveComplete(), whose handlers may read, but get 3219 when they move.
 class Recordset : public platform::RecordSource {
     Q_OBJECT
 
@@ -72,7 +76,9 @@ public:
     [[nodiscard]] platform::ColumnKind columnKind(const QString& column) const override;
 
 Q_SIGNALS:
+    /// After open(), addNew(), requery() and every move, also one that failed; not after deleteCurrent() or update().
     void moveComplete();
+    /// Before the first change of a row, and before it is added, written, given up or deleted.
     void willChangeRecord();
 
 private:

@@ -28,12 +28,15 @@ QVariant oldValue(sqlite3* database, int column) {
     }
 }
 
-void beforeChange(void* context, sqlite3* database, int operation, const char*, const char* table, sqlite3_int64 rowId,
-                  sqlite3_int64) {
-    if (operation == SQLITE_INSERT) return;
+void beforeChange(void* context, sqlite3* database, int operation, const char*, const char* table, sqlite3_int64 oldKey,
+                  sqlite3_int64 newKey) {
     const auto* connection = static_cast<Connection::Private*>(context);
-    for (auto* snapshot : connection->snapshots)
-        snapshot->keep(table, rowId, [database](int column) { return oldValue(database, column); });
+    for (auto* snapshot : connection->snapshots) {
+        if (operation == SQLITE_INSERT)
+            snapshot->retire(table, newKey);
+        else
+            snapshot->keep(table, oldKey, [database](int column) { return oldValue(database, column); });
+    }
 }
 
 }  // namespace

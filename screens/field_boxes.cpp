@@ -101,6 +101,19 @@ void FieldBoxes::bindCombos(platform::RecordSource* rows) {
     for (const Combo& combo : combos_) combo.binding->setSource(rows);
 }
 
+void FieldBoxes::orderTabs() const {
+    QWidget* before = nullptr;
+    const auto follow = [&before](QWidget* next) {
+        if (before) QWidget::setTabOrder(before, next);
+        before = next;
+    };
+    for (const auto& [index, text] : texts_) {
+        QWidget* combo = comboOver(index);
+        follow(combo ? combo : &text.box->widget());
+    }
+    for (const Check& check : checks_) follow(check.box);
+}
+
 void FieldBoxes::copyShadows() {
     for (const Combo& combo : combos_) {
         platform::TextControl& shadow = text(combo.column.shadow);

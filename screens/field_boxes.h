@@ -63,6 +63,9 @@ public:
     void bind(platform::RecordSource* rows);
     void bindDates(platform::RecordSource* rows);
     void bindCombos(platform::RecordSource* rows);
+    /// Tab runs through the boxes in index order, then through the check boxes. To be called when they stand in their
+    /// frames.
+    void orderTabs() const;
     /// Copies each combo's text into its shadow, for the output that walks the text boxes.
     void copyShadows();
 

@@ -54,12 +54,13 @@ public:
     void addChecks(Range range) {
         newRow();
         auto* row = new QGridLayout;
-        row->setHorizontalSpacing(18);
+        row->setHorizontalSpacing(24);
         for (int i = range.first; i <= range.last; ++i) {
             QWidget* box = boxes_.checks().at(static_cast<std::size_t>(i)).box;
             box->setParent(&frame_);
             row->addWidget(box, (i - range.first) / checksPerRow, (i - range.first) % checksPerRow);
         }
+        row->setColumnStretch(checksPerRow, 1);
         grid_->addLayout(row, row_, 0, 1, columnsOfBoxes * cellsPerBox);
         ++row_;
     }

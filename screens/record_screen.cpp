@@ -57,6 +57,7 @@ void RecordScreen::layOut() {
     lblAttachments_->setObjectName(u"lblAttachments"_s);
     layOutFrames(*page, *frames, definition_, boxes_, *lblAttachments_);
     scroll->setWidget(page);
+    boxes_.orderTabs();
     column->addWidget(scroll, 1);
 
     auto* foot = new QVBoxLayout;

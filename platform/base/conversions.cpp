@@ -36,7 +36,7 @@ QString takeExponent(TextScanner& scanner) {
     const bool isSigned = scanner.accept(u"+-");
     const QStringView digits = scanner.takeWhile(isDigit);
     if (digits.isEmpty()) {
-        scanner.goBack(start);
+        scanner.goTo(start);
         return {};
     }
     return u"e"_s + (isSigned ? QString(sign) : QString()) + digits.toString();

@@ -1,5 +1,6 @@
 #include "platform/base/date_text.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <vector>
@@ -20,17 +21,18 @@ constexpr std::array<QStringView, 12> monthNames{u"january",   u"february", u"ma
 
 const QDate dayZero(1899, 12, 30);
 
-/// A run of digits, a run of letters, or one other character.
+/// A run of digits, a run of letters, or one other character: a view into the text that is read.
 struct Token {
     enum class Kind { Number, Word, Mark };
     Kind kind;
-    QString text;
+    QStringView text;
     int value;  ///< of a number; -1 for one that no date or time could hold
     bool afterBlank;
 };
 
-std::vector<Token> tokensOf(const QString& text) {
+std::vector<Token> tokensOf(QStringView text) {
     std::vector<Token> tokens;
+    tokens.reserve(8);
     TextScanner scanner(text);
     for (;;) {
         const bool afterBlank = !scanner.takeWhile([](QChar c) { return c == u' '; }).isEmpty();
@@ -38,21 +40,23 @@ std::vector<Token> tokensOf(const QString& text) {
         if (const auto digits = scanner.takeWhile(isDigit); !digits.isEmpty()) {
             bool fits = false;
             const int value = digits.toInt(&fits);
-            tokens.push_back({Token::Kind::Number, digits.toString(), fits ? value : -1, afterBlank});
+            tokens.push_back({Token::Kind::Number, digits, fits ? value : -1, afterBlank});
         } else if (const auto word = scanner.takeWhile([](QChar c) { return c.isLetter(); }); !word.isEmpty()) {
-            tokens.push_back({Token::Kind::Word, word.toString().toLower(), 0, afterBlank});
+            tokens.push_back({Token::Kind::Word, word, 0, afterBlank});
         } else {
-            const QString mark(scanner.peek());
-            scanner.accept(mark);
-            tokens.push_back({Token::Kind::Mark, mark, 0, afterBlank});
+            const qsizetype at = scanner.position();
+            scanner.goTo(at + 1);
+            tokens.push_back({Token::Kind::Mark, text.sliced(at, 1), 0, afterBlank});
         }
     }
 }
 
 /// 1 to 12 for a month's name or its first three letters.
-std::optional<int> monthOf(const QString& word) {
+std::optional<int> monthOf(QStringView word) {
     for (std::size_t i = 0; i < monthNames.size(); ++i) {
-        if (word == monthNames[i] || word == monthNames[i].first(3)) return static_cast<int>(i) + 1;
+        const QStringView name = monthNames[i];
+        const bool same = word.compare(name, Qt::CaseInsensitive) == 0;
+        if (same || word.compare(name.first(3), Qt::CaseInsensitive) == 0) return static_cast<int>(i) + 1;
     }
     return std::nullopt;
 }
@@ -99,7 +103,7 @@ std::optional<QDate> fromMonthAndNumbers(int month, const std::vector<int>& numb
 /// Reads the tokens of one text as a date, a time, or one of each.
 class DateReader {
 public:
-    explicit DateReader(const QString& text) : tokens_(tokensOf(text)) {}
+    explicit DateReader(QStringView text) : tokens_(tokensOf(text)) {}
 
     std::optional<QDateTime> read() {
         std::optional<QDate> date;
@@ -127,9 +131,11 @@ private:
         return at < tokens_.size() && tokens_[at].kind == Token::Kind::Mark && marks.contains(tokens_[at].text);
     }
     [[nodiscard]] bool isHalfOfDay(std::size_t at) const {
-        if (at >= tokens_.size()) return false;
-        const QString& word = tokens_[at].text;
-        return word == u"am" || word == u"pm" || word == u"a" || word == u"p";
+        if (at >= tokens_.size() || tokens_[at].kind != Token::Kind::Word) return false;
+        constexpr std::array<QStringView, 4> halves{u"am", u"pm", u"a", u"p"};
+        return std::any_of(halves.begin(), halves.end(), [word = tokens_[at].text](QStringView half) {
+            return word.compare(half, Qt::CaseInsensitive) == 0;
+        });
     }
     [[nodiscard]] bool timeStartsAt(std::size_t at) const {
         return isNumber(at) && (isMark(at + 1, u":.") || isHalfOfDay(at + 1));
@@ -144,7 +150,7 @@ private:
         auto& [hour, minute, second] = parts;
         if (!QTime::isValid(hour, minute, second)) return std::nullopt;
         if (isHalfOfDay(at_) && hour <= 12) {
-            const bool afternoon = tokens_[at_].text.startsWith(u'p');
+            const bool afternoon = tokens_[at_].text.startsWith(u'p', Qt::CaseInsensitive);
             hour = hour % 12 + (afternoon ? 12 : 0);
         }
         if (isHalfOfDay(at_)) ++at_;
@@ -185,7 +191,7 @@ private:
 };
 
 QString shortDate(const QDate& date) {
-    return u"%1/%2/%3"_s.arg(date.month()).arg(date.day()).arg(date.year());
+    return QString::number(date.month()) + u'/' + QString::number(date.day()) + u'/' + QString::number(date.year());
 }
 
 QString longTime(const QTime& time) {

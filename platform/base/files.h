@@ -38,9 +38,11 @@ void deleteFile(const QString& path, bool force);
 /// Deletes the files of a folder, not its subfolders; stops at the first error. 53 when there are none.
 void deleteAllFiles(const QString& folder, bool force);
 
-/// Copies what a folder holds, with its subfolders, into a folder that is made or merged into. 76 for a missing source.
+/// Copies what a folder holds, with its subfolders but without links to folders, into a folder that is made or merged
+/// into. Error 76 for a source that is missing or has a separator at its end, otherwise as copyFile().
 void copyFolder(const QString& source, const QString& target);
-/// Deletes a folder with all it holds. Errors: 76 missing, 70 for a read-only file inside that isn't forced.
+/// Deletes a folder with all it holds. Errors: 76 missing or with a separator at its end, 70 for a read-only file
+/// inside that isn't forced.
 void deleteFolder(const QString& path, bool force);
 
 /// Error 53 for a missing file.

@@ -15,6 +15,7 @@ QString standingWords(int number) {
         {9, u"Subscript out of range"_s},
         {13, u"Type mismatch"_s},
         {53, u"File not found"_s},
+        {57, u"Device I/O error"_s},
         {58, u"File already exists"_s},
         {61, u"Disk full"_s},
         {62, u"Input past end of file"_s},

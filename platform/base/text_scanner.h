@@ -20,7 +20,7 @@ public:
     /// The next character; NUL at the end.
     [[nodiscard]] QChar peek() const { return atEnd() ? QChar() : text_[at_]; }
     [[nodiscard]] qsizetype position() const { return at_; }
-    void goBack(qsizetype position) { at_ = position; }
+    void goTo(qsizetype position) { at_ = position; }
 
     /// Steps over the next character if it is one of these.
     bool accept(QStringView characters) {

@@ -22,8 +22,19 @@ void FormWindow::show() {
         activateWindow();
         return;
     }
-    if (!frame_) frame_ = desktop().host()->addChild(*this);
+    const bool first = !frame_;
+    if (first) frame_ = desktop().host()->addChild(*this);
     desktop().host()->bringToFront(*frame_);
+    if (first) focusFirstControl();
+}
+
+void FormWindow::focusFirstControl() {
+    for (QWidget* widget = nextInFocusChain(); widget && widget != this; widget = widget->nextInFocusChain()) {
+        const bool takesTab = (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget->focusProxy();
+        if (!takesTab || !isAncestorOf(widget) || !widget->isVisibleTo(this) || !widget->isEnabled()) continue;
+        widget->setFocus(Qt::OtherFocusReason);
+        return;
+    }
 }
 
 void FormWindow::showModal() {

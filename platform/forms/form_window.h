@@ -32,6 +32,9 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    /// A window that comes up for the first time has the focus in its first control.
+    void focusFirstControl();
+
     Kind kind_;
     QPointer<QMdiSubWindow> frame_;
     QEventLoop* modalLoop_ = nullptr;

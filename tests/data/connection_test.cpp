@@ -154,7 +154,7 @@ TEST(Killed, ProgramLosesNoSaveThatItReported) {
         .exec(
             "CREATE TABLE Log (ID INTEGER PRIMARY KEY AUTOINCREMENT, Number INTEGER, Twin INTEGER, Comment LONGTEXT)");
     int interrupted = 0;
-    for (int round = 0; round < 120; ++round) {
+    for (int round = 0; round < 104; ++round) {
         const int reported = runAndKill(path, 1 + (round * 7) % 23);
         ASSERT_GT(reported, 0);
         interrupted += QFile::exists(path + u"-journal"_s) ? 1 : 0;

@@ -133,6 +133,21 @@ TEST_F(Editing, SnapshotOutlivesWhatOtherStatementsDo) {
     EXPECT_EQ(rows.value(u"LegalName"_s), u"Z"_s);
 }
 
+TEST_F(Editing, NumberGivenAgainIsAnotherRow) {
+    sql("CREATE TABLE Plain (Name TEXT(9)); INSERT INTO Plain VALUES ('old')");
+    Recordset rows, other;
+    open(rows, "Select * from Plain");
+    other.open(u"Delete * from Plain"_s, connection_);
+    rows.addNew();
+    rows.setValue(u"Name"_s, u"new"_s);
+    rows.update();
+    EXPECT_EQ(rows.value(u"Name"_s), u"new"_s);
+    rows.moveFirst();
+    EXPECT_EQ(rows.value(u"Name"_s), u"old"_s);
+    EXPECT_EQ(errorOf([&] { rows.deleteCurrent(); }), -2147217864);
+    EXPECT_EQ(stored("SELECT Name FROM Plain"), u"new"_s);
+}
+
 TEST_F(Editing, OwnWritesShowInARowPutAside) {
     Recordset rows, other;
     open(rows, "Select * from Person");

@@ -1,0 +1,161 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <algorithm>
+#include <cerrno>
+
+#include "platform/base/file_errors.h"
+#include "platform/base/file_replacement.h"
+#include "platform/base/files.h"
+#include "platform/base/folder_entries.h"
+#include "platform/base/runtime_error.h"
+
+namespace platform::files {
+
+namespace {
+
+constexpr qint64 chunkBytes = 8 << 20;
+
+/// A file open for reading.
+class SourceFile {
+public:
+    explicit SourceFile(const QString& path) {
+        if (!fileExists(path)) throw RuntimeError(53);
+        descriptor_ = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+        if (descriptor_ < 0 || ::fstat(descriptor_, &status_) != 0) {
+            const int error = errno;
+            if (descriptor_ >= 0) ::close(descriptor_);
+            throwSystemError(error, 53);
+        }
+    }
+    ~SourceFile() { ::close(descriptor_); }
+    SourceFile(const SourceFile&) = delete;
+    SourceFile& operator=(const SourceFile&) = delete;
+
+    [[nodiscard]] int descriptor() const { return descriptor_; }
+    [[nodiscard]] qint64 size() const { return status_.st_size; }
+    [[nodiscard]] unsigned mode() const { return status_.st_mode & 0777; }
+    [[nodiscard]] bool isSameAs(const QString& path) const {
+        struct stat other {};
+        if (::stat(QFile::encodeName(path).constData(), &other) != 0) return false;
+        return other.st_dev == status_.st_dev && other.st_ino == status_.st_ino;
+    }
+
+private:
+    int descriptor_ = -1;
+    struct stat status_ {};
+};
+
+/// Copies the contents of one file into another, leaving out its holes.
+class ContentCopy {
+public:
+    ContentCopy(const SourceFile& source, FileReplacement& target, const CopyProgress& progress)
+        : source_(source), target_(target), progress_(progress) {}
+
+    void run() {
+        for (off_t at = 0; at < source_.size();) {
+            const off_t data = ::lseek(source_.descriptor(), at, SEEK_DATA);
+            const bool onlyHoleLeft = data < 0 && errno == ENXIO;
+            if (onlyHoleLeft) break;
+            // A file system that knows nothing of holes: all is data.
+            const off_t begin = data < 0 ? at : data;
+            const off_t hole = data < 0 ? -1 : ::lseek(source_.descriptor(), begin, SEEK_HOLE);
+            const off_t end = hole < 0 ? source_.size() : std::min<off_t>(hole, source_.size());
+            copySegment(begin, end);
+            at = end;
+        }
+        // Gives a hole at the end its length.
+        if (::ftruncate(target_.descriptor(), source_.size()) != 0) throwSystemError(errno, 76);
+    }
+
+private:
+    void copySegment(off_t at, off_t end) {
+        while (at < end) {
+            const auto wanted = static_cast<std::size_t>(std::min<qint64>(chunkBytes, end - at));
+            const ssize_t copied = inKernel_ ? copyInKernel(at, wanted) : copyThroughBuffer(at, wanted);
+            // The source became shorter while it was copied: half a file must not pass for a whole one.
+            if (copied == 0) throw RuntimeError(75);
+            at += copied;
+            if (progress_) progress_(at, source_.size());
+        }
+    }
+
+    ssize_t copyInKernel(off_t at, std::size_t wanted) {
+        off_t from = at;
+        off_t to = at;
+        const ssize_t copied = ::copy_file_range(source_.descriptor(), &from, target_.descriptor(), &to, wanted, 0);
+        if (copied > 0) return copied;
+        const bool full = copied < 0 && (errno == ENOSPC || errno == EDQUOT || errno == EFBIG || errno == EIO);
+        if (full) throwSystemError(errno, 53);
+        // Not between these two file systems: by hand from here on.
+        inKernel_ = false;
+        return copyThroughBuffer(at, wanted);
+    }
+
+    ssize_t copyThroughBuffer(off_t at, std::size_t wanted) {
+        constexpr std::size_t bufferBytes = 1 << 20;
+        buffer_.resize(static_cast<qsizetype>(std::min(bufferBytes, wanted)));
+        const ssize_t read =
+            ::pread(source_.descriptor(), buffer_.data(), static_cast<std::size_t>(buffer_.size()), at);
+        if (read < 0) throwSystemError(errno, 53);
+        buffer_.truncate(read);
+        if (::lseek(target_.descriptor(), at, SEEK_SET) < 0) throwSystemError(errno, 76);
+        target_.write(buffer_);
+        return read;
+    }
+
+    const SourceFile& source_;
+    FileReplacement& target_;
+    const CopyProgress& progress_;
+    QByteArray buffer_;
+    bool inKernel_ = true;
+};
+
+/// Copies one file, and gives the folder that is to be synced before the copy is lasting.
+QString copyUnsynced(const QString& source, const QString& target, const CopyProgress& progress = {}) {
+    const SourceFile from(source);
+    if (from.isSameAs(target)) throw RuntimeError(70);
+    FileReplacement to(target);
+    ContentCopy(from, to, progress).run();
+    to.setMode(from.mode());
+    to.place();
+    return to.folder();
+}
+
+void makeFolder(const QString& path) {
+    if (folderExists(path)) return;
+    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) throwSystemError(errno, 76);
+    syncFolder(parentOf(path));
+}
+
+}  // namespace
+
+void copyFile(const QString& source, const QString& target, const CopyProgress& progress) {
+    syncFolder(copyUnsynced(source, target, progress));
+}
+
+void copyAllFiles(const QString& folder, const QString& targetFolder) {
+    const QStringList names = entriesOf(folder).files;
+    if (names.isEmpty()) throw RuntimeError(53);
+    if (!folderExists(targetFolder)) throw RuntimeError(76);
+    for (const QString& name : names)
+        copyUnsynced(join(folder, name), join(targetFolder, name));
+    syncFolder(targetFolder);
+}
+
+void copyFolder(const QString& source, const QString& target) {
+    // A closing separator names what lies in the folder, not the folder.
+    if (source.endsWith(separator())) throw RuntimeError(76);
+    // Listed before the target is made, so that a folder copied into itself comes to an end.
+    const FolderEntries entries = entriesOf(source);
+    makeFolder(target);
+    for (const QString& name : entries.files)
+        copyUnsynced(join(source, name), join(target, name));
+    syncFolder(target);
+    for (const QString& name : entries.folders)
+        copyFolder(join(source, name), join(target, name));
+}
+
+}  // namespace platform::files

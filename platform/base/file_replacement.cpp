@@ -1,0 +1,69 @@
+#include "platform/base/file_replacement.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUuid>
+#include <cerrno>
+
+#include "platform/base/file_errors.h"
+#include "platform/base/files.h"
+#include "platform/base/runtime_error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform::files {
+
+FileReplacement::FileReplacement(const QString& target) {
+    // A link to a file stays a link: what it leads to is replaced.
+    const QFileInfo info(target);
+    const QFileInfo place(info.exists() ? info.canonicalFilePath() : info.absoluteFilePath());
+    folder_ = place.absolutePath();
+    target_ = QFile::encodeName(place.absoluteFilePath());
+    if (!folderExists(folder_)) throw RuntimeError(76);
+    if (place.isDir()) throw RuntimeError(70);
+    if (place.exists() && isReadOnly(target)) throw RuntimeError(70);
+
+    const QString name = u".kinbook-"_s + QUuid::createUuid().toString(QUuid::Id128);
+    temporary_ = QFile::encodeName(join(folder_, name));
+    descriptor_ = ::open(temporary_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (descriptor_ < 0) throwSystemError(errno, 76);
+}
+
+FileReplacement::~FileReplacement() {
+    ::close(descriptor_);
+    if (!temporary_.isEmpty()) ::unlink(temporary_.constData());
+}
+
+void FileReplacement::write(const QByteArray& bytes) {
+    for (qsizetype done = 0; done < bytes.size();) {
+        const ssize_t written =
+            ::write(descriptor_, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
+        if (written < 0 && errno != EINTR) throwSystemError(errno, 76);
+        if (written > 0) done += written;
+    }
+}
+
+void FileReplacement::setMode(unsigned mode) {
+    if (::fchmod(descriptor_, mode) != 0) throwSystemError(errno, 76);
+}
+
+void FileReplacement::place() {
+    if (::fsync(descriptor_) != 0) throwSystemError(errno, 76);
+    if (::rename(temporary_.constData(), target_.constData()) != 0) throwSystemError(errno, 76);
+    temporary_.clear();
+}
+
+void syncFolder(const QString& folder) {
+    const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) throwSystemError(errno, 76);
+    const int error = ::fsync(descriptor) == 0 ? 0 : errno;
+    ::close(descriptor);
+    // Some file systems keep no cache of names and refuse the call: their names are lasting already.
+    if (error != 0 && error != EINVAL) throwSystemError(error, 76);
+}
+
+}  // namespace platform::files

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace platform::files {
+
+/// A file in the making beside the one that it will replace: until place() the old one stays whole, and without it
+/// nothing is left behind.
+class FileReplacement {
+public:
+    /// Errors: 76 without the target's folder, 70 where the target is read-only, a folder, or can't be made.
+    explicit FileReplacement(const QString& target);
+    ~FileReplacement();
+    FileReplacement(const FileReplacement&) = delete;
+    FileReplacement& operator=(const FileReplacement&) = delete;
+
+    /// The open file, for writing.
+    [[nodiscard]] int descriptor() const { return descriptor_; }
+    /// The target's folder.
+    [[nodiscard]] const QString& folder() const { return folder_; }
+    /// Error 61 when the disk is full.
+    void write(const QByteArray& bytes);
+    /// Gives the file these permission bits.
+    void setMode(unsigned mode);
+    /// Flushes the file to the disk and renames it over the target. The new name is lasting after syncFolder().
+    void place();
+
+private:
+    QString folder_;
+    QByteArray target_;
+    QByteArray temporary_;
+    int descriptor_ = -1;
+};
+
+/// Makes the names in a folder last through a power cut.
+void syncFolder(const QString& folder);
+
+}  // namespace platform::files

@@ -1,0 +1,107 @@
+#include "platform/base/files.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+
+#include "platform/base/file_errors.h"
+#include "platform/base/folder_entries.h"
+#include "platform/base/runtime_error.h"
+
+namespace platform::files {
+
+namespace {
+
+struct stat statusOf(const QString& path) {
+    if (!fileExists(path)) throw RuntimeError(53);
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) throwSystemError(errno, 53);
+    return status;
+}
+
+void unlinkName(const QString& path) {
+    if (::unlink(QFile::encodeName(path).constData()) != 0) throwSystemError(errno, 53);
+}
+
+}  // namespace
+
+QChar separator() {
+    return QDir::separator();
+}
+
+QString join(const QString& folder, const QString& name) {
+    const bool closed = folder.isEmpty() || folder.endsWith(separator());
+    return closed ? folder + name : folder + separator() + name;
+}
+
+QString nameOf(const QString& path) {
+    return path.sliced(path.lastIndexOf(separator()) + 1);
+}
+
+QString folderOf(const QString& path) {
+    return path.first(qMax(0, path.lastIndexOf(separator())));
+}
+
+bool fileExists(const QString& path) {
+    return QFileInfo(path).isFile();
+}
+
+bool folderExists(const QString& path) {
+    return QFileInfo(path).isDir();
+}
+
+qint64 fileSize(const QString& path) {
+    return statusOf(path).st_size;
+}
+
+qint64 folderSize(const QString& folder) {
+    const FolderEntries entries = entriesOf(folder);
+    qint64 bytes = 0;
+    for (const QString& name : entries.files)
+        bytes += QFileInfo(join(folder, name)).size();
+    for (const QString& name : entries.folders)
+        bytes += folderSize(join(folder, name));
+    return bytes;
+}
+
+void deleteFile(const QString& path, bool force) {
+    if (isReadOnly(path) && !force) throw RuntimeError(70);
+    unlinkName(path);
+}
+
+void deleteAllFiles(const QString& folder, bool force) {
+    const QStringList names = entriesOf(folder).files;
+    if (names.isEmpty()) throw RuntimeError(53);
+    for (const QString& name : names)
+        deleteFile(join(folder, name), force);
+}
+
+void deleteFolder(const QString& path, bool force) {
+    // A closing separator names what lies in the folder, not the folder.
+    if (path.endsWith(separator())) throw RuntimeError(76);
+    const FolderEntries entries = entriesOf(path);
+    for (const QString& name : entries.files)
+        deleteFile(join(path, name), force);
+    for (const QString& name : entries.folders)
+        deleteFolder(join(path, name), force);
+    for (const QString& name : entries.links)
+        unlinkName(join(path, name));
+    if (::rmdir(QFile::encodeName(path).constData()) != 0) throwSystemError(errno, 76);
+}
+
+bool isReadOnly(const QString& path) {
+    return (statusOf(path).st_mode & S_IWUSR) == 0;
+}
+
+void setReadOnly(const QString& path, bool readOnly) {
+    constexpr mode_t everyonesWriting = S_IWUSR | S_IWGRP | S_IWOTH;
+    const mode_t mode = statusOf(path).st_mode & 07777;
+    const mode_t wanted = readOnly ? mode & ~everyonesWriting : mode | S_IWUSR;
+    if (::chmod(QFile::encodeName(path).constData(), wanted) != 0) throwSystemError(errno, 53);
+}
+
+}  // namespace platform::files

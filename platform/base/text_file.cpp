@@ -1,0 +1,43 @@
+#include <sys/stat.h>
+
+#include <QFile>
+
+#include "platform/base/file_replacement.h"
+#include "platform/base/files.h"
+#include "platform/base/runtime_error.h"
+#include "platform/base/windows1252.h"
+
+namespace platform::files {
+
+QStringList readLines(const QString& path) {
+    if (!fileExists(path)) throw RuntimeError(53);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) throw RuntimeError(70);
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) throw RuntimeError(57);
+
+    QStringList lines;
+    for (qsizetype begin = 0; begin < bytes.size();) {
+        const qsizetype lineFeed = bytes.indexOf('\n', begin);
+        qsizetype end = lineFeed < 0 ? bytes.size() : lineFeed;
+        const qsizetype next = end + 1;
+        if (lineFeed > begin && bytes[lineFeed - 1] == '\r') --end;
+        lines.append(fromWindows1252(bytes.sliced(begin, end - begin)));
+        begin = next;
+    }
+    return lines;
+}
+
+void writeTextFile(const QString& path, const QString& text) {
+    if (path.isEmpty()) throw RuntimeError(5);
+    const QByteArray bytes = toWindows1252(text, OutsideCodePage::Refuse);
+    FileReplacement file(path);
+    struct stat old {};
+    const bool replaces = ::stat(QFile::encodeName(path).constData(), &old) == 0;
+    if (replaces) file.setMode(old.st_mode & 0777);
+    file.write(bytes);
+    file.place();
+    syncFolder(file.folder());
+}
+
+}  // namespace platform::files

@@ -1,0 +1,320 @@
+#include "platform/base/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <csignal>
+#include <stdexcept>
+
+#include "tests/platform/error_number.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform::files {
+namespace {
+
+/// Number of the error that an action without a result ends in.
+template <typename Action>
+int errorOf(Action action) {
+    return test::errorNumber([&] { return action(), 0; });
+}
+
+/// An ordinary user for as long as it lives, also where the tests run with all rights.
+class OrdinaryUser {
+public:
+    OrdinaryUser() { EXPECT_TRUE(::geteuid() != 0 || ::seteuid(65534) == 0); }
+    ~OrdinaryUser() { EXPECT_EQ(::seteuid(before_), 0); }
+
+private:
+    uid_t before_ = ::geteuid();
+};
+
+class Files : public testing::Test {
+protected:
+    [[nodiscard]] QString path(const QString& name) const { return join(folder_.path(), name); }
+
+    QString make(const QString& name, const QByteArray& bytes = "x") const {
+        QDir().mkpath(QFileInfo(path(name)).absolutePath());
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return path(name);
+    }
+
+    QString makeReadOnly(const QString& name) const {
+        const QString made = make(name, "old");
+        setReadOnly(made);
+        return made;
+    }
+
+    static QByteArray bytesOf(const QString& file) {
+        QFile opened(file);
+        EXPECT_TRUE(opened.open(QIODevice::ReadOnly)) << file.toStdString();
+        return opened.readAll();
+    }
+
+    static QStringList namesIn(const QString& folder) {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(Files, PathsAreJoinedAndCut) {
+    EXPECT_EQ(join(u"a"_s, u"b"_s), u"a/b"_s);
+    EXPECT_EQ(join(u"a/"_s, u"b"_s), u"a/b"_s);
+    EXPECT_EQ(nameOf(u"a/b.c"_s), u"b.c"_s);
+    EXPECT_EQ(nameOf(u"b.c"_s), u"b.c"_s);
+    EXPECT_EQ(folderOf(u"a/b/c"_s), u"a/b"_s);
+    EXPECT_EQ(folderOf(u"c"_s), u""_s);
+}
+
+TEST_F(Files, ExistenceAndSizes) {
+    const QString file = make(u"f"_s, "12345");
+    make(u"sub/deep/g"_s, "123");
+    EXPECT_TRUE(fileExists(file) && !folderExists(file));
+    EXPECT_TRUE(folderExists(path(u"sub"_s)) && !fileExists(path(u"sub"_s)));
+    EXPECT_FALSE(fileExists(u""_s) || fileExists(path(u"*"_s)) || folderExists(u""_s));
+    EXPECT_EQ(fileSize(file), 5);
+    EXPECT_EQ(folderSize(folder_.path()), 8);
+    EXPECT_EQ(errorOf([&] { return fileSize(path(u"none"_s)); }), 53);
+    EXPECT_EQ(errorOf([&] { return folderSize(path(u"none"_s)); }), 76);
+}
+
+TEST_F(Files, CopyReplacesTheTargetAndTakesAttributesAlong) {
+    const QString source = makeReadOnly(u"source"_s);
+    const QString target = make(u"target"_s, "a longer content than the new one");
+    copyFile(source, target);
+    EXPECT_EQ(bytesOf(target), "old");
+    EXPECT_TRUE(isReadOnly(target));
+    EXPECT_EQ(namesIn(folder_.path()), QStringList({u"source"_s, u"target"_s}));
+}
+
+TEST_F(Files, CopyThroughALinkKeepsTheLink) {
+    const QString source = make(u"source"_s, "new");
+    make(u"elsewhere/target"_s, "old");
+    QFile::link(path(u"elsewhere/target"_s), path(u"link"_s));
+    copyFile(source, path(u"link"_s));
+    EXPECT_TRUE(QFileInfo(path(u"link"_s)).isSymLink());
+    EXPECT_EQ(bytesOf(path(u"elsewhere/target"_s)), "new");
+}
+
+TEST_F(Files, CopyRefusals) {
+    const QString source = make(u"source"_s);
+    const QString locked = makeReadOnly(u"locked"_s);
+    make(u"folder/in"_s);
+    EXPECT_EQ(errorOf([&] { copyFile(path(u"none"_s), path(u"t"_s)); }), 53);
+    EXPECT_EQ(errorOf([&] { copyFile(path(u"folder"_s), path(u"t"_s)); }), 53);
+    EXPECT_EQ(errorOf([&] { copyFile(source, path(u"none/t"_s)); }), 76);
+    EXPECT_EQ(errorOf([&] { copyFile(source, path(u"folder"_s)); }), 70);
+    EXPECT_EQ(errorOf([&] { copyFile(source, locked); }), 70);
+    EXPECT_EQ(errorOf([&] { copyFile(source, source); }), 70);
+    EXPECT_EQ(errorOf([&] { copyFile(source, path(u"folder/../source"_s)); }), 70);
+    EXPECT_EQ(bytesOf(locked), "old");
+    EXPECT_EQ(bytesOf(source), "x");
+    EXPECT_EQ(namesIn(folder_.path()), QStringList({u"folder"_s, u"locked"_s, u"source"_s}));
+}
+
+TEST_F(Files, InterruptedCopyLeavesTheOldFileWhole) {
+    const QString source = make(u"source"_s, QByteArray(20 << 20, 'n'));
+    const QString target = make(u"target"_s, "old");
+    int calls = 0;
+    const auto stop = [&](qint64 copied, qint64 total) {
+        EXPECT_EQ(total, 20 << 20);
+        EXPECT_LT(copied, total);
+        if (++calls == 2) throw std::runtime_error("stopped");
+    };
+    EXPECT_THROW(copyFile(source, target, stop), std::runtime_error);
+    EXPECT_EQ(bytesOf(target), "old");
+    EXPECT_EQ(namesIn(folder_.path()), QStringList({u"source"_s, u"target"_s}));
+}
+
+TEST_F(Files, CopyKeepsHoles) {
+    constexpr qint64 size = 256 << 20;
+    const QString source = make(u"source"_s, "begin");
+    QFile file(source);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(size / 2) && file.write("middle") == 6 &&
+                file.resize(size));
+    file.close();
+
+    copyFile(source, path(u"target"_s));
+    EXPECT_EQ(fileSize(path(u"target"_s)), size);
+    struct stat status {};
+    ASSERT_EQ(::stat(QFile::encodeName(path(u"target"_s)).constData(), &status), 0);
+    EXPECT_LT(status.st_blocks * 512, 1 << 20);
+    QFile copy(path(u"target"_s));
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+    EXPECT_EQ(copy.read(5), "begin");
+    ASSERT_TRUE(copy.seek(size / 2 - 1));
+    EXPECT_EQ(copy.read(8), QByteArray("\0middle\0", 8));
+}
+
+TEST_F(Files, AllFilesOfAFolder) {
+    make(u"from/a"_s, "a");
+    make(u"from/.hidden"_s, "h");
+    make(u"from/sub/b"_s, "b");
+    make(u"to/c"_s);
+    make(u"empty/sub/d"_s);
+    const QString to = path(u"to"_s);
+    copyAllFiles(path(u"from"_s), to);
+    EXPECT_EQ(namesIn(to), QStringList({u".hidden"_s, u"a"_s, u"c"_s}));
+    EXPECT_EQ(errorOf([&] { copyAllFiles(path(u"empty"_s), to); }), 53);
+    EXPECT_EQ(errorOf([&] { copyAllFiles(path(u"from"_s), path(u"none"_s)); }), 76);
+
+    setReadOnly(path(u"to/a"_s));
+    EXPECT_EQ(errorOf([&] { deleteAllFiles(to, false); }), 70);
+    EXPECT_EQ(namesIn(to), QStringList({u"a"_s, u"c"_s})) << "it stops at the first error";
+    deleteAllFiles(to, true);
+    EXPECT_EQ(errorOf([&] { deleteAllFiles(to, true); }), 53);
+    EXPECT_EQ(errorOf([&] { deleteAllFiles(path(u"empty"_s), true); }), 53);
+    EXPECT_EQ(errorOf([&] { deleteAllFiles(path(u"none"_s), true); }), 76);
+}
+
+TEST_F(Files, CopyOfAllFilesStopsAtTheFirstError) {
+    make(u"from/a"_s, "new");
+    make(u"from/b"_s, "new");
+    make(u"from/c"_s, "new");
+    makeReadOnly(u"to/b"_s);
+    EXPECT_EQ(errorOf([&] { copyAllFiles(path(u"from"_s), path(u"to"_s)); }), 70);
+    EXPECT_EQ(namesIn(path(u"to"_s)), QStringList({u"a"_s, u"b"_s}));
+}
+
+TEST_F(Files, ReadOnlyFilesAreDeletedOnlyByForce) {
+    const QString file = makeReadOnly(u"f"_s);
+    EXPECT_EQ(errorOf([&] { deleteFile(file, false); }), 70);
+    EXPECT_TRUE(fileExists(file));
+    deleteFile(file, true);
+    EXPECT_FALSE(fileExists(file));
+    EXPECT_EQ(errorOf([&] { deleteFile(file, true); }), 53);
+
+    setReadOnly(make(u"g"_s), true);
+    setReadOnly(path(u"g"_s), false);
+    deleteFile(path(u"g"_s), false);
+    EXPECT_EQ(errorOf([&] { setReadOnly(path(u"g"_s)); }), 53);
+}
+
+TEST_F(Files, FoldersAreMergedAndDeletedWhole) {
+    make(u"from/a"_s, "new");
+    make(u"from/sub/b"_s, "new");
+    make(u"to/a"_s, "old");
+    make(u"to/kept"_s, "old");
+    const QString from = path(u"from"_s);
+    const QString to = path(u"to"_s);
+    copyFolder(from, to);
+    EXPECT_EQ(bytesOf(path(u"to/a"_s)), "new");
+    EXPECT_EQ(bytesOf(path(u"to/sub/b"_s)), "new");
+    EXPECT_EQ(bytesOf(path(u"to/kept"_s)), "old");
+    EXPECT_EQ(errorOf([&] { copyFolder(path(u"none"_s), to); }), 76);
+    EXPECT_EQ(errorOf([&] { copyFolder(from, path(u"none/to"_s)); }), 76);
+    EXPECT_EQ(errorOf([&] { copyFolder(from + u'/', to); }), 76);
+    setReadOnly(path(u"to/sub/b"_s));
+    EXPECT_EQ(errorOf([&] { copyFolder(from, to); }), 70);
+    copyFolder(from, join(from, u"sub"_s));
+    EXPECT_EQ(namesIn(path(u"from/sub"_s)), QStringList({u"a"_s, u"b"_s, u"sub"_s})) << "into itself comes to an end";
+
+    QFile::link(from, path(u"to/sub/link"_s));
+    EXPECT_EQ(errorOf([&] { deleteFolder(to, false); }), 70);
+    EXPECT_EQ(errorOf([&] { deleteFolder(to + u'/', true); }), 76);
+    deleteFolder(to, true);
+    EXPECT_FALSE(folderExists(to));
+    EXPECT_TRUE(fileExists(path(u"from/a"_s))) << "a link's folder is not the folder's own";
+    EXPECT_EQ(errorOf([&] { deleteFolder(to, true); }), 76);
+}
+
+TEST_F(Files, MissingRightsAreRefused) {
+    const QString secret = make(u"secret"_s);
+    make(u"closed/f"_s);
+    QFile::setPermissions(secret, {});
+    QFile::setPermissions(path(u"closed"_s), {});
+    ::chmod(QFile::encodeName(folder_.path()).constData(), 0755);
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(errorOf([&] { return readLines(secret); }), 70);
+        EXPECT_EQ(errorOf([&] { copyFile(secret, u"/tmp/unwanted"_s); }), 70);
+        EXPECT_EQ(errorOf([&] { return folderSize(folder_.path()); }), 70);
+    }
+    QFile::setPermissions(path(u"closed"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+TEST_F(Files, LinesEndAtLineFeedsOnly) {
+    struct {
+        QByteArray bytes;
+        QStringList lines;
+    } const cases[] = {
+        {"a\r\nb\r\n", {u"a"_s, u"b"_s}},
+        {"a\r\nb", {u"a"_s, u"b"_s}},
+        {"a\r\n\r\n", {u"a"_s, u""_s}},
+        {"a\nb", {u"a"_s, u"b"_s}},
+        {"a\rb\r\n", {u"a\rb"_s}},
+        {"a\r\r\nb\r", {u"a\r"_s, u"b\r"_s}},
+        {"\n", {u""_s}},
+        {"", {}},
+        {"a\x0B\x0C\x1C\x85\x80\n", {u"a\u000B\u000C\u001C\u2026\u20AC"_s}},
+    };
+    for (const auto& [bytes, lines] : cases) {
+        EXPECT_EQ(readLines(make(u"text"_s, bytes)), lines) << bytes.toPercentEncoding().toStdString();
+    }
+    EXPECT_EQ(errorOf([&] { return readLines(path(u"none"_s)); }), 53);
+}
+
+TEST_F(Files, TextIsWrittenWholeOrNotAtAll) {
+    const QString file = path(u"text"_s);
+    writeTextFile(file, u"caf\u00E9 \u20AC\r\nb\n"_s);
+    EXPECT_EQ(bytesOf(file), "caf\xE9 \x80\r\nb\n");
+    EXPECT_FALSE(isReadOnly(file));
+    EXPECT_EQ(errorOf([&] { writeTextFile(file, u"\u0416"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { writeTextFile(u""_s, u"a"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { writeTextFile(path(u"none/text"_s), u"a"_s); }), 76);
+    setReadOnly(file);
+    EXPECT_EQ(errorOf([&] { writeTextFile(file, u"a"_s); }), 70);
+    EXPECT_EQ(bytesOf(file), "caf\xE9 \x80\r\nb\n");
+    EXPECT_EQ(namesIn(folder_.path()), QStringList(u"text"_s));
+}
+
+/// Runs a check in a folder where only some 512 KiB can be written: on a small disk of its own, or, without the right
+/// to mount one, in a child process whose files can't grow further.
+template <typename Check>
+void onSmallDisk(const QString& folder, Check check) {
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QByteArray name = QFile::encodeName(folder);
+    if (::mount("tmpfs", name.constData(), "tmpfs", 0, "size=512k") == 0) {
+        check(folder);
+        EXPECT_EQ(::umount(name.constData()), 0);
+        return;
+    }
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        const rlimit limit{512 << 10, 512 << 10};
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        check(folder);
+        ::_exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+}
+
+TEST_F(Files, FullDiskLeavesTheOldFilesWhole) {
+    const QString big = make(u"big"_s, QByteArray(3 << 20, 'n'));
+    const QString small = make(u"small"_s, QByteArray(100 << 10, 's'));
+    const QByteArray smallBytes = bytesOf(small);
+    onSmallDisk(path(u"disk"_s), [&](const QString& disk) {
+        const QString target = join(disk, u"target"_s);
+        copyFile(small, target);
+        EXPECT_EQ(errorOf([&] { copyFile(big, target); }), 61);
+        EXPECT_EQ(errorOf([&] { writeTextFile(target, QString(3 << 20, u'x')); }), 61);
+        EXPECT_EQ(bytesOf(target), smallBytes);
+        EXPECT_EQ(namesIn(disk), QStringList(u"target"_s));
+    });
+}
+
+}  // namespace
+}  // namespace platform::files
