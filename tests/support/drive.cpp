@@ -1,0 +1,43 @@
+#include "tests/support/drive.h"
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <cstdio>
+#include <iostream>
+#include <string>
+#include <thread>
+
+#include "tests/support/headless.h"
+#include "tests/support/line_protocol.h"
+#include "tests/support/user.h"
+
+namespace support {
+
+namespace {
+
+void playLines(const MakeProgram& program) {
+    User user(program);
+    LineProtocol protocol(user);
+    for (std::string line; std::getline(std::cin, line);) {
+        const QByteArray answer = protocol.answer(QByteArray::fromStdString(line));
+        std::cout << answer.constData() << std::endl;
+    }
+    _exit(0);
+}
+
+}  // namespace
+
+int drive(int count, char** words, const std::function<MakeProgram(const QString& folder)>& program) {
+    if (count != 2) {
+        std::fputs("usage: kinbook-drive FOLDER\n", stderr);
+        return 2;
+    }
+    goHeadless();
+    QApplication application(count, words);
+    const MakeProgram make = program(QString::fromLocal8Bit(words[1]));
+    std::thread(playLines, make).detach();
+    return QApplication::exec();
+}
+
+}  // namespace support
