@@ -109,17 +109,16 @@ private:
 void layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& definition, const FieldBoxes& boxes,
                   QLabel& attachments) {
     bool stretches = false;
-    int index = 0;
     for (const Frame& frame : definition.frames) {
         auto* box = new QGroupBox(QString(frame.caption).replace(u'&', u"&&"_s), &page);
-        box->setObjectName(platform::indexedName(u"frFrame"_s, index++));
+        box->setObjectName(platform::indexedName(u"frFrame"_s, frame.index));
         Grid grid(*box, boxes);
         for (const auto& [i, text] : boxes.texts()) {
             if (!frame.boxes.holds(i)) continue;
-            grid.add(i, text, frame.boxes.first == frame.boxes.last);
+            grid.add(i, text, frame.boxes.count() == 1);
             if (&frame == &definition.frames.front() && i == frame.boxes.first) grid.addAttachments(attachments);
         }
-        if (frame.checks.last >= frame.checks.first) grid.addChecks(frame.checks);
+        if (frame.checks.count() > 0) grid.addChecks(frame.checks);
         column.addWidget(box, grid.stretches() ? 1 : 0);
         stretches = stretches || grid.stretches();
     }
