@@ -28,3 +28,9 @@ function(kinbook_test name)
   target_link_libraries(${name} PRIVATE kinbook_options ${arg_LINK} GTest::gtest)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
 endfunction()
+
+# kinbook_gui_test(NAME SOURCES... [LINK libraries...]): a test program that plays a user in front of real windows.
+function(kinbook_gui_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+  kinbook_test(${name} SOURCES ${arg_SOURCES} LINK kinbook_test_gui ${arg_LINK})
+endfunction()

@@ -42,6 +42,8 @@ void Form::leave() {
 Form* Form::of(QWidget* widget) {
     for (; widget; widget = widget->parentWidget()) {
         if (auto* form = dynamic_cast<Form*>(widget)) return form;
+        // A box in front of a form is its child, but no part of it.
+        if (widget->isWindow()) break;
     }
     return nullptr;
 }
@@ -54,7 +56,9 @@ Control* Form::control(const QString& name) {
     return nullptr;
 }
 
-Control* Form::activeControl() { return Control::of(window().focusWidget()); }
+Control* Form::activeControl() {
+    return Control::of(window().focusWidget());
+}
 
 std::function<void()> Form::handler(std::function<void()> routine) {
     return [this, routine = std::move(routine)] { desktop_.run(routine); };

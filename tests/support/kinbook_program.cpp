@@ -1,0 +1,27 @@
+#include "tests/support/kinbook_program.h"
+
+#include "app/kinbook.h"
+
+namespace support {
+
+namespace {
+
+class KinbookProgram : public Program {
+public:
+    explicit KinbookProgram(const QString& folder) : kinbook_(folder) {}
+
+    void main() override { kinbook_.main(); }
+    [[nodiscard]] platform::Desktop& desktop() override { return kinbook_.desktop(); }
+    [[nodiscard]] const session::Session* session() override { return &kinbook_.session(); }
+
+private:
+    app::Kinbook kinbook_;
+};
+
+}  // namespace
+
+MakeProgram kinbookProgram(const QString& folder) {
+    return [folder] { return std::make_unique<KinbookProgram>(folder); };
+}
+
+}  // namespace support
