@@ -7,7 +7,8 @@
 namespace screens {
 
 void EducationScreen::Form_Activate() {
-    boxes().text(1).widget().setFocus(Qt::TabFocusReason);
+    // A window that comes up gives the focus to its first control; this goes behind it.
+    QTimer::singleShot(0, this, [this] { boxes().text(1).widget().setFocus(Qt::TabFocusReason); });
 }
 
 }  // namespace screens
