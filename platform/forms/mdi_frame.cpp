@@ -19,6 +19,8 @@ MdiFrame::MdiFrame(Desktop& desktop, const QString& name)
     layout->setSpacing(0);
     layout->addWidget(area_, 1);
     area_->setBackground(palette().brush(QPalette::Window));
+    // When the active child goes, the one that was active before it comes to the front.
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
     setCentralWidget(centre_);
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* frame) {
