@@ -3,9 +3,8 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QListWidget>
+#include <QLineEdit>
 #include <QMenu>
-#include <QScrollArea>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -119,6 +118,7 @@ private:
     }
 
     bool allows(const platform::TextBox& box) {
+        if (box.text().isEmpty()) return true;
         write(u"Validate"_s);
         if (box.text() != u"bad"_s) return true;
         desktop().notice(u"That is bad."_s, u"Check"_s, platform::Icon::Information);
@@ -166,7 +166,8 @@ private:
         addButton(*layout, u"cmdModal"_s, u"Modal"_s, [this] {
             auto& dialog = desktop().load(std::make_unique<TestDialog>(desktop()));
             dialog.showModal();
-            write(dialog.isLoaded() ? u"Hidden"_s : u"Unloaded"_s);
+            if (!dialog.isLoaded()) return write(u"Unloaded"_s);
+            write(u"Hidden "_s + static_cast<QLineEdit*>(&dialog.control(u"txtAccount"_s)->widget())->text());
             dialog.unload();
         });
         addButton(*layout, u"cmdWait"_s, u"Wait"_s, [this] {
