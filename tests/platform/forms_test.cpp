@@ -133,10 +133,14 @@ TEST_F(FormsTest, TheFormSeesKeysByTheirCodes) {
     EXPECT_EQ(log.news(), QString()) << "a Tab that moves the focus is no key of the form";
 }
 
-TEST_F(FormsTest, KeysOfABoxAreNotKeysOfTheForm) {
-    user.click(u"cmdAsk"_s);
+TEST_F(FormsTest, KeysOfABoxAreNotKeysOfTheFormBehind) {
+    user.click(u"cmdModal"_s);
+    user.click(u"cmdTell"_s);
     user.key(u"x"_s);
-    EXPECT_EQ(log.news(), QString());
+    user.answer(u"OK"_s);
+    EXPECT_EQ(user.dialog()[u"title"_s].toString(), u"A Dialog"_s);
+    user.key(u"x"_s);
+    EXPECT_EQ(user.dialog()[u"title"_s].toString(), u"Key 120"_s);
 }
 
 TEST_F(FormsTest, ADialogKeepsItsBoxesWhileHidden) {

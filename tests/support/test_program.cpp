@@ -47,7 +47,13 @@ public:
         auto* hide = named(new platform::CommandButton, u"cmdHide"_s);
         hide->onClick(handler([this] { QWidget::hide(); }));
         layout->addWidget(hide);
+        auto* tell = named(new platform::CommandButton, u"cmdTell"_s);
+        tell->onClick(handler([this] { this->desktop().notice(u"Told."_s); }));
+        layout->addWidget(tell);
     }
+
+    [[nodiscard]] bool keyPreview() const override { return true; }
+    void Form_KeyPress(int keyAscii) override { setCaption(u"Key %1"_s.arg(keyAscii)); }
 };
 
 class TestForm : public platform::FormWindow {
