@@ -85,6 +85,8 @@ bool selectAll(QWidget& widget) {
 User::User(MakeProgram make, QSize hostSize)
     : make_(std::move(make)), hostSize_(hostSize), gui_([this] { return settled(); }) {
     gui_.look([] {
+        // A desktop tells where its icons lie; the windows drawn in memory know of none.
+        QIcon::setThemeSearchPaths({u"/usr/share/icons"_s});
         QApplication::setDoubleClickInterval(doubleClick.count());
         for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip}) {
             QApplication::setEffectEnabled(effect, false);
