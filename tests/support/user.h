@@ -44,7 +44,7 @@ public:
     void collapse(const QString& key) { setExpanded(key, false); }
     void menu(const QString& name);
     void tool(const QString& key);
-    /// Opens the context menu of the form's grid or list and chooses an entry.
+    /// Opens the context menu of the grid or list that has the focus, else of the form's first, and chooses an entry.
     void popup(const QString& name);
     void select(const QString& view, int row);
     /// Presses a button of the message box: "OK", "Yes", "No".
@@ -80,7 +80,6 @@ private:
     void typeAll(const QString& text);
     [[nodiscard]] bool openList(const QString& combo, const QString& entry);
     void setExpanded(const QString& key, bool expanded);
-    void chooseFromMenu(const QString& name);
     void leaveProgram();
     [[nodiscard]] Finder finder() const;
     [[nodiscard]] bool isRunning() const;
