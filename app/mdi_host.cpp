@@ -16,8 +16,10 @@
 #include "platform/forms/form_window.h"
 #include "platform/forms/menus.h"
 #include "platform/forms/tree_view.h"
+#include "screens/child_screen.h"
 #include "screens/person_screen.h"
 #include "session/data_window.h"
+#include "session/form_access.h"
 #include "session/refusals.h"
 #include "session/session.h"
 
@@ -51,7 +53,9 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
 
 MDIHost::~MDIHost() = default;
 
-QString MDIHost::formName() { return u"MDIHost"_s; }
+QString MDIHost::formName() {
+    return u"MDIHost"_s;
+}
 
 void MDIHost::makeMenus() {
     QMenu* file = platform::makeMenu(*this, u"mFile"_s, u"&File"_s);
@@ -62,7 +66,7 @@ void MDIHost::makeMenus() {
     platform::addSeparator(*file, u"Sep1"_s);
     platform::addEntry(*file, u"mFamilySequence"_s, u"Family Sequence..."_s, [] {})->setEnabled(false);
     platform::addSeparator(*file, u"Sep2"_s);
-    platform::addEntry(*file, u"mCoverPage"_s, u"Cover Page"_s, [] {})->setEnabled(false);
+    platform::addEntry(*file, u"mCoverPage"_s, u"Cover Page"_s, handler([this] { showCoverPage(); }));
     platform::addSeparator(*file, u"Sep4"_s);
     platform::addEntry(*file, u"mExit"_s, u"Exit"_s, handler([this] { closeHost(); }));
     addMenu(file);
@@ -127,9 +131,13 @@ void MDIHost::loadFamily() {
 
 // Selection --------------------------------------------------------------------------------------------------------
 
-bool MDIHost::onlyHelpIsOpen() const { return session_.gbHelpOpened && desktop().count() == 2; }
+bool MDIHost::onlyHelpIsOpen() const {
+    return session_.gbHelpOpened && desktop().count() == 2;
+}
 
-bool MDIHost::leavesChanges() const { return desktop().count() > 1 && !onlyHelpIsOpen() && activeHasChanges(); }
+bool MDIHost::leavesChanges() const {
+    return desktop().count() > 1 && !onlyHelpIsOpen() && activeHasChanges();
+}
 
 bool MDIHost::activeHasChanges() const {
     const auto* active = dynamic_cast<session::DataWindow*>(activeForm());
@@ -158,8 +166,7 @@ void MDIHost::cbPerson_Click() {
 bool MDIHost::acceptSelection() {
     session_.gsPersonName = selectedName();
     rsHost_.release();
-    rsHost_.open(u"SELECT ID from Person where LegalName = '"_s + session_.gsPersonName + u"'"_s,
-                 session_.gConnection);
+    rsHost_.open(u"SELECT ID from Person where LegalName = '"_s + session_.gsPersonName + u"'"_s, session_.gConnection);
     const bool found = !rsHost_.eof();
     session_.gPersonID = found ? platform::toInteger(rsHost_.value(u"ID"_s).toDouble()) : qint16{0};
     if (found) tvTree().setEnabled(true);
@@ -239,23 +246,57 @@ session::DataWindow* MDIHost::touch(const QString& name) {
     return window ? &desktop().load(std::move(window)) : nullptr;
 }
 
+void MDIHost::openChild(const QString& window, const QString& table, const session::ChildRequest& request) {
+    const QString counted =
+        u"%1 Where TypeID = %2 And ParentID = %3"_s.arg(table).arg(request.typeID).arg(request.parentID);
+    if (count(counted) == 0 && !session_.gbCanEdit) {
+        session::showNoDataNoLogin(desktop());
+        return;
+    }
+    if (platform::Form* open = desktop().find(window)) {
+        if (!open->unload()) return;
+        enableTree(true);
+    }
+    auto* child = static_cast<screens::ChildScreen*>(touch(window));
+    child->setParentRow(request);
+    session::setFormAccess(*child, session_.gbCanEdit);
+    child->ShowMe();
+    child->show();
+}
+
 // Workspace --------------------------------------------------------------------------------------------------------
 
-platform::TreeView& MDIHost::tvTree() const { return panel_->tvTree(); }
+platform::TreeView& MDIHost::tvTree() const {
+    return panel_->tvTree();
+}
 
-void MDIHost::enableTree(bool enabled) { tvTree().setEnabled(enabled); }
+void MDIHost::enableTree(bool enabled) {
+    tvTree().setEnabled(enabled);
+}
 
-void MDIHost::refreshTree() { categories_.setAllImages(); }
+void MDIHost::refreshTree() {
+    categories_.setAllImages();
+}
 
-void MDIHost::enableAddMember(bool enabled) { panel_->cmdAddNew().setEnabled(enabled); }
+void MDIHost::enableAddMember(bool enabled) {
+    panel_->cmdAddNew().setEnabled(enabled);
+}
 
-void MDIHost::endFirstRun() { panel_->endFirstRun(); }
+void MDIHost::endFirstRun() {
+    panel_->endFirstRun();
+}
 
-QString MDIHost::selectedName() const { return panel_->cbPerson().text(); }
+QString MDIHost::selectedName() const {
+    return panel_->cbPerson().text();
+}
 
-void MDIHost::setSelectedName(const QString& name) { panel_->cbPerson().setText(name); }
+void MDIHost::setSelectedName(const QString& name) {
+    panel_->cbPerson().setText(name);
+}
 
-void MDIHost::appendName(const QString& name) { panel_->cbPerson().addItem(name); }
+void MDIHost::appendName(const QString& name) {
+    panel_->cbPerson().addItem(name);
+}
 
 void MDIHost::removeName(const QString& name) {
     platform::ComboBox& selector = panel_->cbPerson();
@@ -280,7 +321,25 @@ QString MDIHost::defaultOwner() const {
 
 // The way down -----------------------------------------------------------------------------------------------------
 
-void MDIHost::exitProgram() { closeHost(); }
+void MDIHost::showInventoryScreen(const session::ChildRequest& request) {
+    openChild(u"frmInventory"_s, u"Inventory"_s, request);
+}
+
+void MDIHost::showImprovementsScreen(const session::ChildRequest& request) {
+    openChild(u"frmImprovements"_s, u"Improvements"_s, request);
+}
+
+void MDIHost::showOutbuildingsScreen(const session::ChildRequest& request) {
+    openChild(u"frmOutbuildings"_s, u"Outbuildings"_s, request);
+}
+
+void MDIHost::showCoverPage() {
+    touch(u"frmCoverPage"_s)->ShowMe();
+}
+
+void MDIHost::exitProgram() {
+    closeHost();
+}
 
 bool MDIHost::mayGoDown() {
     auto* active = dynamic_cast<session::DataWindow*>(activeForm());

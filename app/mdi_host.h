@@ -51,6 +51,10 @@ public:
     void removeName(const QString& name) override;
     void clearSelection() override;
     [[nodiscard]] QString defaultOwner() const override;
+    void showInventoryScreen(const session::ChildRequest& request) override;
+    void showImprovementsScreen(const session::ChildRequest& request) override;
+    void showOutbuildingsScreen(const session::ChildRequest& request) override;
+    void showCoverPage() override;
     void exitProgram() override;
 
 protected:
@@ -66,6 +70,7 @@ private:
     void refuseSelection();
     void cmdAddNew_Click();
     void picture1_Click();
+    void openChild(const QString& window, const QString& table, const session::ChildRequest& request);
     /// A window is loaded besides the host (help, once used, isn't one), and the active one holds changes.
     [[nodiscard]] bool leavesChanges() const;
     [[nodiscard]] bool onlyHelpIsOpen() const;

@@ -1,15 +1,73 @@
 #include "app/windows.h"
 
+#include <algorithm>
+
+#include "screens/ag_site_screen.h"
+#include "screens/alimony_screen.h"
+#include "screens/catalogue/catalogue.h"
+#include "screens/child_screen.h"
+#include "screens/cover_page_screen.h"
+#include "screens/education_screen.h"
+#include "screens/home_insurance_screen.h"
+#include "screens/homes_rented_screen.h"
+#include "screens/organizations_screen.h"
+#include "screens/owned_screen.h"
 #include "screens/person_screen.h"
+#include "screens/reference_screen.h"
+#include "screens/shared_table_screen.h"
+#include "screens/stocks_screen.h"
 
 using namespace Qt::StringLiterals;
 
 namespace app {
 
+namespace {
+
+using Made = std::unique_ptr<session::DataWindow>;
+using Maker = Made (*)(platform::Desktop&, session::Session&, session::Workspace&, const screens::ScreenDefinition&);
+
+template <class Screen>
+Made make(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+          const screens::ScreenDefinition& definition) {
+    return std::make_unique<Screen>(desktop, session, workspace, definition);
+}
+
+struct OwnClass {
+    QLatin1StringView window;
+    Maker maker;
+};
+
+/// The record screens that are more than their entry. Every other one is an OwnedScreen.
+constexpr OwnClass ownClasses[] = {
+    {"frmAgSite"_L1, make<screens::AgSiteScreen>},
+    {"frmAlimony"_L1, make<screens::AlimonyScreen>},
+    {"frmChildSupport"_L1, make<screens::SharedTableScreen>},
+    {"frmContacts"_L1, make<screens::ReferenceScreen>},
+    {"frmCoverPage"_L1, make<screens::CoverPageScreen>},
+    {"frmDoctors"_L1, make<screens::ReferenceScreen>},
+    {"frmEducation"_L1, make<screens::EducationScreen>},
+    {"frmHomeInsurance"_L1, make<screens::HomeInsuranceScreen>},
+    {"frmHomesRented"_L1, make<screens::HomesRentedScreen>},
+    {"frmImprovements"_L1, make<screens::ChildScreen>},
+    {"frmInventory"_L1, make<screens::ChildScreen>},
+    {"frmLoans"_L1, make<screens::SharedTableScreen>},
+    {"frmMortgages"_L1, make<screens::SharedTableScreen>},
+    {"frmOrganizations"_L1, make<screens::OrganizationsScreen>},
+    {"frmOutbuildings"_L1, make<screens::ChildScreen>},
+    {"frmStocks"_L1, make<screens::StocksScreen>},
+    {"frmTheyOweYou"_L1, make<screens::SharedTableScreen>},
+};
+
+}  // namespace
+
 std::unique_ptr<session::DataWindow> makeWindow(const QString& name, platform::Desktop& desktop,
                                                 session::Session& session, session::Workspace& workspace) {
     if (name == u"frmKinbook"_s) return std::make_unique<screens::PersonScreen>(desktop, session, workspace);
-    return nullptr;
+    const screens::ScreenDefinition* definition = screens::screenDefinition(name);
+    if (!definition) return nullptr;
+    const auto* own = std::ranges::find(ownClasses, name, &OwnClass::window);
+    const Maker maker = own == std::end(ownClasses) ? make<screens::OwnedScreen> : own->maker;
+    return maker(desktop, session, workspace, *definition);
 }
 
 }  // namespace app

@@ -3,52 +3,70 @@
 #include <QLabel>
 #include <algorithm>
 
-#include "data/table_definition.h"
-#include "data/tables.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/memo_box.h"
 #include "platform/forms/text_box.h"
+#include "screens/catalogue/shown_columns.h"
 
 using namespace Qt::StringLiterals;
 using platform::indexedName;
 
 namespace screens {
 
-FieldBoxes::FieldBoxes(QWidget& form, const ScreenDefinition& definition) : definition_(definition) {
+FieldBoxes::FieldBoxes(QWidget& form, const ScreenDefinition& definition, OwnerBox owner)
+    : definition_(definition), columns_(shownColumns(definition)) {
+    if (owner != OwnerBox::None) makeOwner(form, owner);
     int index = definition.firstBox;
-    for (const data::Column& column : data::table(QString(definition.table)).columns) {
-        if (column.shownIn == data::ShownIn::Nowhere) continue;
+    for (const data::Column& column : columns_) {
         if (column.kind == data::FieldKind::YesNo) {
             makeCheck(form, column);
         } else {
             makeText(form, index++, column);
         }
     }
-    for (const ComboColumn& column : definition.combos) makeCombo(form, column);
+    for (const ComboColumn& column : definition.combos)
+        makeCombo(form, column);
 }
 
 FieldBoxes::~FieldBoxes() = default;
 
-void FieldBoxes::makeText(QWidget& form, int index, const data::Column& column) {
+FieldBoxes::Text& FieldBoxes::addText(QWidget& form, int index, platform::TextControl* box, const QString& label) {
     Text text;
-    if (column.kind == data::FieldKind::LongText) {
-        text.box = new platform::MemoBox(&form);
-    } else {
-        text.box = new platform::TextBox(&form);
-    }
-    text.box->setName(indexedName(u"txtFields"_s, index));
-    text.box->setMaxLength(column.maxLength);
-    text.box->widget().setToolTip(column.hint);
-    text.label = new QLabel(column.label, &form);
+    text.box = box;
+    box->setName(indexedName(u"txtFields"_s, index));
+    box->widget().setAccessibleName(label);
+    text.label = new QLabel(label, &form);
     text.label->setObjectName(indexedName(u"lblLabels"_s, index));
-    text.label->setBuddy(&text.box->widget());
-    text.box->widget().setAccessibleName(column.label);
+    text.label->setBuddy(&box->widget());
+    return texts_.emplace(index, std::move(text)).first->second;
+}
+
+void FieldBoxes::makeOwner(QWidget& form, OwnerBox owner) {
+    const Text& text = addText(form, 0, new platform::TextBox(&form), definition_.ownerLabel);
+    if (owner == OwnerBox::Name) return;
+    owner_ = new platform::ComboBox(&form);
+    owner_->setName(indexedName(u"cbFields"_s, 0));
+    owner_->setAccessibleName(text.label->text());
+    owner_->setLocked(true);
+    text.box->widget().hide();
+    text.label->setBuddy(owner_);
+}
+
+void FieldBoxes::makeText(QWidget& form, int index, const data::Column& column) {
+    platform::TextControl* box = nullptr;
+    if (column.kind == data::FieldKind::LongText) {
+        box = new platform::MemoBox(&form);
+    } else {
+        box = new platform::TextBox(&form);
+    }
+    box->setMaxLength(column.maxLength);
+    box->widget().setToolTip(column.hint);
+    Text& text = addText(form, index, box, column.label);
     text.column = &column;
     if (column.isStored() && column.shownIn == data::ShownIn::Box) {
-        text.binding = std::make_unique<platform::Binding>(*text.box, column.name, column.format);
+        text.binding = std::make_unique<platform::Binding>(*box, column.name, column.format);
     }
-    texts_.emplace(index, std::move(text));
 }
 
 void FieldBoxes::makeCheck(QWidget& form, const data::Column& column) {
@@ -71,9 +89,12 @@ void FieldBoxes::makeCombo(QWidget& form, const ComboColumn& column) {
     combos_.push_back(std::move(combo));
 }
 
-QString FieldBoxes::label(int index) const { return texts_.at(index).label->text(); }
+QString FieldBoxes::label(int index) const {
+    return texts_.at(index).label->text();
+}
 
 platform::ComboBox* FieldBoxes::comboOver(int box) const {
+    if (box == 0 && owner_) return owner_;
     const auto found = std::ranges::find_if(combos_, [&](const Combo& combo) { return combo.column.shadow == box; });
     return found == combos_.end() ? nullptr : found->box;
 }
@@ -94,11 +115,29 @@ void FieldBoxes::bind(platform::RecordSource* rows) {
 }
 
 void FieldBoxes::bindDates(platform::RecordSource* rows) {
-    for (const DateColumn& date : definition_.dates) texts_.at(date.box).binding->setSource(rows);
+    for (const DateColumn& date : definition_.dates)
+        texts_.at(date.box).binding->setSource(rows);
 }
 
 void FieldBoxes::bindCombos(platform::RecordSource* rows) {
-    for (const Combo& combo : combos_) combo.binding->setSource(rows);
+    for (const Combo& combo : combos_)
+        combo.binding->setSource(rows);
+}
+
+void FieldBoxes::bindFirstCombo(platform::RecordSource* rows) {
+    if (!combos_.empty()) combos_.front().binding->setSource(rows);
+}
+
+void FieldBoxes::fillCombos(const QStringList& states) {
+    for (const Combo& combo : combos_) {
+        if (texts_.at(combo.column.shadow).column->shownIn == data::ShownIn::StatusCombo) {
+            for (const QLatin1StringView item : definition_.statusItems)
+                combo.box->addItem(item);
+        } else {
+            for (const QString& state : states)
+                combo.box->addItem(state);
+        }
+    }
 }
 
 void FieldBoxes::orderTabs() const {
@@ -111,7 +150,8 @@ void FieldBoxes::orderTabs() const {
         QWidget* combo = comboOver(index);
         follow(combo ? combo : &text.box->widget());
     }
-    for (const Check& check : checks_) follow(check.box);
+    for (const Check& check : checks_)
+        follow(check.box);
 }
 
 void FieldBoxes::copyShadows() {

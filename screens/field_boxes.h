@@ -6,16 +6,12 @@
 #include <memory>
 #include <vector>
 
+#include "data/table_definition.h"
 #include "platform/forms/binding.h"
 #include "screens/catalogue/screen_definition.h"
 
 class QLabel;
 class QWidget;
-
-namespace data {
-struct Column;
-struct Table;
-}  // namespace data
 
 namespace platform {
 class CheckBox;
@@ -25,6 +21,10 @@ class TextControl;
 
 namespace screens {
 
+/// What stands in txtFields(0) ahead of a table's own boxes: nothing, the hidden shadow of the owner combo cbFields(0),
+/// or a box with the owner's name.
+enum class OwnerBox { None, Combo, Name };
+
 /// The numbered controls of a record screen, made from its table's definition and its catalogue entry, with the
 /// bindings that tie them to the recordset.
 class FieldBoxes {
@@ -32,7 +32,7 @@ public:
     struct Text {
         platform::TextControl* box = nullptr;
         QLabel* label = nullptr;
-        const data::Column* column = nullptr;  ///< nullptr for the owner's shadow
+        const data::Column* column = nullptr;        ///< nullptr for the owner's
         std::unique_ptr<platform::Binding> binding;  ///< none for a shadow or a box that nothing stores
     };
     struct Check {
@@ -45,7 +45,7 @@ public:
         std::unique_ptr<platform::Binding> binding;
     };
 
-    FieldBoxes(QWidget& form, const ScreenDefinition& definition);
+    FieldBoxes(QWidget& form, const ScreenDefinition& definition, OwnerBox owner);
     ~FieldBoxes();
 
     /// txtFields(index); throws std::out_of_range.
@@ -53,6 +53,8 @@ public:
     [[nodiscard]] const std::map<int, Text>& texts() const { return texts_; }
     [[nodiscard]] const std::vector<Check>& checks() const { return checks_; }
     [[nodiscard]] const std::vector<Combo>& combos() const { return combos_; }
+    /// The owner combo; nullptr on a screen without one.
+    [[nodiscard]] platform::ComboBox* owner() const { return owner_; }
     /// Caption of lblLabels(index).
     [[nodiscard]] QString label(int index) const;
     /// The combo whose shadow is the box; nullptr for a box of its own.
@@ -63,6 +65,10 @@ public:
     void bind(platform::RecordSource* rows);
     void bindDates(platform::RecordSource* rows);
     void bindCombos(platform::RecordSource* rows);
+    /// Binds the first combo alone, as the end of an add does.
+    void bindFirstCombo(platform::RecordSource* rows);
+    /// Fills the status combo with its own items and every other combo with the names of the states.
+    void fillCombos(const QStringList& states);
     /// Tab runs through the boxes in index order, then through the check boxes. To be called when they stand in their
     /// frames.
     void orderTabs() const;
@@ -70,11 +76,15 @@ public:
     void copyShadows();
 
 private:
+    Text& addText(QWidget& form, int index, platform::TextControl* box, const QString& label);
     void makeText(QWidget& form, int index, const data::Column& column);
+    void makeOwner(QWidget& form, OwnerBox owner);
     void makeCheck(QWidget& form, const data::Column& column);
     void makeCombo(QWidget& form, const ComboColumn& column);
 
     const ScreenDefinition& definition_;
+    std::vector<data::Column> columns_;
+    platform::ComboBox* owner_ = nullptr;
     std::map<int, Text> texts_;
     std::vector<Check> checks_;
     std::vector<Combo> combos_;

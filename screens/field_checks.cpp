@@ -24,7 +24,8 @@ void showInvalidNumber(platform::Desktop& desktop, const QString& label) {
     desktop.notice(
         u"You must enter a number in the %1 field or you can leave it blank.  However, it cannot accept letters or "
         "special characters.\r\n\r\n"
-        "Before you Cancel or Save, you must either enter the number correctly or leave the %1 field blank."_s.arg(name),
+        "Before you Cancel or Save, you must either enter the number correctly or leave the %1 field blank."_s.arg(
+            name),
         u"Invalid "_s + name, platform::Icon::Information);
 }
 

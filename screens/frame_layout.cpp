@@ -33,7 +33,8 @@ public:
     Grid(QGroupBox& frame, const FieldBoxes& boxes) : frame_(frame), boxes_(boxes), grid_(new QGridLayout(&frame)) {
         grid_->setHorizontalSpacing(8);
         grid_->setVerticalSpacing(6);
-        for (int i = 0; i < columnsOfBoxes; ++i) grid_->setColumnStretch(i * cellsPerBox + 1, 1);
+        for (int i = 0; i < columnsOfBoxes; ++i)
+            grid_->setColumnStretch(i * cellsPerBox + 1, 1);
     }
 
     void add(int index, const FieldBoxes::Text& text, bool alone) {
@@ -49,6 +50,20 @@ public:
         grid_->addWidget(text.label, row_, cell, Qt::AlignRight | Qt::AlignVCenter);
         grid_->addWidget(box, row_, cell + 1);
         if (++column_ == columnsOfBoxes) newRow();
+    }
+
+    /// Sets the sign that belongs to a rate right behind its box.
+    void addPercentSign(QWidget& box) {
+        int row = 0, column = 0, rows = 0, columns = 0;
+        grid_->getItemPosition(grid_->indexOf(&box), &row, &column, &rows, &columns);
+        auto* sign = new QLabel(u"%"_s, &frame_);
+        sign->setObjectName(u"lblPercent"_s);
+        auto* both = new QHBoxLayout;
+        both->setSpacing(4);
+        grid_->removeWidget(&box);
+        both->addWidget(&box, 1);
+        both->addWidget(sign);
+        grid_->addLayout(both, row, column);
     }
 
     void addChecks(Range range) {
@@ -116,6 +131,7 @@ void layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& de
         for (const auto& [i, text] : boxes.texts()) {
             if (!frame.boxes.holds(i)) continue;
             grid.add(i, text, frame.boxes.count() == 1);
+            if (i == definition.rateBox) grid.addPercentSign(text.box->widget());
             if (&frame == &definition.frames.front() && i == frame.boxes.first) grid.addAttachments(attachments);
         }
         if (frame.checks.count() > 0) grid.addChecks(frame.checks);

@@ -25,7 +25,9 @@ constexpr int socialSecurityLength = 11;
 PersonScreen::PersonScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace)
     : RecordScreen(desktop, session, workspace, personEntry()) {}
 
-QString PersonScreen::legalName() const { return boxes().text(nameBox).text(); }
+QString PersonScreen::legalName() const {
+    return boxes().text(nameBox).text();
+}
 
 // Load -------------------------------------------------------------------------------------------------------------
 
@@ -60,7 +62,6 @@ void PersonScreen::Form_Load() {
 // Add and save -----------------------------------------------------------------------------------------------------
 
 void PersonScreen::beginAdd() {
-    workspace().enableTree(false);
     RecordScreen::beginAdd();
     // While the screen loads nothing can take the focus; it falls on the name box when the window comes up.
     if (boxes().text(nameBox).widget().isVisible()) boxes().text(nameBox).widget().setFocus();
@@ -74,7 +75,6 @@ bool PersonScreen::readyToSave() {
             u"No Legal Name"_s, platform::Icon::Information);
         return false;
     }
-    workspace().enableTree(true);
     return true;
 }
 
@@ -88,11 +88,15 @@ bool PersonScreen::finishAdd() {
     return true;
 }
 
-void PersonScreen::finishSave() { workspace().refreshTree(); }
+void PersonScreen::finishSave() {
+    workspace().refreshTree();
+}
 
 // Delete -----------------------------------------------------------------------------------------------------------
 
-QString PersonScreen::deleteQuestion() { return u"Are you sure you want to delete "_s + legalName() + u"?"_s; }
+QString PersonScreen::deleteQuestion() {
+    return u"Are you sure you want to delete "_s + legalName() + u"?"_s;
+}
 
 void PersonScreen::deleteRecord() {
     // The member of the session goes, who after moves need not be the one on screen.
@@ -147,7 +151,9 @@ void PersonScreen::goPrevious() {
     setAttachKey();
 }
 
-QString PersonScreen::moveCompleteTitle() const { return u"Move Complete Error"_s; }
+QString PersonScreen::moveCompleteTitle() const {
+    return u"Move Complete Error"_s;
+}
 
 // Close ------------------------------------------------------------------------------------------------------------
 
@@ -207,11 +213,6 @@ void PersonScreen::Form_KeyUp(int keyCode, int /*shift*/) {
         box.setText(box.text() + u'-');
         box.select(static_cast<int>(length) + 1, 0);
     });
-}
-
-void PersonScreen::setAttachKey() {
-    session().gvAttachKey = definition().attachmentPrefix + QString::number(session().gPersonID) + u"_0"_s;
-    setNumAttachments();
 }
 
 }  // namespace screens

@@ -21,6 +21,8 @@ public:
     void Form_KeyUp(int keyCode, int shift) override;
 
 protected:
+    /// The first member can be entered whatever the session may do.
+    [[nodiscard]] bool mayAdd() override { return true; }
     void beginAdd() override;
     [[nodiscard]] bool readyToSave() override;
     [[nodiscard]] bool finishAdd() override;
@@ -34,7 +36,6 @@ protected:
     [[nodiscard]] QString moveCompleteTitle() const override;
     void cmdClose_Click() override;
     [[nodiscard]] bool validates(int box) override;
-    void setAttachKey() override;
 
 private:
     [[nodiscard]] QString selectStatement();

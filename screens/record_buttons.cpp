@@ -85,7 +85,8 @@ void RecordButtons::showBrowsing(bool browsing) {
 }
 
 void RecordButtons::enableMoves(bool enabled) {
-    for (platform::CommandButton* move : {next_, first_, last_, previous_}) move->setEnabled(enabled);
+    for (platform::CommandButton* move : {next_, first_, last_, previous_})
+        move->setEnabled(enabled);
 }
 
 }  // namespace screens

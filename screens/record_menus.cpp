@@ -8,6 +8,7 @@
 
 #include "platform/forms/icons.h"
 #include "platform/forms/menus.h"
+#include "screens/catalogue/screen_definition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,8 +17,33 @@ namespace screens {
 namespace {
 
 void entry(QMenu& menu, const QString& name, const QString& caption, const std::function<void()>& routine) {
-    QAction* made = platform::addEntry(menu, name, caption, routine ? routine : [] {});
+    QAction* made = platform::addEntry(
+        menu, name, caption, routine ? routine : [] {});
     made->setEnabled(static_cast<bool>(routine));
+}
+
+QString childName(ChildKind kind) {
+    switch (kind) {
+        case ChildKind::Inventory:
+            return u"Inventory"_s;
+        case ChildKind::Improvements:
+            return u"Improvements"_s;
+        case ChildKind::Outbuildings:
+            break;
+    }
+    return u"Outbuildings"_s;
+}
+
+QString childIcon(ChildKind kind) {
+    switch (kind) {
+        case ChildKind::Inventory:
+            return u"view-list-details"_s;
+        case ChildKind::Improvements:
+            return u"tools"_s;
+        case ChildKind::Outbuildings:
+            break;
+    }
+    return u"go-home"_s;
 }
 
 }  // namespace
@@ -31,20 +57,21 @@ RecordMenus::RecordMenus(QWidget& form, const RecordCommands& commands) : toolba
 
     toolbar_->setObjectName(u"Toolbar1"_s);
     toolbar_->setIconSize({22, 22});
-    addKey("tbNew", "document-new", "New database", commands.newDatabase);
-    addKey("tbOpen", "document-open", "Restore database", commands.restore);
-    addKey("tbBackup", "document-save-as", "Backup database", commands.backup);
+    addKey(u"tbNew"_s, u"document-new"_s, u"New database"_s, commands.newDatabase);
+    addKey(u"tbOpen"_s, u"document-open"_s, u"Restore database"_s, commands.restore);
+    addKey(u"tbBackup"_s, u"document-save-as"_s, u"Backup database"_s, commands.backup);
     toolbar_->addSeparator();
-    addKey("tbCopy", "edit-copy", "Copy highlighted text", commands.copy);
-    addKey("tbCut", "edit-cut", "Cut highlighted text", commands.cut);
-    addKey("tbPaste", "edit-paste", "Paste highlighted text", commands.paste);
+    addKey(u"tbCopy"_s, u"edit-copy"_s, u"Copy highlighted text"_s, commands.copy);
+    addKey(u"tbCut"_s, u"edit-cut"_s, u"Cut highlighted text"_s, commands.cut);
+    addKey(u"tbPaste"_s, u"edit-paste"_s, u"Paste highlighted text"_s, commands.paste);
     toolbar_->addSeparator();
-    addKey("tbPrint", "document-print", "Print screen", commands.print);
-    addKey("tbPrintAll", "document-print-preview", "Print all screens", commands.printAll);
+    addKey(u"tbPrint"_s, u"document-print"_s, u"Print screen"_s, commands.print);
+    addKey(u"tbPrintAll"_s, u"document-print-preview"_s, u"Print all screens"_s, commands.printAll);
     toolbar_->addSeparator();
-    addKey("tbAttach", "mail-attachment", "View/save attachments", commands.attachments);
-    addKey("tbSave", "document-save", "SaveToFile", commands.save);
-    addKey("tbSaveAll", "document-save-all", commands.saveAllHint, commands.saveAll);
+    addKey(u"tbAttach"_s, u"mail-attachment"_s, u"View/save attachments"_s, commands.attachments);
+    addKey(u"tbSave"_s, u"document-save"_s, u"SaveToFile"_s, commands.save);
+    addKey(u"tbSaveAll"_s, u"document-save-all"_s, QLatin1StringView(commands.saveAllHint), commands.saveAll);
+    if (!commands.children.empty()) addChildren(commands.children);
 }
 
 void RecordMenus::makeFileMenu(QWidget& form, const RecordCommands& commands) {
@@ -75,6 +102,7 @@ void RecordMenus::makeOptionsMenu(QWidget& form, const RecordCommands& commands)
     entry(*menu, u"mSave"_s, u"Save To File"_s, commands.save);
     entry(*menu, u"mSaveAll"_s, u"Save All To File"_s, commands.saveAll);
     menus_.push_back(menu);
+    options_ = menu;
 }
 
 void RecordMenus::makeWindowMenu(QWidget& form) {
@@ -102,9 +130,21 @@ void RecordMenus::makeHelpMenu(QWidget& form, const RecordCommands& commands) {
     menus_.push_back(menu);
 }
 
-void RecordMenus::addKey(const char* key, const char* icon, const char* hint, const std::function<void()>& routine) {
-    QAction* made = toolbar_->addAction(platform::themeIcon(QLatin1StringView(icon)), QLatin1StringView(hint));
-    made->setObjectName(QLatin1StringView(key));
+void RecordMenus::addChildren(const std::vector<ChildCommand>& children) {
+    platform::addSeparator(*options_, u"Sep2"_s);
+    toolbar_->addSeparator();
+    for (const ChildCommand& child : children) {
+        const QString name = childName(child.kind);
+        entry(*options_, u'm' + name, name, child.routine);
+        childEntries_.push_back(options_->actions().last());
+        addKey(u"tb"_s + name, childIcon(child.kind), child.tooltip, child.routine);
+    }
+}
+
+void RecordMenus::addKey(const QString& key, const QString& icon, const QString& hint,
+                         const std::function<void()>& routine) {
+    QAction* made = toolbar_->addAction(platform::themeIcon(icon), hint);
+    made->setObjectName(key);
     made->setEnabled(static_cast<bool>(routine));
     if (routine) QObject::connect(made, &QAction::triggered, made, [routine] { routine(); });
     // A key of the toolbar leaves the focus where it is.
@@ -116,6 +156,8 @@ void RecordMenus::enable(bool enabled) {
     for (QMenu* menu : menus_) {
         if (menu->objectName() != u"mnuHelp1"_s) menu->menuAction()->setEnabled(enabled);
     }
+    for (QAction* child : childEntries_)
+        child->setEnabled(enabled);
 }
 
 }  // namespace screens

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <vector>
 
@@ -10,12 +11,22 @@ class QWidget;
 
 namespace screens {
 
+enum class ChildKind;
+
+/// What opens the child screen of a kind: a menu entry and a key of the toolbar.
+struct ChildCommand {
+    ChildKind kind;
+    QString tooltip;
+    std::function<void()> routine;
+};
+
 /// What the menus and the toolbar of a record screen set off. An entry without a routine is there, but disabled.
 struct RecordCommands {
     std::function<void()> newDatabase, restore, backup, coverPage, exit;
     std::function<void()> copy, cut, paste;
     std::function<void()> attachments, print, printAll, save, saveAll;
     std::function<void()> help, about;
+    std::vector<ChildCommand> children{};
     /// Tooltip of the toolbar's last key, which differs on the Person screen.
     const char* saveAllHint = "Save all records to file";
 };
@@ -36,9 +47,12 @@ private:
     void makeOptionsMenu(QWidget& form, const RecordCommands& commands);
     void makeWindowMenu(QWidget& form);
     void makeHelpMenu(QWidget& form, const RecordCommands& commands);
-    void addKey(const char* key, const char* icon, const char* hint, const std::function<void()>& routine);
+    void addChildren(const std::vector<ChildCommand>& children);
+    void addKey(const QString& key, const QString& icon, const QString& hint, const std::function<void()>& routine);
 
     std::vector<QMenu*> menus_;
+    std::vector<QAction*> childEntries_;
+    QMenu* options_ = nullptr;
     QToolBar* toolbar_;
 };
 

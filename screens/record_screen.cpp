@@ -5,6 +5,7 @@
 #include <QScrollArea>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "platform/base/conversions.h"
 #include "platform/base/date_text.h"
@@ -27,15 +28,18 @@ using platform::RuntimeError;
 namespace screens {
 
 RecordScreen::RecordScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
-                           const ScreenDefinition& definition)
-    : DataWindow(desktop, session, workspace, definition.name), definition_(definition), boxes_(*this, definition) {
+                           const ScreenDefinition& definition, OwnerBox owner)
+    : DataWindow(desktop, session, workspace, definition.name),
+      definition_(definition),
+      boxes_(*this, definition, owner) {
     rsLookup_.setLockType(data::LockType::ReadOnly);
     rsLookup_.setCursorLocation(data::CursorLocation::Server);
     rsLookup_.setCursorType(data::CursorType::ForwardOnly);
     connect(&rows_, &data::Recordset::moveComplete, this,
-            [this] { this->desktop().attempt(moveCompleteTitle(), [this] { showPosition(); }); });
+            [this] { this->desktop().attempt(moveCompleteTitle(), [this] { moveComplete(); }); });
     menus_ = std::make_unique<RecordMenus>(*this, commands());
-    for (QMenu* menu : menus_->menus()) addMenu(menu);
+    for (QMenu* menu : menus_->menus())
+        addMenu(menu);
     layOut();
     connectControls();
 }
@@ -83,10 +87,15 @@ RecordActions RecordScreen::actions() {
 
 RecordCommands RecordScreen::commands() {
     RecordCommands commands;
+    commands.coverPage = handler([this] { workspace().showCoverPage(); });
     commands.exit = handler([this] { workspace().exitProgram(); });
     commands.copy = handler([this] { copySelection(false); });
     commands.cut = handler([this] { copySelection(true); });
     commands.paste = handler([this] { pasteSelection(); });
+    for (const ChildOffer& child : definition_.children) {
+        commands.children.push_back(
+            {child.kind, child.tooltip, handler([this, kind = child.kind] { showChild(kind); })});
+    }
     return commands;
 }
 
@@ -99,7 +108,18 @@ void RecordScreen::connectControls() {
     }
     for (const FieldBoxes::Combo& combo : boxes_.combos()) {
         combo.box->onClick(handler([this] { cbFields_Click(); }));
+        combo.box->setValidate([this] { return validatesCombos(); });
     }
+    if (boxes_.owner()) boxes_.owner()->setValidate([this] { return validatesCombos(); });
+}
+
+void RecordScreen::placeOnTop(QWidget& row) {
+    // Right below the toolbar.
+    static_cast<QVBoxLayout*>(layout())->insertWidget(1, &row);
+}
+
+void RecordScreen::makeKeyBox() {
+    txtID_ = std::make_unique<HiddenBox>(*this, u"txtID"_s, u"ID"_s);
 }
 
 // Load -------------------------------------------------------------------------------------------------------------
@@ -108,30 +128,54 @@ void RecordScreen::openRows(const QString& statement) {
     rows_.open(statement, session().gConnection, data::CursorType::Static, data::LockType::Optimistic);
 }
 
-void RecordScreen::bindBoxes() { boxes_.bind(&rows_); }
+void RecordScreen::bindBoxes() {
+    boxes_.bind(&rows_);
+}
 
 void RecordScreen::fillStateCombos() {
     lookUp(u"Select * from LUStates Order By Name"_s);
-    while (!rsLookup_.eof()) {
-        const QString name = rsLookup_.value(u"Name"_s).toString();
-        for (const FieldBoxes::Combo& combo : boxes_.combos()) combo.box->addItem(name);
-        rsLookup_.moveNext();
-    }
+    QStringList states;
+    for (; !rsLookup_.eof(); rsLookup_.moveNext())
+        states.append(rsLookup_.value(u"Name"_s).toString());
     rsLookup_.close();
+    boxes_.fillCombos(states);
 }
 
 void RecordScreen::showStateCombos() {
     if (rows_.eof()) {
-        for (const FieldBoxes::Combo& combo : boxes_.combos()) combo.box->setListIndex(0);
+        for (const FieldBoxes::Combo& combo : boxes_.combos())
+            combo.box->setListIndex(0);
     } else {
         boxes_.bindCombos(&rows_);
     }
     boxes_.copyShadows();
 }
 
+void RecordScreen::beginEmpty() {
+    setButtons(false);
+    bChange = false;
+    cmdAdd_Click();
+}
+
+void RecordScreen::focusOn(platform::TextControl& box) {
+    if (!isVisible()) {
+        focusWhenShown_ = &box;
+        return;
+    }
+    box.widget().setFocus();
+    box.selectAll();
+}
+
+void RecordScreen::show() {
+    DataWindow::show();
+    if (platform::TextControl* box = std::exchange(focusWhenShown_, nullptr)) focusOn(*box);
+}
+
 // Add --------------------------------------------------------------------------------------------------------------
 
-void RecordScreen::pressAdd() { buttons_->add().press(); }
+void RecordScreen::pressAdd() {
+    buttons_->add().press();
+}
 
 void RecordScreen::cmdAdd_Click() {
     desktop().attempt(u"Add Error"_s, [this] {
@@ -139,18 +183,25 @@ void RecordScreen::cmdAdd_Click() {
             session::showScreenChanges(desktop());
             return;
         }
-        beginAdd();
+        if (mayAdd()) beginAdd();
     });
 }
 
+bool RecordScreen::mayChange() {
+    if (!session().gbCanEdit) session::showInvalidLogin(desktop());
+    return session().gbCanEdit;
+}
+
 void RecordScreen::beginAdd() {
+    workspace().enableTree(false);
     boxes_.bindDates(&rows_);
     if (!(rows_.bof() && rows_.eof())) vBookmark_ = rows_.bookmark();
     rows_.addNew();
     buttons_->status().setText(u"Add record"_s);
     bAdding_ = true;
     setButtons(false);
-    for (const FieldBoxes::Check& check : boxes_.checks()) check.box->setValue(0);
+    for (const FieldBoxes::Check& check : boxes_.checks())
+        check.box->setValue(0);
     if (!boxes_.combos().empty()) boxes_.combos().front().box->setListIndex(0);
     boxes_.bindDates(nullptr);
     bChange = false;
@@ -160,13 +211,11 @@ void RecordScreen::beginAdd() {
 
 void RecordScreen::cmdEdit_Click() {
     desktop().attempt(u"Edit Error"_s, [this] {
-        if (!session().gbCanEdit) {
-            session::showInvalidLogin(desktop());
-            return;
-        }
+        if (!mayChange()) return;
         buttons_->status().setText(u"Edit record"_s);
         bEditing_ = true;
         setButtons(false);
+        beginEdit();
     });
 }
 
@@ -175,6 +224,7 @@ void RecordScreen::cmdEdit_Click() {
 void RecordScreen::cmdUpdate_Click() {
     desktop().attempt(u"Update Error"_s, [this] {
         if (!readyToSave()) return;
+        prepareSave();
         writeCombos();
         writeDates();
         rows_.updateBatch();
@@ -191,8 +241,39 @@ void RecordScreen::cmdUpdate_Click() {
     });
 }
 
+QString RecordScreen::requiredName() const {
+    return boxes_.text(0).text();
+}
+
+bool RecordScreen::readyToSave() {
+    if (!requiredName().isEmpty()) return true;
+    desktop().notice(definition_.refusal.opening + QString(definition_.saveEnding), definition_.refusal.title,
+                     platform::Icon::Information);
+    return false;
+}
+
+void RecordScreen::prepareSave() {
+    workspace().enableTree(true);
+}
+
+bool RecordScreen::finishAdd() {
+    rows_.moveLast();
+    boxes_.bindFirstCombo(&rows_);
+    rows_.requery();
+    bChange = false;
+    if (rows_.eof()) {
+        // The new row doesn't belong to this view, and the view has no other.
+        cmdClose_Click();
+        return false;
+    }
+    showAfterAdd();
+    setAttachKey();
+    return true;
+}
+
 void RecordScreen::writeCombos() {
-    for (const FieldBoxes::Combo& combo : boxes_.combos()) rows_.setValue(combo.column.column, combo.box->text());
+    for (const FieldBoxes::Combo& combo : boxes_.combos())
+        rows_.setValue(combo.column.column, combo.box->text());
 }
 
 void RecordScreen::writeDates() {
@@ -236,16 +317,17 @@ void RecordScreen::cmdCancel_Click() {
 
 void RecordScreen::cmdDelete_Click() {
     desktop().attempt(u"Delete Error"_s, [this] {
-        if (!session().gbCanEdit) {
-            session::showInvalidLogin(desktop());
-            return;
-        }
+        if (!mayChange()) return;
         if (!desktop().ask(deleteQuestion(), u"Delete Confirmation"_s)) return;
         boxes_.bindDates(&rows_);
         deleteRecord();
         boxes_.bindDates(nullptr);
         bChange = false;
     });
+}
+
+QString RecordScreen::deleteQuestion() {
+    return u"Are you sure you want to delete this "_s + definition_.deleteNoun;
 }
 
 void RecordScreen::deleteCurrentRow() {
@@ -257,13 +339,21 @@ void RecordScreen::deleteCurrentRow() {
 
 // Moves ------------------------------------------------------------------------------------------------------------
 
-void RecordScreen::cmdFirst_Click() { move(u"Goto First Record Error"_s, &RecordScreen::goFirst); }
+void RecordScreen::cmdFirst_Click() {
+    move(u"Goto First Record Error"_s, &RecordScreen::goFirst);
+}
 
-void RecordScreen::cmdPrevious_Click() { move(u"Goto Previous Record Error"_s, &RecordScreen::goPrevious); }
+void RecordScreen::cmdPrevious_Click() {
+    move(u"Goto Previous Record Error"_s, &RecordScreen::goPrevious);
+}
 
-void RecordScreen::cmdNext_Click() { move(u"Goto Next Record Error"_s, &RecordScreen::goNext); }
+void RecordScreen::cmdNext_Click() {
+    move(u"Goto Next Record Error"_s, &RecordScreen::goNext);
+}
 
-void RecordScreen::cmdLast_Click() { move(u"Goto Last Record Error"_s, &RecordScreen::goLast); }
+void RecordScreen::cmdLast_Click() {
+    move(u"Goto Last Record Error"_s, &RecordScreen::goLast);
+}
 
 void RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)()) {
     desktop().attempt(errorTitle, [this, step] {
@@ -279,11 +369,47 @@ void RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)())
     });
 }
 
+void RecordScreen::goFirst() {
+    rows_.moveFirst();
+    setAttachKey();
+}
+
+void RecordScreen::goLast() {
+    rows_.moveLast();
+    setAttachKey();
+}
+
+void RecordScreen::goNext() {
+    if (!rows_.eof()) rows_.moveNext();
+    if (rows_.eof() && rows_.recordCount() > 0) {
+        desktop().beep();
+        setLastRecord();
+        rows_.moveLast();
+    }
+    setAttachKey();
+}
+
+void RecordScreen::goPrevious() {
+    if (!rows_.bof()) rows_.movePrevious();
+    if (rows_.bof() && rows_.recordCount() > 0) {
+        desktop().beep();
+        rows_.moveFirst();
+    }
+    setAttachKey();
+}
+
+void RecordScreen::moveComplete() {
+    boxes_.copyShadows();
+    showPosition();
+}
+
 void RecordScreen::showPosition() {
     buttons_->status().setText(u"Record: %1 of %2"_s.arg(rows_.absolutePosition()).arg(rows_.recordCount()));
 }
 
-QString RecordScreen::moveCompleteTitle() const { return u"MoveComplete Error"_s; }
+QString RecordScreen::moveCompleteTitle() const {
+    return u"MoveComplete Error"_s;
+}
 
 // Close ------------------------------------------------------------------------------------------------------------
 
@@ -293,9 +419,13 @@ void RecordScreen::cmdClose_Click() {
     unload();
 }
 
-bool RecordScreen::confirmsClosing() { return session::closeConfirm(desktop(), session(), bChange); }
+bool RecordScreen::confirmsClosing() {
+    return session::closeConfirm(desktop(), session(), bChange);
+}
 
-void RecordScreen::Form_Unload() { desktop().setPointer(platform::Pointer::Default); }
+void RecordScreen::Form_Unload() {
+    desktop().setPointer(platform::Pointer::Default);
+}
 
 // Keys -------------------------------------------------------------------------------------------------------------
 
@@ -307,14 +437,25 @@ void RecordScreen::Form_KeyDown(int keyCode, int shift) {
     namespace key = platform::key;
     if (bEditing_ || bAdding_) return;
     switch (keyCode) {
-        case key::escape: cmdClose_Click(); break;
-        case key::end: cmdLast_Click(); break;
-        case key::home: cmdFirst_Click(); break;
+        case key::escape:
+            cmdClose_Click();
+            break;
+        case key::end:
+            cmdLast_Click();
+            break;
+        case key::home:
+            cmdFirst_Click();
+            break;
         case key::up:
-        case key::pageUp: shift == platform::ctrlMask ? cmdFirst_Click() : cmdPrevious_Click(); break;
+        case key::pageUp:
+            shift == platform::ctrlMask ? cmdFirst_Click() : cmdPrevious_Click();
+            break;
         case key::down:
-        case key::pageDown: shift == platform::ctrlMask ? cmdLast_Click() : cmdNext_Click(); break;
-        default: break;
+        case key::pageDown:
+            shift == platform::ctrlMask ? cmdLast_Click() : cmdNext_Click();
+            break;
+        default:
+            break;
     }
 }
 
@@ -327,7 +468,9 @@ bool RecordScreen::validates(int box) {
     return true;
 }
 
-void RecordScreen::cbFields_Click() { boxes_.copyShadows(); }
+void RecordScreen::cbFields_Click() {
+    boxes_.copyShadows();
+}
 
 void RecordScreen::copySelection(bool cut) {
     auto* box = dynamic_cast<platform::TextControl*>(activeInput());
@@ -349,6 +492,13 @@ platform::Control* RecordScreen::activeInput() {
 }
 
 // What the screen shows of its state -------------------------------------------------------------------------------
+
+void RecordScreen::setAttachKey() {
+    // The selected member's number, not the owner's: in the view of the whole family the same row has another key.
+    const int record = txtID_ && !txtID_->text().isEmpty() ? txtID_->number() : 0;
+    session().gvAttachKey = u"%1%2_%3"_s.arg(definition_.attachmentPrefix).arg(session().gPersonID).arg(record);
+    setNumAttachments();
+}
 
 void RecordScreen::setNumAttachments() {
     desktop().attempt(u"SetNumAttachments Error"_s, [this] {

@@ -5,6 +5,7 @@
 
 #include "data/recordset.h"
 #include "screens/field_boxes.h"
+#include "screens/hidden_box.h"
 #include "screens/record_buttons.h"
 #include "screens/record_menus.h"
 #include "session/data_window.h"
@@ -23,13 +24,14 @@ class RecordScreen : public session::DataWindow {
 
 public:
     RecordScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
-                 const ScreenDefinition& definition);
+                 const ScreenDefinition& definition, OwnerBox owner = OwnerBox::None);
 
     /// Raised when cmdNext runs off the end: a walk over all records stops on it.
     [[nodiscard]] bool bLastRecord() const { return bLastRecord_; }
     /// Presses the add button.
     void pressAdd();
 
+    void show() override;
     [[nodiscard]] bool keyPreview() const override { return true; }
     void Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyPress(int keyAscii) override;
@@ -41,22 +43,36 @@ protected:
     void bindBoxes();
     void fillStateCombos();
     void showStateCombos();
+    /// A screen without rows begins in an add.
+    void beginEmpty();
+    /// Gives the box the focus with its whole text selected; in a load, once the window comes up.
+    void focusOn(platform::TextControl& box);
 
     // Add, edit, save, cancel, delete. The steps in which a kind of screen differs are its overrides.
     void cmdAdd_Click();
+    /// False, after telling why, in a session that may change nothing.
+    [[nodiscard]] virtual bool mayChange();
+    [[nodiscard]] virtual bool mayAdd() { return mayChange(); }
     virtual void beginAdd();
     void cmdEdit_Click();
+    virtual void beginEdit() {}
     void cmdUpdate_Click();
+    /// The name that no row goes without.
+    [[nodiscard]] virtual QString requiredName() const;
     /// Tells what a save needs and doesn't have; false keeps the state.
-    [[nodiscard]] virtual bool readyToSave() = 0;
+    [[nodiscard]] virtual bool readyToSave();
+    /// What a save does ahead of the columns that are written by hand.
+    virtual void prepareSave();
     /// After the write of an add. False when the screen has gone.
-    [[nodiscard]] virtual bool finishAdd() = 0;
+    [[nodiscard]] virtual bool finishAdd();
+    /// The rows are read anew after an add, and the first one is on screen.
+    virtual void showAfterAdd() {}
     virtual void finishSave() {}
     void cmdCancel_Click();
     virtual void finishCancel() {}
     void cmdDelete_Click();
-    [[nodiscard]] virtual QString deleteQuestion() = 0;
-    virtual void deleteRecord() = 0;
+    [[nodiscard]] virtual QString deleteQuestion();
+    virtual void deleteRecord() { deleteCurrentRow(); }
     /// Deletes the row on screen and goes on to its neighbour; fails when none is left.
     void deleteCurrentRow();
 
@@ -65,10 +81,10 @@ protected:
     void cmdPrevious_Click();
     void cmdNext_Click();
     void cmdLast_Click();
-    virtual void goFirst() = 0;
-    virtual void goPrevious() = 0;
-    virtual void goNext() = 0;
-    virtual void goLast() = 0;
+    virtual void goFirst();
+    virtual void goPrevious();
+    virtual void goNext();
+    virtual void goLast();
     void showPosition();
     /// Title under which a failure to show the position is reported.
     [[nodiscard]] virtual QString moveCompleteTitle() const;
@@ -79,14 +95,24 @@ protected:
 
     // Checks and aids at the boxes.
     [[nodiscard]] virtual bool validates(int box);
+    [[nodiscard]] virtual bool validatesCombos() { return true; }
     virtual void cbFields_Click();
 
-    virtual void setAttachKey() = 0;
+    /// Makes the session's attachment key that of the record on screen, and counts its files.
+    virtual void setAttachKey();
     /// Shows how many files belong to the attachment key.
     void setNumAttachments();
-    void setButtons(bool browsing);
+    virtual void setButtons(bool browsing);
+    /// Opens the child screen of a kind that the entry offers.
+    virtual void showChild(ChildKind /*kind*/) {}
     /// Opens the look-up recordset anew; it stays open.
     void lookUp(const QString& statement);
+
+    /// Gives the screen its hidden txtID.
+    void makeKeyBox();
+    [[nodiscard]] HiddenBox& txtID() const { return *txtID_; }
+    void placeOnTop(QWidget& row);
+    [[nodiscard]] bool isBrowsing() const { return !bEditing_ && !bAdding_; }
 
     [[nodiscard]] data::Recordset& rows() { return rows_; }
     [[nodiscard]] data::Recordset& rsLookup() { return rsLookup_; }
@@ -100,6 +126,7 @@ private:
     void connectControls();
     [[nodiscard]] RecordActions actions();
     [[nodiscard]] RecordCommands commands();
+    void moveComplete();
     void move(const QString& errorTitle, void (RecordScreen::*step)());
     void writeCombos();
     void writeDates();
@@ -115,6 +142,8 @@ private:
     std::unique_ptr<RecordMenus> menus_;
     std::unique_ptr<RecordButtons> buttons_;
     QLabel* lblAttachments_ = nullptr;
+    std::unique_ptr<HiddenBox> txtID_;
+    platform::TextControl* focusWhenShown_ = nullptr;
 
     bool bEditing_ = false;
     bool bAdding_ = false;

@@ -18,6 +18,8 @@ public:
     bool bChange = false;
 
     void Form_QueryUnload(bool& cancel) override;
+    /// Reads the rows of a window that doesn't read them while it loads; the host calls it right before it shows one.
+    virtual void ShowMe() {}
 
 protected:
     [[nodiscard]] Session& session() const { return session_; }

@@ -4,6 +4,8 @@
 
 namespace session {
 
-QString Session::path(const QString& name) const { return platform::files::join(applicationFolder, name); }
+QString Session::path(const QString& name) const {
+    return platform::files::join(applicationFolder, name);
+}
 
 }  // namespace session

@@ -4,6 +4,15 @@
 
 namespace session {
 
+/// Which rows a child screen is to show: those that hang on one row of one kind of site.
+struct ChildRequest {
+    QString title;     ///< caption of the child's window
+    QString location;  ///< description of the site
+    int typeID = 0;    ///< kind of the site
+    int parentID = 0;  ///< ID of the site's row
+    int ownerID = 0;   ///< the member whom the site belongs to
+};
+
 /// What a window may ask of the host that it stands in.
 class Workspace {
 public:
@@ -28,6 +37,13 @@ public:
 
     /// Text of the name box of the Person screen; the selected member's name, or nothing, while that isn't loaded.
     [[nodiscard]] virtual QString defaultOwner() const = 0;
+
+    /// Each opens its child screen; one that is open for another site lets go of it first, and stays as it is when the
+    /// user won't lose its changes.
+    virtual void showInventoryScreen(const ChildRequest& request) = 0;
+    virtual void showImprovementsScreen(const ChildRequest& request) = 0;
+    virtual void showOutbuildingsScreen(const ChildRequest& request) = 0;
+    virtual void showCoverPage() = 0;
 
     /// Leaves the program.
     virtual void exitProgram() = 0;

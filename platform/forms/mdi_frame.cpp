@@ -19,16 +19,21 @@ MdiFrame::MdiFrame(Desktop& desktop, const QString& name)
     layout->setSpacing(0);
     layout->addWidget(area_, 1);
     area_->setBackground(palette().brush(QPalette::Window));
+    // When the active child goes, the one that was active before it comes to the front.
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
     setCentralWidget(centre_);
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* frame) {
         showMenus();
         if (!frame) return;
-        if (FormWindow* child = activeForm(); child && child->isLoaded()) child->desktop().run([child] { child->Form_Activate(); });
+        if (FormWindow* child = activeForm(); child && child->isLoaded())
+            child->desktop().run([child] { child->Form_Activate(); });
     });
 }
 
-MdiFrame::~MdiFrame() { desktop().setHost(nullptr); }
+MdiFrame::~MdiFrame() {
+    desktop().setHost(nullptr);
+}
 
 void MdiFrame::setPanel(QWidget& panel) {
     auto* layout = static_cast<QHBoxLayout*>(centre_->layout());
@@ -66,7 +71,9 @@ void MdiFrame::removeChild(QMdiSubWindow& frame) {
     showMenus();
 }
 
-void MdiFrame::focusNextChild() { area_->activateNextSubWindow(); }
+void MdiFrame::focusNextChild() {
+    area_->activateNextSubWindow();
+}
 
 void MdiFrame::showMenus() {
     FormWindow* owner = activeForm();
@@ -74,7 +81,8 @@ void MdiFrame::showMenus() {
     if (owner == menuOwner_ && !menuBar()->actions().isEmpty()) return;
     menuOwner_ = owner;
     menuBar()->clear();
-    for (QMenu* menu : owner ? owner->menus() : menus()) menuBar()->addMenu(menu);
+    for (QMenu* menu : owner ? owner->menus() : menus())
+        menuBar()->addMenu(menu);
 }
 
 void MdiFrame::closeEvent(QCloseEvent* event) {

@@ -16,8 +16,15 @@ namespace support {
 
 namespace {
 
+/// Size of the host window as KINBOOK_DRIVE_SIZE gives it, "1024x700".
+QSize hostSize() {
+    const QList<QByteArray> numbers = qgetenv("KINBOOK_DRIVE_SIZE").split('x');
+    const QSize size(numbers.value(0).toInt(), numbers.value(1).toInt());
+    return size.isEmpty() ? QSize(1024, 700) : size;
+}
+
 void playLines(const MakeProgram& program) {
-    User user(program);
+    User user(program, hostSize());
     LineProtocol protocol(user);
     for (std::string line; std::getline(std::cin, line);) {
         const QByteArray answer = protocol.answer(QByteArray::fromStdString(line));

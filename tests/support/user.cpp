@@ -155,7 +155,8 @@ QTreeWidgetItem& shownNode(platform::TreeView& tree, const QString& key) {
 
 }  // namespace
 
-User::User(MakeProgram make) : make_(std::move(make)), gui_([this] { return settled(); }) {
+User::User(MakeProgram make, QSize hostSize)
+    : make_(std::move(make)), hostSize_(hostSize), gui_([this] { return settled(); }) {
     gui_.look([] {
         QApplication::setDoubleClickInterval(doubleClick.count());
         for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip}) {
@@ -182,6 +183,7 @@ void User::start() {
         dialogs_ = dialogs.get();
         desktop.setDialogs(std::move(dialogs));
         QObject::connect(&desktop, &platform::Desktop::beeped, &desktop, [this] { ++beeps_; });
+        hostSized_ = false;
         starting_ = true;
         const auto started = qScopeGuard([this] { starting_ = false; });
         program_->main();
@@ -199,7 +201,7 @@ void User::click(const std::function<Spot()>& find, Qt::MouseButton button) {
 }
 
 void User::stroke(const KeyStroke& stroke) {
-    gui_.act([stroke] { press(stroke); });
+    gui_.act([stroke] { press(stroke); }, GuiThread::Keys::Held);
     gui_.act([stroke] { letGo(stroke); });
 }
 
@@ -402,15 +404,6 @@ void User::shot(const QString& file) {
     if (!saved) throw Refused(u"can't write "_s + file);
 }
 
-void User::resize(int width, int height) {
-    gui_.act([this, width, height] {
-        platform::MdiFrame* host = program_ ? program_->desktop().host() : nullptr;
-        if (!host || !host->isVisible()) return;
-        host->showNormal();
-        host->resize(width, height);
-    });
-}
-
 QJsonObject User::state() {
     return read([this] {
         QJsonObject seen = program_ ? describeDesktop(program_->desktop()) : QJsonObject();
@@ -474,13 +467,31 @@ bool User::isRunning() const {
     return program_ && (starting_ || program_->desktop().count() > 0);
 }
 
-bool User::settled() const {
+bool User::settled() {
     if (program_ && program_->desktop().isWaiting()) return false;
+    if (sizeHost()) return false;
+    return !activateTopmost();
+}
+
+bool User::activateTopmost() {
     QWidget* top = QGuiApplication::focusWindow() ? nullptr : topmostWindow();
-    if (!top || top->isActiveWindow()) return true;
-    // What a window manager does when the active window goes.
-    top->activateWindow();
-    return false;
+    if (!top) {
+        activations_ = 0;
+        return false;
+    }
+    if (activations_ == mostTries) return false;
+    ++activations_;
+    top->windowHandle()->requestActivate();
+    return true;
+}
+
+bool User::sizeHost() {
+    platform::MdiFrame* host = program_ ? program_->desktop().host() : nullptr;
+    if (hostSized_ || !host || !host->isVisible()) return false;
+    host->showNormal();
+    host->resize(hostSize_);
+    hostSized_ = true;
+    return true;
 }
 
 void User::leaveProgram() {

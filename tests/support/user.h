@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QJsonObject>
+#include <QSize>
 #include <QStringList>
 #include <memory>
 
@@ -21,7 +22,8 @@ class UserDialogs;
 /// modal form, else of the active child, or as "FORM.CONTROL". A gesture that no user could make throws Refused.
 class User {
 public:
-    explicit User(MakeProgram make);
+    /// `hostSize`: the size that the user gives the host window when it comes up, in pixels.
+    explicit User(MakeProgram make, QSize hostSize = {1024, 700});
     /// Leaves the program, whatever boxes are open.
     ~User();
     User(const User&) = delete;
@@ -57,8 +59,6 @@ public:
     void close();
     /// Takes a picture of the topmost window.
     void shot(const QString& file);
-    /// Gives the host window a size, in pixels.
-    void resize(int width, int height);
 
     [[nodiscard]] QJsonObject state();
     [[nodiscard]] QJsonObject session();
@@ -84,7 +84,10 @@ private:
     void leaveProgram();
     [[nodiscard]] Finder finder() const;
     [[nodiscard]] bool isRunning() const;
-    [[nodiscard]] bool settled() const;
+    [[nodiscard]] bool settled();
+    [[nodiscard]] bool sizeHost();
+    /// Does what a window manager does when the active window goes; false if nothing is to be done.
+    [[nodiscard]] bool activateTopmost();
 
     template <class Read>
     [[nodiscard]] auto read(Read reading) {
@@ -96,7 +99,10 @@ private:
     MakeProgram make_;
     std::unique_ptr<Program> program_;
     UserDialogs* dialogs_ = nullptr;
+    QSize hostSize_;
     bool starting_ = false;
+    bool hostSized_ = false;
+    int activations_ = 0;
     int beeps_ = 0;
     QStringList opened_;
     GuiThread gui_;

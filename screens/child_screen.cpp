@@ -1,0 +1,69 @@
+#include "screens/child_screen.h"
+
+#include "platform/forms/text_control.h"
+#include "session/session.h"
+#include "session/workspace.h"
+
+using namespace Qt::StringLiterals;
+
+namespace screens {
+
+namespace {
+constexpr int nameBox = 0;
+constexpr int locationBox = 1;
+}  // namespace
+
+ChildScreen::ChildScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+                         const ScreenDefinition& definition)
+    : RecordScreen(desktop, session, workspace, definition, OwnerBox::Name),
+      txtTypeID_(*this, u"txtTypeID"_s, u"TypeID"_s),
+      txtParentID_(*this, u"txtParentID"_s, u"ParentID"_s),
+      txtOwnerID_(*this, u"txtOwnerID"_s, QString()) {
+    makeKeyBox();
+}
+
+void ChildScreen::setParentRow(const session::ChildRequest& request) {
+    setCaption(request.title);
+    boxes().text(locationBox).setText(request.location);
+    txtParentID_.setNumber(request.parentID);
+    txtOwnerID_.setNumber(request.ownerID);
+    txtTypeID_.setNumber(request.typeID);
+}
+
+void ChildScreen::ShowMe() {
+    typeID_ = txtTypeID_.number();
+    parentID_ = txtParentID_.number();
+    openRows(u"%1Where TypeID = %2 and ParentID = %3%4"_s.arg(definition().query)
+                 .arg(typeID_)
+                 .arg(parentID_)
+                 .arg(definition().queryOrder));
+    bindBoxes();
+    txtID().bind(&rows());
+    txtParentID_.bind(&rows());
+    txtTypeID_.bind(&rows());
+    showOwner();
+    bChange = false;
+    if (rows().eof()) {
+        beginEmpty();
+    } else {
+        setAttachKey();
+    }
+}
+
+void ChildScreen::showOwner() {
+    QString name;
+    if (txtOwnerID_.isNumeric()) {
+        lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
+        name = rsLookup().value(u"LegalName"_s).toString();
+    }
+    boxes().text(nameBox).setText(name);
+}
+
+void ChildScreen::beginAdd() {
+    RecordScreen::beginAdd();
+    txtTypeID_.setNumber(typeID_);
+    txtParentID_.setNumber(parentID_);
+    bChange = false;
+}
+
+}  // namespace screens

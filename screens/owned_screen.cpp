@@ -1,0 +1,249 @@
+#include "screens/owned_screen.h"
+
+#include <algorithm>
+
+#include "platform/base/conversions.h"
+#include "platform/base/runtime_error.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/text_control.h"
+#include "session/owner_names.h"
+#include "session/session.h"
+#include "session/workspace.h"
+
+using namespace Qt::StringLiterals;
+
+namespace screens {
+
+namespace {
+constexpr int ownerShadow = 0;
+constexpr int siteDescription = 2;
+}  // namespace
+
+OwnedScreen::OwnedScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+                         const ScreenDefinition& definition)
+    : RecordScreen(desktop, session, workspace, definition, OwnerBox::Combo),
+      txtOwnerID_(*this, u"txtOwnerID"_s, u"PersonID"_s) {
+    makeKeyBox();
+}
+
+// Load -------------------------------------------------------------------------------------------------------------
+
+void OwnedScreen::Form_Load() {
+    if (definition().reportsLoadFailure) {
+        desktop().attempt(u"Form Load Error"_s, [this] { loadRows(); });
+    } else {
+        loadRows();
+    }
+}
+
+QString OwnedScreen::selectStatement() const {
+    const QString table = definition().table;
+    const QString rows = u"SELECT %1.* FROM Person INNER JOIN %1 ON Person.ID = %1.PersonID "_s.arg(table);
+    const QString order = u"ORDER BY Person.Seq, %1.ID"_s.arg(table);
+    if (session().gbWholeFamily) return rows + order;
+    return rows + u"WHERE %1.PersonID = %2 "_s.arg(table).arg(session().gPersonID) + order;
+}
+
+void OwnedScreen::loadRows() {
+    openRows(selectStatement());
+    bindBoxes();
+    fillStateCombos();
+    showStateCombos();
+    bindKeys();
+    session::fillWithNames(desktop(), session().gConnection, owner());
+    setCaption(titleText() + session().gsPersonName);
+    loadOwner();
+    bChange = false;
+    if (rows().eof()) {
+        beginEmpty();
+    } else {
+        setAttachKey();
+    }
+}
+
+void OwnedScreen::bindKeys() {
+    txtOwnerID_.bind(&rows());
+    txtID().bind(&rows());
+}
+
+void OwnedScreen::loadOwner() {
+    QString name;
+    if (txtOwnerID_.isNumeric()) {
+        lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
+        name = rsLookup().value(u"LegalName"_s).toString();
+    }
+    showOwner(name);
+}
+
+void OwnedScreen::showOwner(const QString& name) {
+    owner().setText(name);
+    boxes().text(ownerShadow).setText(name);
+}
+
+// Add and edit -----------------------------------------------------------------------------------------------------
+
+void OwnedScreen::beginAdd() {
+    owner().setLocked(false);
+    sSavedName_ = workspace().defaultOwner();
+    if (!owner().text().isEmpty()) {
+        sSavedName_ = owner().text();
+        sCancelName_ = sSavedName_;
+    }
+    session::fillWithNames(desktop(), session().gConnection, owner());
+    owner().setText(sSavedName_);
+    RecordScreen::beginAdd();
+}
+
+void OwnedScreen::beginEdit() {
+    sCancelName_ = owner().text();
+}
+
+// Save -------------------------------------------------------------------------------------------------------------
+
+QString OwnedScreen::requiredName() const {
+    return owner().text();
+}
+
+void OwnedScreen::prepareSave() {
+    RecordScreen::prepareSave();
+    const QString name = owner().text();
+    // The name goes in as it stands. Of two members with one name the row goes to the first that is found; an unknown
+    // name leaves the row's owner as it is.
+    lookUp(u"Select ID from Person where LegalName = '"_s + name + u"'"_s);
+    if (rsLookup().eof()) return;
+    const QString id = rsLookup().value(u"ID"_s).toString();
+    if (!platform::isNumeric(id)) {
+        txtOwnerID_.setText(u"0"_s);
+        return;
+    }
+    txtOwnerID_.setText(id);
+    boxes().text(ownerShadow).setText(name);
+}
+
+void OwnedScreen::showAfterAdd() {
+    restoreOwnerName();
+    forgetSavedName();
+}
+
+void OwnedScreen::restoreOwnerName() {
+    lookUp(u"Select LegalName from Person where ID ="_s + txtOwnerID_.text());
+    if (!rsLookup().eof()) {
+        const QVariant name = rsLookup().value(u"LegalName"_s);
+        if (name.isNull()) {
+            desktop().notice(u"Invalid name in database."_s);
+        } else {
+            sSavedName_ = name.toString();
+            showOwner(sSavedName_);
+        }
+    }
+    if (sSavedName_.isEmpty()) sSavedName_ = owner().text();
+}
+
+void OwnedScreen::finishSave() {
+    owner().setLocked(true);
+}
+
+// Cancel and delete ------------------------------------------------------------------------------------------------
+
+void OwnedScreen::finishCancel() {
+    owner().setText(sCancelName_);
+    owner().setLocked(true);
+}
+
+void OwnedScreen::deleteRecord() {
+    deleteCurrentRow();
+    updateName();
+}
+
+// Moves ------------------------------------------------------------------------------------------------------------
+
+void OwnedScreen::updateName() {
+    desktop().attempt(u"UpdateName Error"_s, [this] {
+        lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
+        const QVariant name = rsLookup().eof() ? QVariant() : rsLookup().value(u"LegalName"_s);
+        showOwner(name.isNull() ? u"Owner has been deleted."_s : name.toString());
+    });
+}
+
+void OwnedScreen::goFirst() {
+    rows().moveFirst();
+    updateName();
+    setAttachKey();
+}
+
+void OwnedScreen::goLast() {
+    rows().moveLast();
+    updateName();
+    setAttachKey();
+}
+
+void OwnedScreen::goNext() {
+    if (!rows().eof()) rows().moveNext();
+    // Behind the last row there is no owner to look up.
+    if (rows().eof() && !txtOwnerID_.isNumeric()) {
+        rows().moveLast();
+        updateName();
+        setLastRecord();
+        return;
+    }
+    updateName();
+    if (rows().eof() && rows().recordCount() > 0) {
+        desktop().beep();
+        setLastRecord();
+        rows().moveLast();
+        updateName();
+    }
+    setAttachKey();
+}
+
+void OwnedScreen::goPrevious() {
+    if (!rows().bof()) rows().movePrevious();
+    if (rows().bof() && !txtOwnerID_.isNumeric()) {
+        rows().moveFirst();
+        updateName();
+        setAttachKey();
+        return;
+    }
+    updateName();
+    if (rows().bof() && rows().recordCount() > 0) {
+        desktop().beep();
+        rows().moveFirst();
+        updateName();
+    }
+    setAttachKey();
+}
+
+// Checks -----------------------------------------------------------------------------------------------------------
+
+bool OwnedScreen::validatesCombos() {
+    // Leaving a state combo checks the owner too.
+    if (session::validOwnerName(desktop(), session().gConnection, owner().text())) return true;
+    owner().selectAll();
+    return false;
+}
+
+// Child screens ----------------------------------------------------------------------------------------------------
+
+void OwnedScreen::showChild(ChildKind kind) {
+    const auto child = std::ranges::find(definition().children, kind, &ChildOffer::kind);
+    const QString description = boxes().text(siteDescription).text();
+    const session::ChildRequest request{.title = child->title + description,
+                                        .location = description,
+                                        .typeID = definition().parentType,
+                                        .parentID = txtID().number(),
+                                        .ownerID = txtOwnerID_.number()};
+    switch (kind) {
+        case ChildKind::Inventory:
+            workspace().showInventoryScreen(request);
+            break;
+        case ChildKind::Improvements:
+            workspace().showImprovementsScreen(request);
+            break;
+        case ChildKind::Outbuildings:
+            workspace().showOutbuildingsScreen(request);
+            break;
+    }
+}
+
+}  // namespace screens

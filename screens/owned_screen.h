@@ -1,0 +1,63 @@
+#pragma once
+
+#include "screens/record_screen.h"
+
+namespace screens {
+
+/// A screen whose rows each belong to one member of the family.
+///
+/// The user sees and chooses the owner as a legal name, in a combo that only an add unlocks; the row keeps the member's
+/// ID. On screen the name follows the ID, on save the ID follows the name.
+class OwnedScreen : public RecordScreen {
+    Q_OBJECT
+
+public:
+    OwnedScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+                const ScreenDefinition& definition);
+
+    void Form_Load() override;
+
+protected:
+    /// Reads the rows of the selected member, or of the whole family, and shows the first. Without rows it begins an
+    /// add.
+    void loadRows();
+    [[nodiscard]] virtual QString selectStatement() const;
+    /// What stands in the window's title ahead of the selected name.
+    [[nodiscard]] virtual QString titleText() const { return definition().title; }
+    virtual void bindKeys();
+
+    void beginAdd() override;
+    void beginEdit() override;
+    [[nodiscard]] QString requiredName() const override;
+    void prepareSave() override;
+    void showAfterAdd() override;
+    /// Shows the owner of the row that is on screen after an add, and keeps the name.
+    void restoreOwnerName();
+    void finishSave() override;
+    void finishCancel() override;
+    void deleteRecord() override;
+    void goFirst() override;
+    void goPrevious() override;
+    void goNext() override;
+    void goLast() override;
+    [[nodiscard]] bool validatesCombos() override;
+    void showChild(ChildKind kind) override;
+
+    [[nodiscard]] platform::ComboBox& owner() const { return *boxes().owner(); }
+    /// The owner's name that survives the steps of an add.
+    [[nodiscard]] const QString& savedName() const { return sSavedName_; }
+    void forgetSavedName() { sSavedName_.clear(); }
+
+private:
+    void loadOwner();
+    /// Sets the owner's name from the row's PersonID.
+    void updateName();
+    void showOwner(const QString& name);
+
+    HiddenBox txtOwnerID_;
+    QString sSavedName_;
+    /// What Cancel puts back: the owner when Add or Edit was pressed.
+    QString sCancelName_;
+};
+
+}  // namespace screens

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "screens/owned_screen.h"
+
+namespace screens {
+
+/// A screen that keeps its rows in a table with others, told apart by the number in Type.
+///
+/// Every save writes the screen's own number, so a row that another of the screens made changes its kind here.
+class SharedTableScreen : public OwnedScreen {
+    Q_OBJECT
+
+public:
+    SharedTableScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+                      const ScreenDefinition& definition);
+
+    void Form_Load() override {}
+    /// Reads the rows, the first time; a window that shows some keeps them.
+    void ShowMe() override;
+
+protected:
+    [[nodiscard]] QString selectStatement() const override;
+    [[nodiscard]] QString titleText() const override;
+    void bindKeys() override;
+    void prepareSave() override;
+
+private:
+    HiddenBox txtType_;
+};
+
+}  // namespace screens
