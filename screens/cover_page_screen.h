@@ -20,6 +20,7 @@ protected:
     [[nodiscard]] bool mayChange() override { return true; }
     void setButtons(bool browsing) override;
     void cmdClose_Click() override;
+    void mAttachments_Click() override {}
     void setAttachKey() override {}
 };
 

@@ -92,6 +92,7 @@ RecordCommands RecordScreen::commands() {
     commands.copy = handler([this] { copySelection(false); });
     commands.cut = handler([this] { copySelection(true); });
     commands.paste = handler([this] { pasteSelection(); });
+    commands.attachments = handler([this] { mAttachments_Click(); });
     for (const ChildOffer& child : definition_.children) {
         commands.children.push_back(
             {child.kind, child.tooltip, handler([this, kind = child.kind] { showChild(kind); })});
@@ -493,11 +494,24 @@ platform::Control* RecordScreen::activeInput() {
 
 // What the screen shows of its state -------------------------------------------------------------------------------
 
+void RecordScreen::mAttachments_Click() {
+    desktop().attempt(u"Attachments Error"_s, [this] {
+        session().gvAttachKey = attachKey();
+        // The first box holds the name that the record goes by, the owner's where there is one.
+        workspace().showAttachments(boxes_.text(0).text());
+        setNumAttachments();
+    });
+}
+
 void RecordScreen::setAttachKey() {
+    session().gvAttachKey = attachKey();
+    setNumAttachments();
+}
+
+QString RecordScreen::attachKey() const {
     // The selected member's number, not the owner's: in the view of the whole family the same row has another key.
     const int record = txtID_ && !txtID_->text().isEmpty() ? txtID_->number() : 0;
-    session().gvAttachKey = u"%1%2_%3"_s.arg(definition_.attachmentPrefix).arg(session().gPersonID).arg(record);
-    setNumAttachments();
+    return u"%1%2_%3"_s.arg(definition_.attachmentPrefix).arg(session().gPersonID).arg(record);
 }
 
 void RecordScreen::setNumAttachments() {

@@ -98,6 +98,8 @@ protected:
     [[nodiscard]] virtual bool validatesCombos() { return true; }
     virtual void cbFields_Click();
 
+    /// Shows the files of the record on screen.
+    virtual void mAttachments_Click();
     /// Makes the session's attachment key that of the record on screen, and counts its files.
     virtual void setAttachKey();
     /// Shows how many files belong to the attachment key.
@@ -128,6 +130,7 @@ private:
     [[nodiscard]] RecordCommands commands();
     void moveComplete();
     void move(const QString& errorTitle, void (RecordScreen::*step)());
+    [[nodiscard]] QString attachKey() const;
     void writeCombos();
     void writeDates();
     void copySelection(bool cut);

@@ -112,6 +112,10 @@ void User::start() {
         dialogs_ = dialogs.get();
         desktop.setDialogs(std::move(dialogs));
         QObject::connect(&desktop, &platform::Desktop::beeped, &desktop, [this] { ++beeps_; });
+        // The files are counted; their programs would open windows of their own.
+        desktop.setFileOpener([](const QString&) {});
+        QObject::connect(&desktop, &platform::Desktop::fileOpened, &desktop,
+                         [this](const QString& path) { opened_.append(path); });
         hostSized_ = false;
         starting_ = true;
         const auto started = qScopeGuard([this] { starting_ = false; });
