@@ -11,9 +11,12 @@ CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent) {
 
 int CheckBox::value() const {
     switch (checkState()) {
-        case Qt::Checked: return 1;
-        case Qt::PartiallyChecked: return 2;
-        default: return 0;
+        case Qt::Checked:
+            return 1;
+        case Qt::PartiallyChecked:
+            return 2;
+        default:
+            return 0;
     }
 }
 
@@ -26,6 +29,8 @@ void CheckBox::showValue(const QVariant& value, ColumnKind /*kind*/, const QStri
     setValue(value.isValid() ? (value.toBool() ? 1 : 0) : 2);
 }
 
-QVariant CheckBox::content() const { return value() == 2 ? QVariant() : QVariant(value() == 1); }
+QVariant CheckBox::content() const {
+    return value() == 2 ? QVariant() : QVariant(value() == 1);
+}
 
 }  // namespace platform

@@ -93,15 +93,21 @@ void ComboBox::setLocked(bool locked) {
     lineEdit()->setReadOnly(locked);
 }
 
-void ComboBox::select(int start, int length) { lineEdit()->setSelection(start, length); }
+void ComboBox::select(int start, int length) {
+    lineEdit()->setSelection(start, length);
+}
 
-void ComboBox::selectAll() { lineEdit()->selectAll(); }
+void ComboBox::selectAll() {
+    lineEdit()->selectAll();
+}
 
 int ComboBox::selStart() const {
     return lineEdit()->hasSelectedText() ? lineEdit()->selectionStart() : lineEdit()->cursorPosition();
 }
 
-int ComboBox::selLength() const { return lineEdit()->selectionLength(); }
+int ComboBox::selLength() const {
+    return lineEdit()->selectionLength();
+}
 
 void ComboBox::showValue(const QVariant& value, ColumnKind kind, const QString& format) {
     setText(displayText(value, kind, format));

@@ -6,9 +6,13 @@ using namespace Qt::StringLiterals;
 
 namespace platform {
 
-void Control::setName(const QString& name) { widget().setObjectName(name); }
+void Control::setName(const QString& name) {
+    widget().setObjectName(name);
+}
 
-QString Control::name() { return widget().objectName(); }
+QString Control::name() {
+    return widget().objectName();
+}
 
 Control* Control::of(QWidget* widget) {
     for (; widget; widget = widget->parentWidget()) {
@@ -18,6 +22,8 @@ Control* Control::of(QWidget* widget) {
     return nullptr;
 }
 
-QString indexedName(const QString& array, int index) { return u"%1(%2)"_s.arg(array).arg(index); }
+QString indexedName(const QString& array, int index) {
+    return u"%1(%2)"_s.arg(array).arg(index);
+}
 
 }  // namespace platform

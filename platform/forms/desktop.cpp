@@ -21,12 +21,17 @@ Desktop::Desktop() : dialogs_(std::make_unique<Dialogs>()), guard_(std::make_uni
 
 Desktop::~Desktop() {
     setPointer(Pointer::Default);
-    while (!forms_.empty()) forms_.pop_back();
+    while (!forms_.empty())
+        forms_.pop_back();
 }
 
-QString Desktop::programTitle() { return u"Kinbook"_s; }
+QString Desktop::programTitle() {
+    return u"Kinbook"_s;
+}
 
-void Desktop::setDialogs(std::unique_ptr<Dialogs> dialogs) { dialogs_ = std::move(dialogs); }
+void Desktop::setDialogs(std::unique_ptr<Dialogs> dialogs) {
+    dialogs_ = std::move(dialogs);
+}
 
 void Desktop::take(std::unique_ptr<Form> form) {
     Form& loaded = *form;
@@ -112,9 +117,13 @@ void Desktop::beep() {
     Q_EMIT beeped();
 }
 
-void Desktop::setClipboardText(const QString& text) { QApplication::clipboard()->setText(text); }
+void Desktop::setClipboardText(const QString& text) {
+    QApplication::clipboard()->setText(text);
+}
 
-QString Desktop::clipboardText() const { return QApplication::clipboard()->text(); }
+QString Desktop::clipboardText() const {
+    return QApplication::clipboard()->text();
+}
 
 void Desktop::wait(double seconds) {
     const qint64 length = static_cast<qint64>(seconds * 1000);

@@ -57,7 +57,8 @@ public:
     void notice(const QString& text, const QString& title = {}, Icon icon = Icon::None);
     /// Asks a question; true for Yes.
     [[nodiscard]] bool ask(const QString& text, const QString& title);
-    /// Runs a routine that has an error title: a failure in it ends it and is shown under the title. True if it ran whole.
+    /// Runs a routine that has an error title: a failure in it ends it and is shown under the title. True if it ran
+    /// whole.
     bool attempt(const QString& title, const std::function<void()>& routine);
     /// Runs what an event set off; a failure that no routine handled is shown under the program's own title.
     void run(const std::function<void()>& handler);

@@ -42,10 +42,14 @@ private:
 
 QMessageBox::Icon boxIcon(Icon icon) {
     switch (icon) {
-        case Icon::Information: return QMessageBox::Information;
-        case Icon::Question: return QMessageBox::Question;
-        case Icon::Critical: return QMessageBox::Critical;
-        default: return QMessageBox::NoIcon;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Critical:
+            return QMessageBox::Critical;
+        default:
+            return QMessageBox::NoIcon;
     }
 }
 
@@ -62,9 +66,12 @@ Answer Dialogs::messageBox(const QString& text, Icon icon, const QString& title,
                                                      : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(buttons == Buttons::YesNo ? QMessageBox::Yes : QMessageBox::Ok);
     switch (box.exec()) {
-        case QMessageBox::Yes: return Answer::Yes;
-        case QMessageBox::No: return Answer::No;
-        default: return Answer::Ok;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return Answer::Ok;
     }
 }
 

@@ -43,7 +43,9 @@ bool isTab(const QKeyEvent& event) {
 
 }  // namespace
 
-FocusGuard::FocusGuard(Desktop& desktop) : desktop_(desktop) { qApp->installEventFilter(this); }
+FocusGuard::FocusGuard(Desktop& desktop) : desktop_(desktop) {
+    qApp->installEventFilter(this);
+}
 
 bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
     switch (event->type()) {
@@ -64,8 +66,10 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
             if (!dropRelease_ || !receiver->isWindowType()) return false;
             dropRelease_ = false;
             return true;
-        case QEvent::Shortcut: return accelerator(receiver);
-        default: return false;
+        case QEvent::Shortcut:
+            return accelerator(receiver);
+        default:
+            return false;
     }
 }
 

@@ -14,7 +14,8 @@ class Desktop;
 
 /// A window of the program: its name, its place in the collection of loaded forms, and its events.
 ///
-/// A form lives from its load to its unload; the next load makes a fresh one, so no flag or kept value outlives a window.
+/// A form lives from its load to its unload; the next load makes a fresh one, so no flag or kept value outlives a
+/// window.
 class Form {
 public:
     Form(Desktop& desktop, QString name);
@@ -59,7 +60,8 @@ public:
     virtual void Form_Unload() {}
 
 protected:
-    /// A handler for an event of one of the form's controls; a failure in it that no routine handled is shown, not thrown.
+    /// A handler for an event of one of the form's controls; a failure in it that no routine handled is shown, not
+    /// thrown.
     [[nodiscard]] std::function<void()> handler(std::function<void()> routine);
     void addMenu(QMenu* menu) { menus_.push_back(menu); }
 

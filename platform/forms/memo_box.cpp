@@ -14,7 +14,9 @@ MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
     setUndoRedoEnabled(true);
 }
 
-QString MemoBox::text() const { return toPlainText().replace(u'\n', u"\r\n"_s); }
+QString MemoBox::text() const {
+    return toPlainText().replace(u'\n', u"\r\n"_s);
+}
 
 void MemoBox::setText(const QString& text) {
     const QString cut = limit_ > 0 ? text.left(limit_) : text;
@@ -24,7 +26,8 @@ void MemoBox::setText(const QString& text) {
 
 void MemoBox::setLocked(bool locked) {
     setReadOnly(locked);
-    // A read-only box shows no caret and takes no keys otherwise; the text must stay reachable for selecting and copying.
+    // A read-only box shows no caret and takes no keys otherwise; the text must stay reachable for selecting and
+    // copying.
     setTextInteractionFlags(locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
                                    : Qt::TextInteractionFlags(Qt::TextEditorInteraction));
 }
@@ -44,9 +47,13 @@ int MemoBox::toDocument(int textPosition) const {
     return 0;
 }
 
-int MemoBox::selStart() const { return toText(textCursor().selectionStart()); }
+int MemoBox::selStart() const {
+    return toText(textCursor().selectionStart());
+}
 
-int MemoBox::selLength() const { return toText(textCursor().selectionEnd()) - selStart(); }
+int MemoBox::selLength() const {
+    return toText(textCursor().selectionEnd()) - selStart();
+}
 
 void MemoBox::select(int start, int length) {
     QTextCursor cursor = textCursor();

@@ -19,6 +19,8 @@ QAction* addEntry(QMenu& menu, const QString& name, const QString& caption, std:
     return entry;
 }
 
-void addSeparator(QMenu& menu, const QString& name) { menu.addSeparator()->setObjectName(name); }
+void addSeparator(QMenu& menu, const QString& name) {
+    menu.addSeparator()->setObjectName(name);
+}
 
 }  // namespace platform

@@ -11,7 +11,9 @@ void TextControl::showValue(const QVariant& value, ColumnKind kind, const QStrin
     setText(displayText(value, kind, format));
 }
 
-TextBox::TextBox(QWidget* parent) : QLineEdit(parent) { setMaxLength(0); }
+TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
+    setMaxLength(0);
+}
 
 void TextBox::setText(const QString& text) {
     if (text == QLineEdit::text()) {
@@ -27,7 +29,9 @@ void TextBox::setMaxLength(int characters) {
     QLineEdit::setMaxLength(characters > 0 ? characters : std::numeric_limits<int>::max() / 2);
 }
 
-int TextBox::selStart() const { return hasSelectedText() ? selectionStart() : cursorPosition(); }
+int TextBox::selStart() const {
+    return hasSelectedText() ? selectionStart() : cursorPosition();
+}
 
 void TextBox::select(int start, int length) {
     const int size = static_cast<int>(text().size());
@@ -36,6 +40,8 @@ void TextBox::select(int start, int length) {
     if (length <= 0) setCursorPosition(from);
 }
 
-void TextBox::setSelText(const QString& text) { insert(text); }
+void TextBox::setSelText(const QString& text) {
+    insert(text);
+}
 
 }  // namespace platform

@@ -45,7 +45,9 @@ int TreeView::indexOf(const QString& key) const {
     return found == nodes_.end() ? 0 : static_cast<int>(found - nodes_.begin()) + 1;
 }
 
-void TreeView::expandNode(int index) { at(index).item->setExpanded(true); }
+void TreeView::expandNode(int index) {
+    at(index).item->setExpanded(true);
+}
 
 void TreeView::setImage(int index, int image) {
     Node& node = nodes_.at(static_cast<std::size_t>(index - 1));
@@ -61,9 +63,13 @@ void TreeView::setImages(std::vector<QIcon> images) {
     }
 }
 
-int TreeView::parentIndex(int index) const { return indexOf(at(index).item->parent()); }
+int TreeView::parentIndex(int index) const {
+    return indexOf(at(index).item->parent());
+}
 
-int TreeView::firstChild(int index) const { return indexOf(at(index).item->child(0)); }
+int TreeView::firstChild(int index) const {
+    return indexOf(at(index).item->child(0));
+}
 
 int TreeView::lastSibling(int index) const {
     const QTreeWidgetItem* parent = at(index).item->parent();
@@ -87,6 +93,8 @@ const TreeView::Node& TreeView::at(int index) const {
     return nodes_[static_cast<std::size_t>(index - 1)];
 }
 
-int TreeView::indexOf(const QTreeWidgetItem* item) const { return item ? item->data(0, indexRole).toInt() : 0; }
+int TreeView::indexOf(const QTreeWidgetItem* item) const {
+    return item ? item->data(0, indexRole).toInt() : 0;
+}
 
 }  // namespace platform
