@@ -97,6 +97,8 @@ constexpr CategoryNode nodes[] = {
 
 }  // namespace
 
-std::span<const CategoryNode> categoryNodes() { return nodes; }
+std::span<const CategoryNode> categoryNodes() {
+    return nodes;
+}
 
 }  // namespace app

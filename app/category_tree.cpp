@@ -37,7 +37,8 @@ void CategoryTree::build() {
 }
 
 void CategoryTree::setAllImages() {
-    for (int i = 1; i <= view_.nodeCount(); ++i) setImage(i);
+    for (int i = 1; i <= view_.nodeCount(); ++i)
+        setImage(i);
 }
 
 void CategoryTree::setImage(int nodeIndex) {
@@ -65,7 +66,8 @@ void CategoryTree::countNode(int nodeIndex) {
     view_.setImage(nodeIndex, filled ? withData : withoutData);
     rsHost_.close();
     // The root is never reached this way: its picture keeps what its own step gave it.
-    for (int index = nodeIndex; view_.parentIndex(index) > 1; index = view_.parentIndex(index)) setParent(index);
+    for (int index = nodeIndex; view_.parentIndex(index) > 1; index = view_.parentIndex(index))
+        setParent(index);
 }
 
 QString CategoryTree::countStatement(int nodeIndex) const {

@@ -7,7 +7,8 @@ namespace app {
 class MDIHost;
 struct DispatchRow;
 
-/// What a click on a node of the category tree leads to: the guards, the pictures, and the window or dialog of the node.
+/// What a click on a node of the category tree leads to: the guards, the pictures, and the window or dialog of the
+/// node.
 class Dispatch {
 public:
     explicit Dispatch(MDIHost& host) : host_(host) {}

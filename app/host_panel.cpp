@@ -73,13 +73,16 @@ HostPanel::HostPanel(QWidget* parent)
     guidance_->hide();
 }
 
-QString HostPanel::usualAddCaption() { return u"E&nter Another Family Member"_s; }
+QString HostPanel::usualAddCaption() {
+    return u"E&nter Another Family Member"_s;
+}
 
 QWidget* HostPanel::makeGuidance() {
     auto* page = new QWidget(this);
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(0, 8, 0, 0);
-    for (const Guidance& line : guidance) column->addWidget(makeLabel(page, line.name, line.text));
+    for (const Guidance& line : guidance)
+        column->addWidget(makeLabel(page, line.name, line.text));
     column->addSpacing(12);
     label1_ = makeLabel(
         page, u"Label1"_s,

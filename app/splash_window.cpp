@@ -61,7 +61,9 @@ SplashWindow::SplashWindow(platform::Desktop& desktop, const session::Session& s
     layOut();
 }
 
-QString SplashWindow::formName() { return u"frmSplash"_s; }
+QString SplashWindow::formName() {
+    return u"frmSplash"_s;
+}
 
 QLabel* SplashWindow::makeLabel(const QString& name) {
     auto* label = new QLabel(this);
@@ -142,7 +144,9 @@ void SplashWindow::layOut() {
     move(QGuiApplication::primaryScreen()->geometry().center() - rect().center());
 }
 
-void SplashWindow::Form_KeyPress(int /*keyAscii*/) { unload(); }
+void SplashWindow::Form_KeyPress(int /*keyAscii*/) {
+    unload();
+}
 
 void SplashWindow::mousePressEvent(QMouseEvent* event) {
     FormWindow::mousePressEvent(event);

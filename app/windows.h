@@ -17,7 +17,6 @@ namespace app {
 
 /// Makes the data window of that name, not yet loaded; nullptr for a name that no window has.
 [[nodiscard]] std::unique_ptr<session::DataWindow> makeWindow(const QString& name, platform::Desktop& desktop,
-                                                              session::Session& session,
-                                                              session::Workspace& workspace);
+                                                              session::Session& session, session::Workspace& workspace);
 
 }  // namespace app

@@ -2,6 +2,7 @@
 //
 // Each round starts this program anew as a child that ends itself as soon as its window is exposed.
 
+#include <unistd.h>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,7 +15,6 @@
 #include <QWindow>
 #include <algorithm>
 #include <cstdio>
-#include <unistd.h>
 
 #include "app/kinbook.h"
 #include "data/template.h"

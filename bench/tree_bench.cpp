@@ -28,11 +28,14 @@ void fill(const QString& path) {
     data::createTemplate(path);
     SQLite::Database file(path.toStdString(), SQLite::OPEN_READWRITE);
     SQLite::Transaction all(file);
-    for (int i = 1; i <= 8; ++i) file.exec("INSERT INTO Person (LegalName) VALUES ('Member " + std::to_string(i) + "')");
-    SQLite::Statement insert(file, "INSERT INTO HomeOwned (PersonID, Description, Addr, City, Comment) VALUES (?,?,?,?,?)");
+    for (int i = 1; i <= 8; ++i)
+        file.exec("INSERT INTO Person (LegalName) VALUES ('Member " + std::to_string(i) + "')");
+    SQLite::Statement insert(file,
+                             "INSERT INTO HomeOwned (PersonID, Description, Addr, City, Comment) VALUES (?,?,?,?,?)");
     for (int i = 0; i < 100'000; ++i) {
         insert.bind(1, i % 8 + 1);
-        for (int column = 2; column <= 5; ++column) insert.bind(column, std::string(50, 'x'));
+        for (int column = 2; column <= 5; ++column)
+            insert.bind(column, std::string(50, 'x'));
         insert.exec();
         insert.reset();
     }

@@ -18,6 +18,8 @@ QString cipher(const QString& text, const QString& key) {
     return platform::fromWindows1252(bytes);
 }
 
-QString cipher(const QString& text) { return cipher(text, u"Quillstone"_s); }
+QString cipher(const QString& text) {
+    return cipher(text, u"Quillstone"_s);
+}
 
 }  // namespace data

@@ -150,7 +150,8 @@ void FieldBoxes::orderTabs() const {
         QWidget* combo = comboOver(index);
         follow(combo ? combo : &text.box->widget());
     }
-    for (const Check& check : checks_) follow(check.box);
+    for (const Check& check : checks_)
+        follow(check.box);
 }
 
 void FieldBoxes::copyShadows() {

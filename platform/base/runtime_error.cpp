@@ -27,8 +27,7 @@ QString standingWords(int number) {
         {380, u"Invalid property value"_s},
         {438, u"Object doesn't support this property or method"_s},
         {482, u"Printer error"_s},
-        {3001,
-         u"Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."_s},
+        {3001, u"Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."_s},
         {3021,
          u"Either BOF or EOF is True, or the current record has been deleted. Requested operation requires a current record."_s},
         {3219, u"Operation is not allowed in this context."_s},
@@ -48,6 +47,8 @@ QString standingWords(int number) {
 
 RuntimeError::RuntimeError(int number) : RuntimeError(number, standingWords(number)) {}
 
-QString RuntimeError::report() const { return QString::number(number_) + u" - "_s + description_; }
+QString RuntimeError::report() const {
+    return QString::number(number_) + u" - "_s + description_;
+}
 
 }  // namespace platform

@@ -7,7 +7,8 @@ namespace platform {
 
 /// A failed operation: the number and the words that the user is shown.
 ///
-/// Positive numbers are those of the forms run-time and of its recordsets, negative ones those of the database provider.
+/// Positive numbers are those of the forms run-time and of its recordsets, negative ones those of the database
+/// provider.
 class RuntimeError : public std::exception {
 public:
     RuntimeError(int number, QString description) : number_(number), description_(std::move(description)) {}

@@ -24,8 +24,10 @@ void Binding::setSource(RecordSource* source) {
 }
 
 void Binding::show() {
-    const QVariant value = source_->hasCurrentRow() ? source_->value(column_) : QVariant();
-    control_.showValue(value, source_->columnKind(column_), format_);
+    const ColumnKind kind = source_->columnKind(column_);
+    // Without a row a check box is clear; grey is for a row that doesn't say.
+    const QVariant nothing = kind == ColumnKind::YesNo ? QVariant(false) : QVariant();
+    control_.showValue(source_->hasCurrentRow() ? source_->value(column_) : nothing, kind, format_);
     shown_ = control_.content();
 }
 

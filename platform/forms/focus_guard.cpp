@@ -76,18 +76,20 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
 bool FocusGuard::keyPressed(Form& form, QKeyEvent& event) {
     const QPointer<QWidget> window = &form.window();
     const auto gone = [&] { return !window || !form.isLoaded(); };
+    // A Tab that moves the focus is no key of the form.
+    if (isTab(event)) return !mayLeave(form, nullptr);
     if (form.keyPreview()) {
         desktop_.run([&] { form.Form_KeyDown(keyCode(event), shiftState(event)); });
         if (gone()) return true;
         if (const int ascii = keyAscii(event); ascii != 0) desktop_.run([&] { form.Form_KeyPress(ascii); });
         if (gone()) return true;
     }
-    return isTab(event) && !mayLeave(form, nullptr);
+    return false;
 }
 
 bool FocusGuard::mousePressed(QObject* receiver, QMouseEvent& event) {
-    if (QApplication::activePopupWidget()) return false;
     dropRelease_ = false;
+    if (QApplication::activePopupWidget()) return false;
     const QWindow& window = static_cast<QWindow&>(*receiver);
     QWidget* target = focusTarget(widgetAt(window, event.position().toPoint()));
     if (!target) return false;

@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <utility>
 
 #include "platform/forms/desktop.h"
 #include "platform/forms/form_window.h"
@@ -25,6 +26,7 @@ MdiFrame::MdiFrame(Desktop& desktop, const QString& name)
 }
 
 MdiFrame::~MdiFrame() {
+    area_->disconnect(this);
     desktop().setHost(nullptr);
 }
 
@@ -72,9 +74,9 @@ void MdiFrame::removeChild(QMdiSubWindow& frame, const std::function<void()>& un
 }
 
 void MdiFrame::arrange(const std::function<void()>& step) {
-    arranging_ = true;
+    const bool within = std::exchange(arranging_, true);
     step();
-    arranging_ = false;
+    arranging_ = within;
     childActivated();
 }
 

@@ -30,6 +30,7 @@ constexpr qint64 longestPress = 1000;
 struct Task {
     std::function<void()> work;
     bool waitsForIdle = false;
+    bool keyHeld = false;
 
     std::mutex guard;
     std::condition_variable ended;
@@ -97,7 +98,9 @@ private:
     }
 
     [[nodiscard]] bool pressing() const {
-        if (pressed_.elapsed() > longestPress || QApplication::mouseButtons() != Qt::NoButton) return false;
+        if (!waiting_ || waiting_->keyHeld || pressed_.elapsed() > longestPress ||
+            QApplication::mouseButtons() != Qt::NoButton)
+            return false;
         const QWidget* focus = QApplication::focusWidget();
         const auto* button = qobject_cast<const QAbstractButton*>(focus);
         return button && button->isDown();
@@ -137,8 +140,9 @@ GuiThread::~GuiThread() {
     pulse_->deleteLater();
 }
 
-void GuiThread::act(std::function<void()> gesture) {
+void GuiThread::act(std::function<void()> gesture, Keys keys) {
     const auto task = makeTask(std::move(gesture), true);
+    task->keyHeld = keys == Keys::Held;
     QMetaObject::invokeMethod(
         pulse_, [pulse = pulse_, task] { pulse->begin(task); }, Qt::QueuedConnection);
     waitFor(*task);

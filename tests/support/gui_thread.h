@@ -17,9 +17,12 @@ public:
     GuiThread(const GuiThread&) = delete;
     GuiThread& operator=(const GuiThread&) = delete;
 
+    /// Whether the gesture leaves a key held down, for which a button may wait.
+    enum class Keys { Up, Held };
+
     /// Runs a gesture and returns when the program waits for the next one. What the gesture throws before that comes
     /// out here. Throws Refused when the program is not idle after two minutes.
-    void act(std::function<void()> gesture);
+    void act(std::function<void()> gesture, Keys keys = Keys::Up);
     /// Runs something that sets off no event, and returns when it is done.
     void look(std::function<void()> reading);
 

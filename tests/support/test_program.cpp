@@ -3,9 +3,8 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QListWidget>
+#include <QLineEdit>
 #include <QMenu>
-#include <QScrollArea>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -48,7 +47,13 @@ public:
         auto* hide = named(new platform::CommandButton, u"cmdHide"_s);
         hide->onClick(handler([this] { QWidget::hide(); }));
         layout->addWidget(hide);
+        auto* tell = named(new platform::CommandButton, u"cmdTell"_s);
+        tell->onClick(handler([this] { this->desktop().notice(u"Told."_s); }));
+        layout->addWidget(tell);
     }
+
+    [[nodiscard]] bool keyPreview() const override { return true; }
+    void Form_KeyPress(int keyAscii) override { setCaption(u"Key %1"_s.arg(keyAscii)); }
 };
 
 class TestForm : public platform::FormWindow {
@@ -119,6 +124,7 @@ private:
     }
 
     bool allows(const platform::TextBox& box) {
+        if (box.text().isEmpty()) return true;
         write(u"Validate"_s);
         if (box.text() != u"bad"_s) return true;
         desktop().notice(u"That is bad."_s, u"Check"_s, platform::Icon::Information);
@@ -166,7 +172,8 @@ private:
         addButton(*layout, u"cmdModal"_s, u"Modal"_s, [this] {
             auto& dialog = desktop().load(std::make_unique<TestDialog>(desktop()));
             dialog.showModal();
-            write(dialog.isLoaded() ? u"Hidden"_s : u"Unloaded"_s);
+            if (!dialog.isLoaded()) return write(u"Unloaded"_s);
+            write(u"Hidden "_s + static_cast<QLineEdit*>(&dialog.control(u"txtAccount"_s)->widget())->text());
             dialog.unload();
         });
         addButton(*layout, u"cmdWait"_s, u"Wait"_s, [this] {

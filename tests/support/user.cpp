@@ -201,7 +201,7 @@ void User::click(const std::function<Spot()>& find, Qt::MouseButton button) {
 }
 
 void User::stroke(const KeyStroke& stroke) {
-    gui_.act([stroke] { press(stroke); });
+    gui_.act([stroke] { press(stroke); }, GuiThread::Keys::Held);
     gui_.act([stroke] { letGo(stroke); });
 }
 
@@ -470,11 +470,19 @@ bool User::isRunning() const {
 bool User::settled() {
     if (program_ && program_->desktop().isWaiting()) return false;
     if (sizeHost()) return false;
+    return !activateTopmost();
+}
+
+bool User::activateTopmost() {
     QWidget* top = QGuiApplication::focusWindow() ? nullptr : topmostWindow();
-    if (!top || top->isActiveWindow()) return true;
-    // What a window manager does when the active window goes.
-    top->activateWindow();
-    return false;
+    if (!top) {
+        activations_ = 0;
+        return false;
+    }
+    if (activations_ == mostTries) return false;
+    ++activations_;
+    top->windowHandle()->requestActivate();
+    return true;
 }
 
 bool User::sizeHost() {

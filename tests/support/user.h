@@ -86,6 +86,8 @@ private:
     [[nodiscard]] bool isRunning() const;
     [[nodiscard]] bool settled();
     [[nodiscard]] bool sizeHost();
+    /// Does what a window manager does when the active window goes; false if nothing is to be done.
+    [[nodiscard]] bool activateTopmost();
 
     template <class Read>
     [[nodiscard]] auto read(Read reading) {
@@ -100,6 +102,7 @@ private:
     QSize hostSize_;
     bool starting_ = false;
     bool hostSized_ = false;
+    int activations_ = 0;
     int beeps_ = 0;
     QStringList opened_;
     GuiThread gui_;

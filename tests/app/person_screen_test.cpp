@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include "tests/support/household.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class PersonScreen : public support::Household {
+protected:
+    void startWith(const QStringList& members, const QString& selection) {
+        addMembers(members);
+        user.start();
+        user.pick(u"MDIHost.cbPerson"_s, selection);
+    }
+    int personID() { return user.session()["gPersonID"_L1].toInt(); }
+    QStringList visibleButtons() {
+        QStringList shown;
+        for (const QString& name :
+             {u"cmdAdd"_s, u"cmdEdit"_s, u"cmdUpdate"_s, u"cmdCancel"_s, u"cmdDelete"_s, u"cmdClose"_s}) {
+            if (user.control(name)["visible"_L1].toBool()) shown << name;
+        }
+        return shown;
+    }
+    QStringList names() { return user.control(u"MDIHost.cbPerson"_s)["items"_L1].toVariant().toStringList(); }
+};
+
+TEST_F(PersonScreen, TheFirstMemberIsKeptAndFoundAgainAtTheNextStart) {
+    user.start();
+    EXPECT_EQ(user.text(u"MDIHost.cmdAddNew"_s), u"Head of Household\r\nClick Here To Enter"_s);
+    user.click(u"MDIHost.cmdAddNew"_s);
+    EXPECT_EQ(status(), u"Add record"_s);
+    EXPECT_EQ(user.state()["focus"_L1].toString(), u"txtFields(0)"_s);
+    EXPECT_TRUE(treeEnabled());
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(dismissBox(), u"No Legal Name"_s);
+    user.fill(u"txtFields(0)"_s, u"Zoë Łarkin 日本 😀"_s);
+    user.fill(u"txtFields(1)"_s, u"May 13, 2035"_s);
+    user.fill(u"txtFields(2)"_s, u"f"_s);
+    user.fill(u"txtFields(7)"_s, u"123456789"_s);
+    user.pick(u"cbFields"_s, u"Vermont"_s);
+    user.click(u"chkFields(1)"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(status(), u"Record: 1 of 1"_s);
+    EXPECT_EQ(user.text(u"MDIHost.cmdAddNew"_s), u"E&nter Another Family Member"_s);
+    EXPECT_EQ(image(u"Birth"_s), 2);
+    EXPECT_EQ(
+        cell(u"SELECT Seq||'|'||LegalName||'|'||BirthDate||'|'||Sex||'|'||SocSecNum||'|'||BirthState||'|'||WasAdopted "
+             "FROM Person"_s),
+        u"0|Zoë Łarkin 日本 😀|2035-05-13|F|123-45-6789|Vermont|-1"_s);
+    user.close();
+    user.start();
+    user.pick(u"MDIHost.cbPerson"_s, u"Zoë Łarkin 日本 😀"_s);
+    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"5/13/2035"_s);
+    EXPECT_EQ(user.control(u"chkFields(1)"_s)["value"_L1].toInt(), 1);
+}
+
+TEST_F(PersonScreen, AFirstLetterMakesTheScreenDirtyAndOnlyEditLeadsOut) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s}, u"Whole Family"_s);
+    user.click(u"txtFields(3)"_s);
+    for (const QString& key : {u"Tab"_s, u"Return"_s, u"Delete"_s, u"Left"_s})
+        user.key(key);
+    user.click(u"cmdNext"_s);
+    EXPECT_EQ(status(), u"Record: 2 of 2"_s);
+    user.click(u"txtFields(3)"_s);
+    user.type(u"Q"_s);
+    user.click(u"cmdFirst"_s);
+    EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
+    user.click(u"cmdAdd"_s);
+    EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
+    EXPECT_EQ(status(), u"Record: 2 of 2"_s);
+    user.click(u"cmdEdit"_s);
+    EXPECT_EQ(visibleButtons(), (QStringList{u"cmdUpdate"_s, u"cmdCancel"_s}));
+    EXPECT_TRUE(treeEnabled());
+    EXPECT_EQ(cell(u"SELECT BirthCity FROM Person WHERE ID = 2"_s), u"null"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(cell(u"SELECT BirthCity FROM Person WHERE ID = 2"_s), u"Q"_s);
+    user.click(u"cmdFirst"_s);
+    EXPECT_EQ(status(), u"Record: 1 of 2"_s);
+}
+
+TEST_F(PersonScreen, CancelReturnsToTheRecordOfTheLastAddOrTheFirst) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s}, u"Whole Family"_s);
+    user.key(u"End"_s);
+    user.click(u"cmdEdit"_s);
+    user.fill(u"txtFields(3)"_s, u"dropped"_s);
+    user.click(u"cmdCancel"_s);
+    EXPECT_EQ(status(), u"Record: 1 of 3"_s);
+    EXPECT_EQ(cell(u"SELECT BirthCity FROM Person WHERE ID = 3"_s), u"null"_s);
+    user.click(u"cmdNext"_s);
+    user.click(u"cmdAdd"_s);
+    EXPECT_FALSE(treeEnabled());
+    user.click(u"cmdCancel"_s);
+    EXPECT_TRUE(treeEnabled());
+    EXPECT_EQ(status(), u"Record: 2 of 3"_s);
+    user.click(u"cmdLast"_s);
+    user.click(u"cmdEdit"_s);
+    user.click(u"cmdCancel"_s);
+    EXPECT_EQ(status(), u"Record: 2 of 3"_s);
+}
+
+TEST_F(PersonScreen, ChecksHoldTheFocusAndTheButtonThatWasClicked) {
+    startWith({u"Ann Larkin"_s}, u"Ann Larkin"_s);
+    struct Case {
+        QString box, text, title;
+    };
+    const Case cases[] = {
+        {u"txtFields(1)"_s, u"Feb 30 2001"_s, u"Invalid Date"_s},
+        {u"txtFields(2)"_s, u"x"_s, u"Invalid Entry"_s},
+        {u"txtFields(7)"_s, u"123-45-678"_s, u"Invalid Social Security Number"_s},
+    };
+    user.click(u"cmdEdit"_s);
+    for (const Case& row : cases) {
+        user.fill(row.box, row.text);
+        user.click(u"cmdCancel"_s);
+        EXPECT_EQ(dismissBox(), row.title);
+        EXPECT_EQ(status(), u"Edit record"_s);
+        EXPECT_EQ(user.state()["focus"_L1].toString(), row.box);
+        EXPECT_EQ(user.control(row.box)["selLength"_L1].toInt(), user.text(row.box).size());
+        // The toolbar and the menus take no focus and check nothing; a good entry lets go.
+        user.fill(row.box, row.box == u"txtFields(2)"_s ? u"F"_s : u""_s);
+        user.key(u"Delete"_s);
+        if (row.box == u"txtFields(2)"_s) user.fill(row.box, u"m"_s);
+    }
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(cell(u"SELECT Sex FROM Person"_s), u"M"_s);
+}
+
+TEST_F(PersonScreen, MovesKeepTheMemberByIDWhateverRowIsShown) {
+    addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s});
+    exec(u"UPDATE Person SET Seq = 4 - Seq"_s);
+    user.start();
+    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Cy Larkin"_s);
+    EXPECT_EQ(personID(), 1);
+    user.click(u"cmdNext"_s);
+    EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
+    EXPECT_EQ(personID(), 2);
+    EXPECT_EQ(user.session()["gvAttachKey"_L1].toString(), u"Kbk_2_0"_s);
+    user.key(u"Ctrl+PageDown"_s);
+    user.forgetNoises();
+    user.key(u"Down"_s);
+    EXPECT_EQ(user.state()["beeps"_L1].toInt(), 1);
+    EXPECT_EQ(status(), u"Record: 3 of 3"_s);
+    // In the view of one member the moves still change it.
+    user.pick(u"MDIHost.cbPerson"_s, u"Bob Larkin"_s);
+    user.click(u"cmdNext"_s);
+    EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
+    EXPECT_EQ(personID(), 3);
+}
+
+TEST_F(PersonScreen, DeletingTakesTheMembersRowsAndEndsInAnErrorInTheViewOfOne) {
+    addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s});
+    for (const QString& table : {u"HomeOwned"_s, u"CDs"_s, u"PIN_Password"_s}) {
+        exec(u"INSERT INTO %1 (PersonID) VALUES (2), (3)"_s.arg(table));
+    }
+    user.start();
+    user.pick(u"MDIHost.cbPerson"_s, u"Bob Larkin"_s);
+    user.click(u"cmdDelete"_s);
+    EXPECT_EQ(boxText(), u"Are you sure you want to delete Bob Larkin?"_s);
+    user.answer(u"No"_s);
+    EXPECT_EQ(cell(u"SELECT count(*) FROM HomeOwned"_s), u"2"_s);
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_TRUE(boxText().startsWith(u"3021 - "_s));
+    EXPECT_EQ(dismissBox(), u"Delete Error"_s);
+    EXPECT_EQ(cell(u"SELECT ((SELECT count(*) FROM HomeOwned) + (SELECT count(*) FROM CDs) + (SELECT count(*) FROM "
+                   "PIN_Password)) || ' ' || (SELECT count(*) FROM Person)"_s),
+              u"3 2"_s);
+    EXPECT_TRUE(names().contains(u"Bob Larkin"_s));
+
+    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    user.click(u"cmdLast"_s);
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(status(), u"Record: 1 of 1"_s);
+    EXPECT_FALSE(names().contains(u"Cy Larkin"_s));
+}
+
+TEST_F(PersonScreen, AWriteThatFailsLeavesTheTextsAsTypedAndWorksOnceTheCauseIsGone) {
+    startWith({u"Ann Larkin"_s}, u"Ann Larkin"_s);
+    user.click(u"cmdEdit"_s);
+    user.fill(u"txtFields(3)"_s, u"Larkmoor"_s);
+    user.fill(u"txtFields(1)"_s, u"June 1 2002"_s);
+    exec(u"CREATE TRIGGER refuse BEFORE UPDATE ON Person BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(dismissBox(), u"Update Error"_s);
+    EXPECT_EQ(visibleButtons(), (QStringList{u"cmdUpdate"_s, u"cmdCancel"_s}));
+    EXPECT_EQ(user.text(u"txtFields(3)"_s), u"Larkmoor"_s);
+    exec(u"DROP TRIGGER refuse"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(cell(u"SELECT BirthCity || ' ' || BirthDate FROM Person"_s), u"Larkmoor 2002-06-01"_s);
+}
+
+TEST_F(PersonScreen, CloseEndsTheWorkspace) {
+    exec(u"INSERT INTO CDs (PersonID) VALUES (1)"_s);
+    startWith({u"Ann Larkin"_s}, u"Ann Larkin"_s);
+    openNode(u"CDs"_s);
+    openNode(u"Birth"_s);
+    EXPECT_EQ(forms().size(), 3);
+    user.click(u"cmdClose"_s);
+    EXPECT_EQ(forms(), QStringList{u"MDIHost"_s});
+    EXPECT_EQ(user.text(u"MDIHost.cbPerson"_s), QString());
+    EXPECT_EQ(user.state()["focus"_L1].toString(), u"cbPerson"_s);
+}
+
+}  // namespace

@@ -1,0 +1,94 @@
+#include "tests/support/household.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include "data/template.h"
+#include "tests/support/kinbook_program.h"
+
+using namespace Qt::StringLiterals;
+
+namespace support {
+
+Household::Household() : user(kinbookProgram(folder_.path())) {
+    data::createTemplate(path(u"FamilyInfo.mdb"_s));
+    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nValue=\r\nSplash=1\r\n");
+}
+
+void Household::writeFile(const QString& name, const QByteArray& bytes) const {
+    QFile file(path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+void Household::exec(const QString& statement) const {
+    SQLite::Database(path(u"FamilyInfo.mdb"_s).toStdString(), SQLite::OPEN_READWRITE, 2000)
+        .exec(statement.toStdString());
+}
+
+QString Household::cell(const QString& statement) const {
+    const SQLite::Database file(path(u"FamilyInfo.mdb"_s).toStdString(), SQLite::OPEN_READONLY, 2000);
+    SQLite::Statement query(file, statement.toStdString());
+    if (!query.executeStep() || query.getColumn(0).isNull()) return u"null"_s;
+    return QString::fromStdString(query.getColumn(0).getString());
+}
+
+void Household::addMembers(const QStringList& legalNames) const {
+    int seq = 0;
+    for (const QString& name : legalNames) {
+        exec(u"INSERT INTO Person (LegalName, Seq, Sex) VALUES ('%1', %2, 'F')"_s
+                 .arg(QString(name).replace(u'\'', u"''"_s))
+                 .arg(++seq));
+    }
+}
+
+QString Household::dismissBox() {
+    const QString title = boxTitle();
+    user.answer(u"OK"_s);
+    return title;
+}
+
+bool Household::running() {
+    return user.state()["running"_L1].toBool();
+}
+
+QString Household::activeWindow() {
+    return user.state()["active"_L1].toString();
+}
+
+QStringList Household::forms() {
+    return user.state()["forms"_L1].toVariant().toStringList();
+}
+
+int Household::image(const QString& key) {
+    const QJsonArray nodes = user.tree()["nodes"_L1].toArray();
+    for (const QJsonValue& node : nodes) {
+        if (node["key"_L1].toString() == key) return node["image"_L1].toInt();
+    }
+    return -1;
+}
+
+bool Household::treeEnabled() {
+    return user.tree()["enabled"_L1].toBool();
+}
+
+void Household::openNode(const QString& key) {
+    const QJsonArray nodes = user.tree()["nodes"_L1].toArray();
+    int index = 0;
+    for (const QJsonValue& node : nodes) {
+        if (node["key"_L1].toString() == key) index = node["index"_L1].toInt();
+    }
+    QStringList above;
+    while (index > 0) {
+        index = nodes[index - 1]["parent"_L1].toInt();
+        if (index > 0) above.prepend(nodes[index - 1]["key"_L1].toString());
+    }
+    for (const QString& branch : above)
+        user.expand(branch);
+    user.node(key);
+}
+
+}  // namespace support

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include "tests/support/user.h"
+
+namespace support {
+
+/// An application folder of its own, with an empty family in it, and a user in front of the program there.
+class Household : public testing::Test {
+protected:
+    Household();
+
+    /// A path in the application folder.
+    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
+    void writeFile(const QString& name, const QByteArray& bytes) const;
+    /// Changes the database file from outside the program.
+    void exec(const QString& statement) const;
+    /// First column of the statement's first row as text; "null" for a null and for no row.
+    [[nodiscard]] QString cell(const QString& statement) const;
+    /// Adds members in the order of the family.
+    void addMembers(const QStringList& legalNames) const;
+
+    /// Title of the open box; empty if none is open.
+    [[nodiscard]] QString boxTitle() { return user.dialog()[QLatin1StringView("title")].toString(); }
+    [[nodiscard]] QString boxText() { return user.dialog()[QLatin1StringView("text")].toString(); }
+    /// Title of the open box, which is then answered with OK.
+    QString dismissBox();
+    [[nodiscard]] QString status() { return user.text(QStringLiteral("lblStatus")); }
+    [[nodiscard]] bool running();
+    [[nodiscard]] QString activeWindow();
+    [[nodiscard]] QStringList forms();
+    /// Picture of a node of the tree, by its key.
+    [[nodiscard]] int image(const QString& key);
+    [[nodiscard]] bool treeEnabled();
+    /// Opens the branches above a node and clicks it.
+    void openNode(const QString& key);
+
+private:
+    QTemporaryDir folder_;
+
+protected:
+    User user;
+};
+
+}  // namespace support
