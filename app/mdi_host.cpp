@@ -34,6 +34,12 @@ namespace {
 const QString wholeFamily = u"Whole Family"_s;
 const QString personScreen = u"frmKinbook"_s;
 
+/// A disabled control hands the focus on, which would bring whatever window comes next in the tab order to the front.
+void enable(QWidget& control, bool enabled) {
+    if (!enabled) control.clearFocus();
+    control.setEnabled(enabled);
+}
+
 }  // namespace
 
 MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
@@ -272,7 +278,7 @@ platform::TreeView& MDIHost::tvTree() const {
 }
 
 void MDIHost::enableTree(bool enabled) {
-    tvTree().setEnabled(enabled);
+    enable(tvTree(), enabled);
 }
 
 void MDIHost::refreshTree() {
@@ -280,7 +286,7 @@ void MDIHost::refreshTree() {
 }
 
 void MDIHost::enableAddMember(bool enabled) {
-    panel_->cmdAddNew().setEnabled(enabled);
+    enable(panel_->cmdAddNew(), enabled);
 }
 
 void MDIHost::endFirstRun() {

@@ -49,9 +49,12 @@ void FormWindow::showModal() {
 
 void FormWindow::leave() {
     if (!isLoaded()) return;
-    Form::leave();
     // The frame takes this window along when it is destroyed, which is after the running event.
-    if (frame_) desktop().host()->removeChild(*frame_);
+    if (frame_) {
+        desktop().host()->removeChild(*frame_, [this] { Form::leave(); });
+    } else {
+        Form::leave();
+    }
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <utility>
 
 #include "platform/forms/desktop.h"
 #include "platform/forms/form_window.h"
@@ -19,19 +20,13 @@ MdiFrame::MdiFrame(Desktop& desktop, const QString& name)
     layout->setSpacing(0);
     layout->addWidget(area_, 1);
     area_->setBackground(palette().brush(QPalette::Window));
-    // When the active child goes, the one that was active before it comes to the front.
-    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
     setCentralWidget(centre_);
-    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* frame) {
-        showMenus();
-        if (!frame) return;
-        if (FormWindow* child = activeForm(); child && child->isLoaded())
-            child->desktop().run([child] { child->Form_Activate(); });
-    });
+    connect(area_, &QMdiArea::subWindowActivated, this, &MdiFrame::childActivated);
 }
 
 MdiFrame::~MdiFrame() {
+    area_->disconnect(this);
     desktop().setHost(nullptr);
 }
 
@@ -59,16 +54,43 @@ QMdiSubWindow* MdiFrame::addChild(FormWindow& child) {
 }
 
 void MdiFrame::bringToFront(QMdiSubWindow& frame) {
-    frame.showMaximized();
-    area_->setActiveSubWindow(&frame);
-    showMenus();
+    arrange([&] {
+        frame.showMaximized();
+        area_->setActiveSubWindow(&frame);
+    });
 }
 
-void MdiFrame::removeChild(QMdiSubWindow& frame) {
-    frame.hide();
-    area_->removeSubWindow(&frame);
+void MdiFrame::removeChild(QMdiSubWindow& frame, const std::function<void()>& unload) {
+    std::erase(order_, &frame);
+    if (front_ == &frame) front_ = nullptr;
+    arrange([&] {
+        unload();
+        // The one that was in front before it comes to the front.
+        if (area_->currentSubWindow() == &frame && !order_.empty()) area_->setActiveSubWindow(order_.back());
+        frame.hide();
+        area_->removeSubWindow(&frame);
+    });
     frame.deleteLater();
+}
+
+void MdiFrame::arrange(const std::function<void()>& step) {
+    const bool within = std::exchange(arranging_, true);
+    step();
+    arranging_ = within;
+    childActivated();
+}
+
+void MdiFrame::childActivated() {
+    // While children are shown or taken away others are active for moments.
+    if (arranging_) return;
     showMenus();
+    FormWindow* child = activeForm();
+    QMdiSubWindow* frame = area_->currentSubWindow();
+    if (!child || frame == front_) return;
+    front_ = frame;
+    std::erase(order_, frame);
+    order_.push_back(frame);
+    child->desktop().run([child] { child->Form_Activate(); });
 }
 
 void MdiFrame::focusNextChild() {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
+#include <vector>
 
 #include "platform/forms/form.h"
 
@@ -27,7 +29,8 @@ public:
     [[nodiscard]] QMdiSubWindow* addChild(FormWindow& child);
     /// Shows the child maximized, in front, with the focus.
     void bringToFront(QMdiSubWindow& frame);
-    void removeChild(QMdiSubWindow& frame);
+    /// Unloads a child and takes its frame away; the child that was in front before it comes to the front.
+    void removeChild(QMdiSubWindow& frame, const std::function<void()>& unload);
     void focusNextChild();
 
 protected:
@@ -38,10 +41,16 @@ protected:
 
 private:
     void showMenus();
+    void arrange(const std::function<void()>& step);
+    void childActivated();
 
     QWidget* centre_;
     QMdiArea* area_;
     FormWindow* menuOwner_ = nullptr;
+    QMdiSubWindow* front_ = nullptr;
+    /// The children that have been active, the latest last.
+    std::vector<QMdiSubWindow*> order_;
+    bool arranging_ = false;
 };
 
 }  // namespace platform

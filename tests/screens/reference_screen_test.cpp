@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include "tests/support/household.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class ReferenceScreen : public support::Household {
+protected:
+    void startWithDoctors(const QStringList& names) {
+        for (const QString& name : names)
+            exec(u"INSERT INTO Doctors (Name, State) VALUES ('%1', 'Ohio')"_s.arg(name));
+        addMembers({u"Ann Larkin"_s});
+        user.start();
+        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+    }
+    QStringList listed() { return user.control(u"cbSelect"_s)["items"_L1].toVariant().toStringList(); }
+};
+
+TEST_F(ReferenceScreen, TheSelectorListsEveryNameAndGoesToTheFirstOfEqualOnes) {
+    startWithDoctors({u"Moss"_s, u"Adams"_s, u"Moss"_s});
+    openNode(u"Doctors"_s);
+    EXPECT_EQ(user.state()["focus"_L1].toString(), u"txtFields(0)"_s);
+    EXPECT_EQ(user.control(u"txtFields(0)"_s)["selLength"_L1].toInt(), 5);
+    EXPECT_EQ(listed(), (QStringList{u"Adams"_s, u"Moss"_s, u"Moss"_s}));
+    user.click(u"cmdLast"_s);
+    user.pick(u"cbSelect"_s, u"Moss"_s);
+    EXPECT_EQ(status(), u"Record: 2 of 3"_s);
+    EXPECT_EQ(user.session()["gvAttachKey"_L1].toString(), u"Doc_1_"_s + user.text(u"txtID"_s));
+    EXPECT_EQ(user.text(u"cbFields(0)"_s), u"Ohio"_s);
+}
+
+TEST_F(ReferenceScreen, TypingInTheSelectorIsNoChangeAndAPickNeverLosesOne) {
+    startWithDoctors({u"Adams"_s, u"Moss"_s});
+    openNode(u"Doctors"_s);
+    user.fill(u"cbSelect"_s, u"anything"_s);
+    user.click(u"cmdNext"_s);
+    EXPECT_EQ(status(), u"Record: 2 of 2"_s);
+    user.fill(u"txtFields(1)"_s, u"typed"_s);
+    for (const QString& button : {QString(), u"cmdEdit"_s}) {
+        if (!button.isEmpty()) user.click(button);
+        user.pick(u"cbSelect"_s, u"Adams"_s);
+        EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
+        EXPECT_EQ(user.text(u"cbSelect"_s), u"Moss"_s);
+        EXPECT_EQ(user.text(u"txtFields(1)"_s), u"typed"_s);
+    }
+    user.fill(u"txtFields(0)"_s, u"Aaron"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(listed(), (QStringList{u"Aaron"_s, u"Adams"_s}));
+}
+
+TEST_F(ReferenceScreen, AnEmptyTableBeginsInAnAddThatNeedsAName) {
+    startWithDoctors({});
+    openNode(u"Contacts"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(boxText(), u"No contact name has been entered.  No contact record can be created."_s);
+    EXPECT_EQ(dismissBox(), u"No Contact Name"_s);
+    user.fill(u"txtFields(0)"_s, u"Plumber"_s);
+    user.pick(u"cbFields(0)"_s, u"Texas"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(cell(u"SELECT Name||State FROM Contacts"_s), u"PlumberTexas"_s);
+    EXPECT_EQ(listed(), QStringList{u"Plumber"_s});
+    EXPECT_EQ(user.session()["gvAttachKey"_L1].toString(), u"Con_1_1"_s);
+}
+
+TEST_F(ReferenceScreen, TheCoverPageKnowsNoChanges) {
+    startWithDoctors({});
+    user.menu(u"mCoverPage"_s);
+    EXPECT_EQ(dismissBox(), u"No Cover Page Info"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(dismissBox(), u"No Main Heading"_s);
+    user.fill(u"txtFields(0)"_s, u"The Larkins"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(status(), u"Record: 1 of 1"_s);
+    user.fill(u"txtFields(1)"_s, u"typed"_s);
+    openNode(u"Birth"_s);
+    EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
+    user.menu(u"mCoverPage"_s);
+    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"typed"_s);
+    user.key(u"Escape"_s);
+    user.click(u"cmdClose"_s);
+    EXPECT_FALSE(forms().contains(u"frmCoverPage"_s));
+    EXPECT_EQ(cell(u"SELECT SubHeading1 FROM CoverPage"_s), u"null"_s);
+}
+
+TEST_F(ReferenceScreen, TheCoverPageCanBeChangedInAReadOnlySession) {
+    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
+    startWithDoctors({});
+    user.menu(u"mCoverPage"_s);
+    dismissBox();
+    user.fill(u"txtFields(0)"_s, u"The Larkins"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(cell(u"SELECT Heading1 FROM CoverPage"_s), u"The Larkins"_s);
+    user.click(u"cmdAdd"_s);
+    EXPECT_EQ(status(), u"Add record"_s);
+    user.click(u"cmdCancel"_s);
+    EXPECT_EQ(status(), u"Record: 1 of 1"_s);
+}
+
+}  // namespace
