@@ -77,8 +77,6 @@ private:
             const ssize_t copied = inKernel_ ? copyInKernel(at, wanted) : copyThroughBuffer(at, wanted);
             // The source became shorter while it was copied: half a file must not pass for a whole one.
             if (copied == 0) throw RuntimeError(75);
-            // The disk begins to write while the rest is still being read, so that the flush at the end is short.
-            ::sync_file_range(target_.descriptor(), at, copied, SYNC_FILE_RANGE_WRITE);
             at += copied;
             if (progress_) progress_(at, source_.size());
         }
