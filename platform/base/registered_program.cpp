@@ -21,7 +21,7 @@ constexpr int noAssociation = 1155;
 /// Values of a key within a group of a desktop file, "[Group]" above "Key=Value" lines; empty if it isn't there.
 QString valueIn(const QString& path, const QString& group, const QString& key) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
     bool inside = false;
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).trimmed();
