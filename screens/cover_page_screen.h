@@ -21,6 +21,7 @@ protected:
     void setButtons(bool browsing) override;
     void cmdClose_Click() override;
     void setAttachKey() override {}
+    void printRecord() override;
 };
 
 }  // namespace screens

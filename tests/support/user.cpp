@@ -29,6 +29,7 @@
 #include "tests/support/mouse.h"
 #include "tests/support/refused.h"
 #include "tests/support/user_dialogs.h"
+#include "tests/support/watched_printer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -156,7 +157,10 @@ QTreeWidgetItem& shownNode(platform::TreeView& tree, const QString& key) {
 }  // namespace
 
 User::User(MakeProgram make, QSize hostSize)
-    : make_(std::move(make)), hostSize_(hostSize), gui_([this] { return settled(); }) {
+    : printer_(std::make_unique<WatchedPrinter>()),
+      make_(std::move(make)),
+      hostSize_(hostSize),
+      gui_([this] { return settled(); }) {
     gui_.look([] {
         QApplication::setDoubleClickInterval(doubleClick.count());
         for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip}) {
@@ -449,6 +453,14 @@ QJsonObject User::grid(const QString& view) {
 
 QString User::text(const QString& name) {
     return control(name)[u"text"_s].toString();
+}
+
+void User::setPrinter(const QString& file) {
+    gui_.look([&] { printer_->use(file); });
+}
+
+QJsonArray User::jobs() {
+    return read([this] { return printer_->takeJobs(); });
 }
 
 void User::forgetNoises() {
