@@ -22,6 +22,7 @@ protected:
     void cmdClose_Click() override;
     void mAttachments_Click() override {}
     void setAttachKey() override {}
+    void printRecord() override;
 };
 
 }  // namespace screens

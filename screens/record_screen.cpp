@@ -93,6 +93,10 @@ RecordCommands RecordScreen::commands() {
     commands.cut = handler([this] { copySelection(true); });
     commands.paste = handler([this] { pasteSelection(); });
     commands.attachments = handler([this] { mAttachments_Click(); });
+    commands.print = handler([this] { mPrint_Click(); });
+    commands.printAll = handler([this] { mPrintAll_Click(); });
+    commands.save = handler([this] { mSave_Click(); });
+    commands.saveAll = handler([this] { mSaveAll_Click(); });
     for (const ChildOffer& child : definition_.children) {
         commands.children.push_back(
             {child.kind, child.tooltip, handler([this, kind = child.kind] { showChild(kind); })});
@@ -348,16 +352,16 @@ void RecordScreen::cmdPrevious_Click() {
     move(u"Goto Previous Record Error"_s, &RecordScreen::goPrevious);
 }
 
-void RecordScreen::cmdNext_Click() {
-    move(u"Goto Next Record Error"_s, &RecordScreen::goNext);
+bool RecordScreen::cmdNext_Click() {
+    return move(u"Goto Next Record Error"_s, &RecordScreen::goNext);
 }
 
 void RecordScreen::cmdLast_Click() {
     move(u"Goto Last Record Error"_s, &RecordScreen::goLast);
 }
 
-void RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)()) {
-    desktop().attempt(errorTitle, [this, step] {
+bool RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)()) {
+    return desktop().attempt(errorTitle, [this, step] {
         if (bChange) {
             session::showScreenChanges(desktop());
             return;
@@ -453,7 +457,7 @@ void RecordScreen::Form_KeyDown(int keyCode, int shift) {
             break;
         case key::down:
         case key::pageDown:
-            shift == platform::ctrlMask ? cmdLast_Click() : cmdNext_Click();
+            shift == platform::ctrlMask ? cmdLast_Click() : static_cast<void>(cmdNext_Click());
             break;
         default:
             break;

@@ -27,6 +27,7 @@
 #include "tests/support/refused.h"
 #include "tests/support/targets.h"
 #include "tests/support/user_dialogs.h"
+#include "tests/support/watched_printer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -83,7 +84,10 @@ bool selectAll(QWidget& widget) {
 }  // namespace
 
 User::User(MakeProgram make, QSize hostSize)
-    : make_(std::move(make)), hostSize_(hostSize), gui_([this] { return settled(); }) {
+    : printer_(std::make_unique<WatchedPrinter>()),
+      make_(std::move(make)),
+      hostSize_(hostSize),
+      gui_([this] { return settled(); }) {
     gui_.look([] {
         // A desktop tells where its icons lie; the windows drawn in memory know of none.
         QIcon::setThemeSearchPaths({u"/usr/share/icons"_s});
@@ -367,6 +371,14 @@ QJsonObject User::grid(const QString& view) {
 
 QString User::text(const QString& name) {
     return control(name)[u"text"_s].toString();
+}
+
+void User::setPrinter(const QString& file) {
+    gui_.look([&] { printer_->use(file); });
+}
+
+QJsonArray User::jobs() {
+    return read([this] { return printer_->takeJobs(); });
 }
 
 void User::forgetNoises() {

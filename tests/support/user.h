@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QSize>
 #include <QStringList>
@@ -14,6 +15,7 @@ namespace support {
 struct KeyStroke;
 struct Spot;
 class UserDialogs;
+class WatchedPrinter;
 
 /// Plays a user: sends mouse and key events to the windows of a program and reads what they show.
 ///
@@ -55,6 +57,8 @@ public:
     void enter(const QString& text);
     /// Cancels the file dialog or input box.
     void cancel();
+    /// What is printed from now on goes to this PDF file; with "none" there is no printer, as at the beginning.
+    void setPrinter(const QString& file);
     /// The close box of the host window.
     void close();
     /// Takes a picture of the topmost window.
@@ -66,6 +70,8 @@ public:
     [[nodiscard]] QJsonObject control(const QString& name);
     [[nodiscard]] QJsonObject tree();
     [[nodiscard]] QJsonObject grid(const QString& view = {});
+    /// The jobs printed since the last call, each a list of pages, each a list of lines.
+    [[nodiscard]] QJsonArray jobs();
     /// The open box or dialog as `state` has it; empty if none is open.
     [[nodiscard]] QJsonObject dialog() { return state()[QLatin1String("dialog")].toObject(); }
     /// What stands in a control.
@@ -95,6 +101,7 @@ private:
         return result;
     }
 
+    std::unique_ptr<WatchedPrinter> printer_;
     MakeProgram make_;
     std::unique_ptr<Program> program_;
     UserDialogs* dialogs_ = nullptr;
