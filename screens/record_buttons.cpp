@@ -76,12 +76,19 @@ void RecordButtons::makeActionRow(QWidget& form, QVBoxLayout& column, const QStr
 }
 
 void RecordButtons::showBrowsing(bool browsing) {
-    add_->setVisible(browsing);
-    edit_->setVisible(browsing);
-    update_->setVisible(!browsing);
-    cancel_->setVisible(!browsing);
-    delete_->setVisible(browsing);
-    close_->setVisible(browsing);
+    platform::CommandButton* heir = nullptr;
+    if (edit_->hasFocus()) heir = update_;
+    if (update_->hasFocus() || cancel_->hasFocus()) heir = edit_;
+    const auto show = [](std::initializer_list<platform::CommandButton*> buttons, bool visible) {
+        for (platform::CommandButton* button : buttons)
+            button->setVisible(visible);
+    };
+    show({add_, edit_, delete_, close_}, true);
+    show({update_, cancel_}, true);
+    // A button that goes with the focus would leave it to the owner, who may be one that can't be left.
+    if (heir) heir->setFocus();
+    show({add_, edit_, delete_, close_}, browsing);
+    show({update_, cancel_}, !browsing);
 }
 
 void RecordButtons::enableMoves(bool enabled) {

@@ -19,7 +19,7 @@ struct Field {
 };
 
 Field comboField(const screens::ScreenDefinition& screen, const data::Column& column, int box) {
-    const auto* combo = std::ranges::find(screen.combos, box, &screens::ComboColumn::shadow);
+    const auto combo = std::ranges::find(screen.combos, box, &screens::ComboColumn::shadow);
     const QString given = column.isState() ? u"Texas"_s : u"Divorced"_s;
     return {u"cbFields(%1)"_s.arg(combo->combo), given, given, column.name};
 }
@@ -33,7 +33,7 @@ Field boxField(const data::Column& column, int box) {
         case data::FieldKind::Whole:
             return {control, number, number, column.name};
         case data::FieldKind::Date:
-            return {control, u"May %1, 2035"_s.arg(box), u"2035-05-%1"_s.arg(box, 2, 10, u'0'), column.name};
+            return {control, u"May %1, 2035"_s.arg(box), u"2035-05-%1"_s.arg(box, 2, 10, QChar(u'0')), column.name};
         default:
             return {control, text, text, column.name};
     }
@@ -102,7 +102,7 @@ TEST_F(EveryScreen, KeepsEveryFieldAndSavesWhatItShows) {
     for (const QJsonValue& node : nodes) {
         const QString key = node["key"_L1].toString();
         const app::DispatchRow* row = app::dispatchRow(key);
-        const screens::ScreenDefinition* screen = row ? screens::screenDefinition(row->window) : nullptr;
+        const screens::ScreenDefinition* screen = row ? screens::screenDefinition(QString(row->window)) : nullptr;
         // A second node of the same window adds nothing.
         if (!screen || screen->name == "frmKinbook"_L1 || key.endsWith(u'1')) continue;
         SCOPED_TRACE(QString(screen->name).toStdString());
