@@ -7,8 +7,8 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "platform/base/runtime_error.h"
 #include "platform/base/registered_program.h"
+#include "platform/base/runtime_error.h"
 #include "platform/forms/focus_guard.h"
 #include "platform/forms/form.h"
 
