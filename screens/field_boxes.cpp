@@ -154,6 +154,12 @@ void FieldBoxes::orderTabs() const {
         follow(check.box);
 }
 
+void FieldBoxes::clearUnstored() {
+    for (const Check& check : checks_) {
+        if (!check.binding) check.box->setValue(0);
+    }
+}
+
 void FieldBoxes::copyShadows() {
     for (const Combo& combo : combos_) {
         platform::TextControl& shadow = text(combo.column.shadow);

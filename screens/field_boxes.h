@@ -72,6 +72,8 @@ public:
     /// Tab runs through the boxes in index order, then through the check boxes. To be called when they stand in their
     /// frames.
     void orderTabs() const;
+    /// Clears the check boxes that no column stores: another row is on screen.
+    void clearUnstored();
     /// Copies each combo's text into its shadow, for the output that walks the text boxes.
     void copyShadows();
 

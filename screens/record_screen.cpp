@@ -399,6 +399,7 @@ void RecordScreen::goPrevious() {
 }
 
 void RecordScreen::moveComplete() {
+    boxes_.clearUnstored();
     boxes_.copyShadows();
     showPosition();
 }

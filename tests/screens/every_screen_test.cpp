@@ -67,6 +67,8 @@ protected:
         }
     }
     QString stored(const screens::ScreenDefinition& screen, const Field& field) {
+        // A box that nothing stores is clear when its row is shown again.
+        if (field.column.isEmpty()) return user.control(field.control)["value"_L1].toInt() == 0 ? u"-1"_s : u"kept"_s;
         return cell(u"SELECT \"%1\" FROM %2"_s.arg(field.column, screen.table));
     }
     void playThrough(const QString& node, const screens::ScreenDefinition& screen) {
