@@ -9,6 +9,7 @@
 #include "app/host_panel.h"
 #include "app/tree_pictures.h"
 #include "app/windows.h"
+#include "attachments/attach_dialog.h"
 #include "platform/base/conversions.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/command_button.h"
@@ -341,6 +342,10 @@ void MDIHost::showOutbuildingsScreen(const session::ChildRequest& request) {
 
 void MDIHost::showCoverPage() {
     touch(u"frmCoverPage"_s)->ShowMe();
+}
+
+void MDIHost::showAttachments(const QString& ownerName) {
+    desktop().load(std::make_unique<attachments::AttachDialog>(desktop(), session_, ownerName)).showModal();
 }
 
 void MDIHost::exitProgram() {

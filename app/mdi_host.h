@@ -55,6 +55,7 @@ public:
     void showImprovementsScreen(const session::ChildRequest& request) override;
     void showOutbuildingsScreen(const session::ChildRequest& request) override;
     void showCoverPage() override;
+    void showAttachments(const QString& ownerName) override;
     void exitProgram() override;
 
 protected:

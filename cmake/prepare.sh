@@ -23,7 +23,8 @@ quietly() {
 installPackages() {
   command -v dpkg-query >/dev/null || return 0
   local present missing=() name
-  present=$'\n'$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null)$'\n'
+  # It fails when it knows one of the names not at all.
+  present=$'\n'$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)$'\n'
   for name; do
     [[ $present == *$'\n'"installed $name"$'\n'* ]] || missing+=("$name")
   done

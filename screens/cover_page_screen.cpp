@@ -1,6 +1,10 @@
 #include "screens/cover_page_screen.h"
 
+#include "output/print_failure.h"
 #include "platform/forms/desktop.h"
+#include "platform/forms/text_control.h"
+#include "screens/cover_page_print.h"
+#include "session/session.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +34,17 @@ void CoverPageScreen::setButtons(bool browsing) {
 
 void CoverPageScreen::cmdClose_Click() {
     unload();
+}
+
+void CoverPageScreen::printRecord() {
+    output::attemptPrint(desktop(), u"Print Error"_s, [this] {
+        const CoverPage page{.heading1 = boxes().text(0).text(),
+                             .subHeading1 = boxes().text(1).text(),
+                             .heading2 = boxes().text(2).text(),
+                             .subHeading2 = boxes().text(3).text(),
+                             .date = boxes().text(4).text()};
+        printCoverPage(page, session().definition);
+    });
 }
 
 }  // namespace screens

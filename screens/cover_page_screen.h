@@ -20,7 +20,9 @@ protected:
     [[nodiscard]] bool mayChange() override { return true; }
     void setButtons(bool browsing) override;
     void cmdClose_Click() override;
+    void mAttachments_Click() override {}
     void setAttachKey() override {}
+    void printRecord() override;
 };
 
 }  // namespace screens

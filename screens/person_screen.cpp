@@ -1,6 +1,7 @@
 #include "screens/person_screen.h"
 
 #include "data/person_deletion.h"
+#include "output/record_output.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/key_codes.h"
@@ -213,6 +214,14 @@ void PersonScreen::Form_KeyUp(int keyCode, int /*shift*/) {
         box.setText(box.text() + u'-');
         box.select(static_cast<int>(length) + 1, 0);
     });
+}
+
+output::SaveAllRequest PersonScreen::saveAllRequest() {
+    output::SaveAllRequest request = RecordScreen::saveAllRequest();
+    request.asksForText = true;
+    request.noFileTitle = u"No File Name"_s;
+    request.noFileText = u"No file name was specified.  No file was saved."_s;
+    return request;
 }
 
 }  // namespace screens

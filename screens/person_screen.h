@@ -36,6 +36,7 @@ protected:
     [[nodiscard]] QString moveCompleteTitle() const override;
     void cmdClose_Click() override;
     [[nodiscard]] bool validates(int box) override;
+    [[nodiscard]] output::SaveAllRequest saveAllRequest() override;
 
 private:
     [[nodiscard]] QString selectStatement();

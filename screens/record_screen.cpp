@@ -91,6 +91,11 @@ RecordCommands RecordScreen::commands() {
     commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
     commands.cut = handler([this] { copySelection(*this, Copy::Cut); });
     commands.paste = handler([this] { pasteSelection(*this); });
+    commands.attachments = handler([this] { mAttachments_Click(); });
+    commands.print = handler([this] { mPrint_Click(); });
+    commands.printAll = handler([this] { mPrintAll_Click(); });
+    commands.save = handler([this] { mSave_Click(); });
+    commands.saveAll = handler([this] { mSaveAll_Click(); });
     for (const ChildOffer& child : definition_.children) {
         commands.children.push_back(
             {child.kind, child.tooltip, handler([this, kind = child.kind] { showChild(kind); })});
@@ -342,16 +347,16 @@ void RecordScreen::cmdPrevious_Click() {
     move(u"Goto Previous Record Error"_s, &RecordScreen::goPrevious);
 }
 
-void RecordScreen::cmdNext_Click() {
-    move(u"Goto Next Record Error"_s, &RecordScreen::goNext);
+bool RecordScreen::cmdNext_Click() {
+    return move(u"Goto Next Record Error"_s, &RecordScreen::goNext);
 }
 
 void RecordScreen::cmdLast_Click() {
     move(u"Goto Last Record Error"_s, &RecordScreen::goLast);
 }
 
-void RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)()) {
-    desktop().attempt(errorTitle, [this, step] {
+bool RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)()) {
+    return desktop().attempt(errorTitle, [this, step] {
         if (bChange) {
             session::showScreenChanges(desktop());
             return;
@@ -444,7 +449,7 @@ void RecordScreen::Form_KeyDown(int keyCode, int shift) {
             break;
         case key::down:
         case key::pageDown:
-            shift == platform::ctrlMask ? cmdLast_Click() : cmdNext_Click();
+            shift == platform::ctrlMask ? cmdLast_Click() : static_cast<void>(cmdNext_Click());
             break;
         default:
             break;
@@ -462,11 +467,24 @@ bool RecordScreen::validates(int box) {
 
 // What the screen shows of its state -------------------------------------------------------------------------------
 
+void RecordScreen::mAttachments_Click() {
+    desktop().attempt(u"Attachments Error"_s, [this] {
+        session().gvAttachKey = attachKey();
+        // The first box holds the name that the record goes by, the owner's where there is one.
+        workspace().showAttachments(boxes_.text(0).text());
+        setNumAttachments();
+    });
+}
+
 void RecordScreen::setAttachKey() {
+    session().gvAttachKey = attachKey();
+    setNumAttachments();
+}
+
+QString RecordScreen::attachKey() const {
     // The selected member's number, not the owner's: in the view of the whole family the same row has another key.
     const int record = txtID_ && !txtID_->text().isEmpty() ? txtID_->number() : 0;
-    session().gvAttachKey = u"%1%2_%3"_s.arg(definition_.attachmentPrefix).arg(session().gPersonID).arg(record);
-    setNumAttachments();
+    return u"%1%2_%3"_s.arg(definition_.attachmentPrefix).arg(session().gPersonID).arg(record);
 }
 
 void RecordScreen::setNumAttachments() {

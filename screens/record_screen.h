@@ -12,6 +12,11 @@
 
 class QLabel;
 
+namespace output {
+struct PrintableScreen;
+struct SaveAllRequest;
+}  // namespace output
+
 namespace screens {
 
 /// A window that shows one record at a time: the design that every record screen shares.
@@ -79,7 +84,8 @@ protected:
     // Moves. Each ends with what the record on screen means to the session.
     void cmdFirst_Click();
     void cmdPrevious_Click();
-    void cmdNext_Click();
+    /// False when the move failed.
+    bool cmdNext_Click();
     void cmdLast_Click();
     virtual void goFirst();
     virtual void goPrevious();
@@ -97,6 +103,19 @@ protected:
     [[nodiscard]] virtual bool validates(int box);
     [[nodiscard]] virtual bool validatesCombos() { return true; }
     virtual void cbFields_Click() { boxes_.copyShadows(); }
+
+    /// Shows the files of the record on screen.
+    virtual void mAttachments_Click();
+    // Paper and text files.
+    /// What the boxes and check boxes show at this moment.
+    [[nodiscard]] output::PrintableScreen printable();
+    virtual void printRecord();
+    void mPrint_Click() { printRecord(); }
+    void mPrintAll_Click();
+    void mSave_Click();
+    void mSaveAll_Click();
+    /// How Save All asks for its file and tells that it got none.
+    [[nodiscard]] virtual output::SaveAllRequest saveAllRequest();
 
     /// Makes the session's attachment key that of the record on screen, and counts its files.
     virtual void setAttachKey();
@@ -127,7 +146,11 @@ private:
     [[nodiscard]] RecordActions actions();
     [[nodiscard]] RecordCommands commands();
     void moveComplete();
-    void move(const QString& errorTitle, void (RecordScreen::*step)());
+    [[nodiscard]] QString attachKey() const;
+    /// False when the move failed.
+    bool move(const QString& errorTitle, void (RecordScreen::*step)());
+    /// Shows each record from the first through the last and visits it there, then goes back to the first.
+    void walkAll(const std::function<void()>& visit);
     void writeCombos();
     void writeDates();
 

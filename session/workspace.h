@@ -44,6 +44,8 @@ public:
     virtual void showImprovementsScreen(const ChildRequest& request) = 0;
     virtual void showOutbuildingsScreen(const ChildRequest& request) = 0;
     virtual void showCoverPage() = 0;
+    /// Shows the files of the session's attachment key, and returns when the user has closed them.
+    virtual void showAttachments(const QString& ownerName) = 0;
 
     /// Leaves the program.
     virtual void exitProgram() = 0;

@@ -124,12 +124,6 @@ QString copyUnsynced(const QString& source, const QString& target, const CopyPro
     return to.folder();
 }
 
-void makeFolder(const QString& path) {
-    if (folderExists(path)) return;
-    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) throwSystemError(errno, 76);
-    syncFolder(parentOf(path));
-}
-
 }  // namespace
 
 void copyFile(const QString& source, const QString& target, const CopyProgress& progress) {
@@ -143,6 +137,12 @@ void copyAllFiles(const QString& folder, const QString& targetFolder) {
     for (const QString& name : names)
         copyUnsynced(join(folder, name), join(targetFolder, name));
     syncFolder(targetFolder);
+}
+
+void makeFolder(const QString& path) {
+    if (folderExists(path)) return;
+    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) throwSystemError(errno, 76);
+    syncFolder(parentOf(path));
 }
 
 void copyFolder(const QString& source, const QString& target) {

@@ -41,6 +41,8 @@ void deleteAllFiles(const QString& folder, bool force);
 /// Copies what a folder holds, with its subfolders but without links to folders, into a folder that is made or merged
 /// into. Error 76 for a source that is missing or has a separator at its end, otherwise as copyFile().
 void copyFolder(const QString& source, const QString& target);
+/// Makes a folder that isn't there. Errors: 76 where it would lie in a missing one, 75 for a file in its place.
+void makeFolder(const QString& path);
 /// Deletes a folder with all it holds. Errors: 76 missing or with a separator at its end, 70 for a read-only file
 /// inside that isn't forced.
 void deleteFolder(const QString& path, bool force);

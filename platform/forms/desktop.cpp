@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/base/runtime_error.h"
+#include "platform/base/registered_program.h"
 #include "platform/forms/focus_guard.h"
 #include "platform/forms/form.h"
 
@@ -15,7 +16,10 @@ using namespace Qt::StringLiterals;
 
 namespace platform {
 
-Desktop::Desktop() : dialogs_(std::make_unique<Dialogs>()), guard_(std::make_unique<FocusGuard>(*this)) {
+Desktop::Desktop()
+    : dialogs_(std::make_unique<Dialogs>()),
+      openFile_(openWithRegisteredProgram),
+      guard_(std::make_unique<FocusGuard>(*this)) {
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -77,11 +81,15 @@ bool Desktop::ask(const QString& text, const QString& title) {
 }
 
 bool Desktop::attempt(const QString& title, const std::function<void()>& routine) {
+    return attempt(routine, [&](const RuntimeError& error) { notice(error.report(), title, Icon::Critical); });
+}
+
+bool Desktop::attempt(const std::function<void()>& routine, const std::function<void(const RuntimeError&)>& failed) {
     try {
         routine();
         return true;
     } catch (const RuntimeError& error) {
-        notice(error.report(), title, Icon::Critical);
+        failed(error);
         return false;
     }
 }
@@ -115,6 +123,11 @@ void Desktop::setPointer(Pointer pointer) {
 void Desktop::beep() {
     QApplication::beep();
     Q_EMIT beeped();
+}
+
+void Desktop::openFile(const QString& path) {
+    openFile_(path);
+    Q_EMIT fileOpened(path);
 }
 
 void Desktop::setClipboardText(const QString& text) {

@@ -13,6 +13,7 @@ namespace platform {
 class FocusGuard;
 class Form;
 class MdiFrame;
+class RuntimeError;
 
 enum class Pointer { Default, Hourglass };
 
@@ -60,6 +61,8 @@ public:
     /// Runs a routine that has an error title: a failure in it ends it and is shown under the title. True if it ran
     /// whole.
     bool attempt(const QString& title, const std::function<void()>& routine);
+    /// The same for a routine that tells of its failures in words of its own.
+    static bool attempt(const std::function<void()>& routine, const std::function<void(const RuntimeError&)>& failed);
     /// Runs what an event set off; a failure that no routine handled is shown under the program's own title.
     void run(const std::function<void()>& handler);
 
@@ -71,6 +74,11 @@ public:
     void beep();
     void setClipboardText(const QString& text);
     [[nodiscard]] QString clipboardText() const;
+    /// Hands a file to the program that is registered for its kind, which then runs beside this one. Throws what the
+    /// opener throws.
+    void openFile(const QString& path);
+    /// Takes the place of what starts that program.
+    void setFileOpener(std::function<void(const QString&)> opener) { openFile_ = std::move(opener); }
     /// Keeps the program alive to its events for some seconds, while the caller waits.
     void wait(double seconds);
     [[nodiscard]] bool isWaiting() const { return waiting_; }
@@ -80,6 +88,7 @@ public:
 
 Q_SIGNALS:
     void beeped();
+    void fileOpened(const QString& path);
     /// The last form is gone: the program ends.
     void emptied();
 
@@ -90,6 +99,7 @@ private:
     void retire(Form& form);
 
     std::unique_ptr<Dialogs> dialogs_;
+    std::function<void(const QString&)> openFile_;
     std::vector<std::unique_ptr<Form>> forms_;
     std::unique_ptr<FocusGuard> guard_;
     MdiFrame* host_ = nullptr;

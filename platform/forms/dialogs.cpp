@@ -75,7 +75,7 @@ Answer Dialogs::messageBox(const QString& text, Icon icon, const QString& title,
     }
 }
 
-QString Dialogs::fileDialog(const FileRequest& request) {
+std::optional<QString> Dialogs::chooseFile(const FileRequest& request) {
     QFileDialog dialog(QApplication::activeWindow(), request.title);
     dialog.setObjectName(u"FileDialog"_s);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -93,7 +93,9 @@ QString Dialogs::fileDialog(const FileRequest& request) {
     }
     dialog.setDefaultSuffix(request.suffix);
     if (!request.fileName.isEmpty()) dialog.selectFile(preset.fileName());
-    return runFileDialog(dialog);
+    const QString chosen = runFileDialog(dialog);
+    if (dialog.result() != QDialog::Accepted) return std::nullopt;
+    return chosen;
 }
 
 QString Dialogs::runFileDialog(QFileDialog& dialog) {

@@ -33,7 +33,9 @@ public:
     /// buttons stay on the screen.
     virtual Answer messageBox(const QString& text, Icon icon, const QString& title, Buttons buttons);
     /// Full name of the chosen file, which need not exist; empty when nothing was chosen.
-    virtual QString fileDialog(const FileRequest& request);
+    QString fileDialog(const FileRequest& request) { return chooseFile(request).value_or(QString()); }
+    /// The same, with a cancelled dialog told apart from one that was confirmed without a name.
+    virtual std::optional<QString> chooseFile(const FileRequest& request);
     /// The typed text; empty when cancelled.
     virtual QString inputBox(const QString& prompt, const QString& title, const QString& preset);
 

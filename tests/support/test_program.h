@@ -11,6 +11,8 @@ namespace support {
 /// panel. "frmTest" has txtFields(0) to (3) (0 refuses to be left with "bad" in it and says so in a box, 1 with "mute"
 /// in it without one, 2 has many lines, 3 is locked), cbFields(0) (locked: cbFields(1)), chkFields(0), buttons that
 /// open each kind of dialog, toolbar keys tbPrint and tbAttach (disabled), and the menu mFile. lblLog shows its events.
+/// cmdModal opens "frmDialog" with txtAccount, the grid grdDataGrid (40 rows, its ID hidden) and the list lvFiles,
+/// which has a context menu.
 [[nodiscard]] MakeProgram testProgram();
 
 /// The events that frmTest wrote down since the last call, each followed by a semicolon.

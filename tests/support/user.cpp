@@ -13,9 +13,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QStyleOptionComboBox>
-#include <QToolBar>
-#include <QToolButton>
 #include <chrono>
 #include <thread>
 
@@ -28,7 +25,9 @@
 #include "tests/support/keyboard.h"
 #include "tests/support/mouse.h"
 #include "tests/support/refused.h"
+#include "tests/support/targets.h"
 #include "tests/support/user_dialogs.h"
+#include "tests/support/watched_printer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -82,82 +81,16 @@ bool selectAll(QWidget& widget) {
     throw Refused(widget.objectName() + u" takes no text"_s);
 }
 
-QComboBox& comboFor(QWidget& widget, const QString& entry) {
-    auto* combo = qobject_cast<QComboBox*>(&widget);
-    if (!combo) throw Refused(widget.objectName() + u" is no combo"_s);
-    if (combo->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) {
-        throw Refused(u"%1 has no entry \"%2\""_s.arg(widget.objectName(), entry));
-    }
-    return *combo;
-}
-
-Spot spotOnArrow(QComboBox& combo) {
-    static_cast<void>(spotOn(combo));
-    QStyleOptionComboBox option;
-    option.initFrom(&combo);
-    option.editable = combo.isEditable();
-    option.subControls = QStyle::SC_All;
-    return spotAt(
-        combo, combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, &combo).center());
-}
-
-Spot spotOnRow(QAbstractItemView& view, const QModelIndex& index) {
-    view.scrollTo(index);
-    return spotAt(*view.viewport(), view.visualRect(index).center());
-}
-
-/// The path of menus from a list of menus down to an entry; empty if it isn't in them.
-std::vector<QAction*> pathTo(const QList<QAction*>& entries, const QString& name) {
-    for (QAction* entry : entries) {
-        if (entry->objectName() == name && !entry->isSeparator()) return {entry};
-        if (!entry->menu()) continue;
-        std::vector<QAction*> path = pathTo(entry->menu()->actions(), name);
-        if (path.empty()) continue;
-        path.insert(path.begin(), entry);
-        return path;
-    }
-    return {};
-}
-
-void checkUsable(const std::vector<QAction*>& path, const QString& name) {
-    if (path.empty()) throw Refused(u"the menu has no entry "_s + name);
-    if (path.back()->menu()) throw Refused(name + u" is a menu, not an entry"_s);
-    for (const QAction* entry : path) {
-        if (!entry->isVisible()) throw Refused(entry->objectName() + u" is hidden"_s);
-        if (!entry->isEnabled()) throw Refused(entry->objectName() + u" is disabled"_s);
-    }
-}
-
-QWidget* toolButton(QAction& key) {
-    const auto places = key.associatedObjects();
-    for (QObject* place : places) {
-        if (const auto* bar = qobject_cast<QToolBar*>(place)) return bar->widgetForAction(&key);
-    }
-    return nullptr;
-}
-
-Spot spotOnEntry(const QAction& entry) {
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    if (!menu || !menu->actions().contains(&entry)) throw Refused(u"the menu did not open"_s);
-    return spotAt(*menu, menu->actionGeometry(const_cast<QAction*>(&entry)).center());
-}
-
-/// A node's row, whose branch is open; a user can't click what isn't shown.
-QTreeWidgetItem& shownNode(platform::TreeView& tree, const QString& key) {
-    const int index = tree.indexOf(key);
-    if (index == 0) throw Refused(u"the tree has no node "_s + key);
-    if (!tree.isVisible()) throw Refused(u"the tree is hidden"_s);
-    for (int above = tree.parentIndex(index); above != 0; above = tree.parentIndex(above)) {
-        if (!tree.expanded(above)) throw Refused(u"%1 is inside the collapsed branch %2"_s.arg(key, tree.key(above)));
-    }
-    return *tree.node(index);
-}
-
 }  // namespace
 
 User::User(MakeProgram make, QSize hostSize)
-    : make_(std::move(make)), hostSize_(hostSize), gui_([this] { return settled(); }) {
+    : printer_(std::make_unique<WatchedPrinter>()),
+      make_(std::move(make)),
+      hostSize_(hostSize),
+      gui_([this] { return settled(); }) {
     gui_.look([] {
+        // A desktop tells where its icons lie; the windows drawn in memory know of none.
+        QIcon::setThemeSearchPaths({u"/usr/share/icons"_s});
         QApplication::setDoubleClickInterval(doubleClick.count());
         for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip}) {
             QApplication::setEffectEnabled(effect, false);
@@ -183,6 +116,10 @@ void User::start() {
         dialogs_ = dialogs.get();
         desktop.setDialogs(std::move(dialogs));
         QObject::connect(&desktop, &platform::Desktop::beeped, &desktop, [this] { ++beeps_; });
+        // The files are counted; their programs would open windows of their own.
+        desktop.setFileOpener([](const QString&) {});
+        QObject::connect(&desktop, &platform::Desktop::fileOpened, &desktop,
+                         [this](const QString& path) { opened_.append(path); });
         hostSized_ = false;
         starting_ = true;
         const auto started = qScopeGuard([this] { starting_ = false; });
@@ -271,11 +208,7 @@ void User::pick(const QString& combo, const QString& entry) {
 void User::node(const QString& key) {
     click([&] {
         platform::TreeView& tree = finder().tree();
-        QTreeWidgetItem& item = shownNode(tree, key);
-        tree.scrollToItem(&item);
-        const QRect row = tree.visualItemRect(&item);
-        return spotAt(*tree.viewport(),
-                      QPoint(row.left() + tree.iconSize().width() + row.height() / 2, row.center().y()));
+        return spotOnText(tree, shownNode(tree, key));
     });
 }
 
@@ -286,9 +219,7 @@ void User::setExpanded(const QString& key, bool expanded) {
         platform::TreeView& tree = finder().tree();
         QTreeWidgetItem& item = shownNode(tree, key);
         if (item.childCount() == 0) throw Refused(key + u" is no branch"_s);
-        tree.scrollToItem(&item);
-        const QRect row = tree.visualItemRect(&item);
-        return spotAt(*tree.viewport(), QPoint(row.left() - tree.indentation() / 2, row.center().y()));
+        return spotOnSign(tree, item);
     });
 }
 
@@ -297,9 +228,7 @@ void User::menu(const QString& name) {
         platform::MdiFrame* host = program_ ? program_->desktop().host() : nullptr;
         if (!host) throw Refused(u"there is no menu"_s);
         checkNotBlocked(*host);
-        std::vector<QAction*> found = pathTo(host->menuBar()->actions(), name);
-        checkUsable(found, name);
-        return found;
+        return pathTo(host->menuBar()->actions(), name);
     };
     const std::vector<QAction*> steps = read(path);
     click([&] {
@@ -312,19 +241,14 @@ void User::menu(const QString& name) {
 }
 
 void User::tool(const QString& key) {
-    click([&] {
-        QAction* action = finder().action(key);
-        QWidget* button = action ? toolButton(*action) : nullptr;
-        if (!button) throw Refused(u"there is no toolbar key "_s + key);
-        if (!action->isVisible() || !button->isVisible()) throw Refused(key + u" is hidden"_s);
-        if (!action->isEnabled()) throw Refused(key + u" is disabled"_s);
-        return spotOn(*button);
-    });
+    click([&] { return spotOnKey(finder().action(key), key); });
 }
 
 void User::popup(const QString& name) {
     const auto rightClick = [&] {
-        QAbstractItemView& view = finder().view();
+        auto* focused = qobject_cast<QAbstractItemView*>(QApplication::focusWidget());
+        const bool isOurs = focused && platform::Form::of(focused) == &finder().form();
+        QAbstractItemView& view = isOurs ? *focused : finder().view();
         if (!view.isVisible() || !view.isEnabled()) throw Refused(view.objectName() + u" takes no click"_s);
         if (view.currentIndex().isValid()) return spotOnRow(view, view.currentIndex());
         return spotAt(*view.viewport(), view.viewport()->rect().center());
@@ -333,9 +257,7 @@ void User::popup(const QString& name) {
     const auto entry = [&] {
         const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu) throw Refused(u"no context menu came up"_s);
-        const std::vector<QAction*> found = pathTo(menu->actions(), name);
-        checkUsable(found, name);
-        return found.front();
+        return pathTo(menu->actions(), name).front();
     };
     try {
         click([&] { return spotOnEntry(*entry()); });
@@ -449,6 +371,14 @@ QJsonObject User::grid(const QString& view) {
 
 QString User::text(const QString& name) {
     return control(name)[u"text"_s].toString();
+}
+
+void User::setPrinter(const QString& file) {
+    gui_.look([&] { printer_->use(file); });
+}
+
+QJsonArray User::jobs() {
+    return read([this] { return printer_->takeJobs(); });
 }
 
 void User::forgetNoises() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QSize>
 #include <QStringList>
@@ -14,6 +15,7 @@ namespace support {
 struct KeyStroke;
 struct Spot;
 class UserDialogs;
+class WatchedPrinter;
 
 /// Plays a user: sends mouse and key events to the windows of a program and reads what they show.
 ///
@@ -44,7 +46,7 @@ public:
     void collapse(const QString& key) { setExpanded(key, false); }
     void menu(const QString& name);
     void tool(const QString& key);
-    /// Opens the context menu of the form's grid or list and chooses an entry.
+    /// Opens the context menu of the grid or list that has the focus, else of the form's first, and chooses an entry.
     void popup(const QString& name);
     void select(const QString& view, int row);
     /// Presses a button of the message box: "OK", "Yes", "No".
@@ -55,6 +57,8 @@ public:
     void enter(const QString& text);
     /// Cancels the file dialog or input box.
     void cancel();
+    /// What is printed from now on goes to this PDF file; with "none" there is no printer, as at the beginning.
+    void setPrinter(const QString& file);
     /// The close box of the host window.
     void close();
     /// Takes a picture of the topmost window.
@@ -66,6 +70,8 @@ public:
     [[nodiscard]] QJsonObject control(const QString& name);
     [[nodiscard]] QJsonObject tree();
     [[nodiscard]] QJsonObject grid(const QString& view = {});
+    /// The jobs printed since the last call, each a list of pages, each a list of lines.
+    [[nodiscard]] QJsonArray jobs();
     /// The open box or dialog as `state` has it; empty if none is open.
     [[nodiscard]] QJsonObject dialog() { return state()[QLatin1String("dialog")].toObject(); }
     /// What stands in a control.
@@ -80,7 +86,6 @@ private:
     void typeAll(const QString& text);
     [[nodiscard]] bool openList(const QString& combo, const QString& entry);
     void setExpanded(const QString& key, bool expanded);
-    void chooseFromMenu(const QString& name);
     void leaveProgram();
     [[nodiscard]] Finder finder() const;
     [[nodiscard]] bool isRunning() const;
@@ -96,6 +101,7 @@ private:
         return result;
     }
 
+    std::unique_ptr<WatchedPrinter> printer_;
     MakeProgram make_;
     std::unique_ptr<Program> program_;
     UserDialogs* dialogs_ = nullptr;

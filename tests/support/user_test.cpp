@@ -132,6 +132,23 @@ TEST_F(UserTest, FinishesDialogs) {
     EXPECT_EQ(log.news(), u"Input Zoë L;Input ;"_s);
 }
 
+TEST_F(UserTest, ReadsAndSelectsRows) {
+    say(u"click cmdModal"_s);
+    const QJsonObject grid = say(u"grid"_s);
+    EXPECT_EQ(grid[u"columns"_s].toArray(), (QJsonArray{QJsonObject{{u"name"_s, u"ID"_s}, {u"width"_s, 0}},
+                                                        QJsonObject{{u"name"_s, u"Account"_s}, {u"width"_s, 150}}}));
+    EXPECT_EQ(grid[u"rows"_s].toArray().size(), 40);
+    EXPECT_EQ(grid[u"rows"_s][39].toArray(), (QJsonArray{u"40"_s, u"Account 39"_s}));
+    EXPECT_EQ(grid[u"current"_s].toInt(), -1);
+    say(u"select grdDataGrid 39"_s);
+    EXPECT_EQ(say(u"grid grdDataGrid"_s)[u"current"_s].toInt(), 39);
+    EXPECT_FALSE(say(u"select grdDataGrid 40"_s)[u"ok"_s].toBool());
+
+    say(u"select lvFiles 1"_s);
+    EXPECT_EQ(say(u"popup mnuAdd"_s)[u"error"_s].toString(), u"mnuAdd is disabled"_s);
+    EXPECT_EQ(say(u"popup mnuView"_s)[u"dialog"_s][u"title"_s].toString(), u"View b.txt"_s);
+}
+
 TEST_F(UserTest, ReadsControls) {
     user.fill(u"txtFields(1)"_s, u"abc"_s);
     const QJsonObject box = say(u"get txtFields(1)"_s);

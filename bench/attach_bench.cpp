@@ -1,0 +1,80 @@
+// Attaching a file of 500 MB against cp of the same file, and the memory that it takes beyond what was in use before.
+
+#include <sys/resource.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+
+#include "attachments/attachment_store.h"
+#include "data/connection.h"
+#include "data/template.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int megabytes = 500;
+constexpr int rounds = 3;
+
+void makeFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) std::exit(1);
+    for (int i = 0; i < megabytes; ++i)
+        file.write(QByteArray(1 << 20, static_cast<char>('a' + i % 26)));
+}
+
+long peakKilobytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+template <class Work>
+qint64 milliseconds(Work work) {
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return timer.elapsed();
+}
+
+}  // namespace
+
+int main() {
+    const QTemporaryDir folder(QDir::currentPath() + u"/attach_bench"_s);
+    const QString source = folder.filePath(u"big.bin"_s);
+    makeFile(source);
+    data::createTemplate(folder.filePath(u"FamilyInfo.mdb"_s));
+    data::Connection connection;
+    connection.open(folder.filePath(u"FamilyInfo.mdb"_s));
+    attachments::AttachmentStore store(connection, folder.path(), u"Hom_1_1"_s);
+
+    qint64 cp = 1 << 30;
+    qint64 synced = 1 << 30;
+    qint64 attach = 1 << 30;
+    long extra = 0;
+    const QString copied = folder.filePath(u"copy.bin"_s);
+    for (int round = 0; round < rounds; ++round) {
+        cp = std::min(cp, milliseconds([&] { QProcess::execute(u"cp"_s, {source, copied}); }));
+        synced = std::min(synced, cp + milliseconds([&] { QProcess::execute(u"sync"_s, {copied}); }));
+        QFile::remove(copied);
+        const long before = peakKilobytes();
+        attachments::Attachment stored;
+        attach = std::min(attach, milliseconds([&] {
+                              stored = store.storeFile(source);
+                              store.addRow(stored);
+                          }));
+        extra = std::max(extra, peakKilobytes() - before);
+        store.remove(stored.fileName);
+    }
+    std::printf("cp                %6lld ms\n", static_cast<long long>(cp));
+    std::printf("cp and sync       %6lld ms\n", static_cast<long long>(synced));
+    std::printf("attach            %6lld ms  (%.2f times cp, %.2f times cp and sync)\n", static_cast<long long>(attach),
+                static_cast<double>(attach) / static_cast<double>(cp),
+                static_cast<double>(attach) / static_cast<double>(synced));
+    std::printf("memory, extra     %6.1f MB\n", static_cast<double>(extra) / 1024);
+}

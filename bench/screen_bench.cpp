@@ -1,0 +1,288 @@
+// Opening record screens and moving on them, against raw SQLite and against bare windows with as many widgets.
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <malloc.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+#include <memory>
+
+#include "app/mdi_host.h"
+#include "data/template.h"
+#include "platform/forms/command_button.h"
+#include "platform/forms/desktop.h"
+#include "screens/catalogue/catalogue.h"
+#include "session/data_window.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int manyRows = 100'000;
+constexpr int fewRows = 10;
+constexpr int rounds = 7;
+constexpr int moves = 300;
+
+bool withinAll = true;
+
+void report(const char* what, const char* unit, double ours, double theirs, double limit) {
+    const double ratio = ours / theirs;
+    withinAll = withinAll && ratio <= limit;
+    std::printf("%-42s ours %9.3f %s   raw %9.3f %s   ratio %.2f (limit %.1f)\n", what, ours, unit, theirs, unit, ratio,
+                limit);
+}
+
+template <class Routine>
+double milliseconds(const Routine& routine) {
+    QElapsedTimer timer;
+    timer.start();
+    routine();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+template <class Routine>
+double best(const Routine& routine) {
+    double least = std::numeric_limits<double>::max();
+    for (int i = 0; i < rounds; ++i)
+        least = std::min(least, milliseconds(routine));
+    return least;
+}
+
+/// The program with its host up, over a file in which a table has some filled rows.
+class Running {
+public:
+    explicit Running(int homes) {
+        const QString path = folder_.filePath(u"FamilyInfo.mdb"_s);
+        data::createTemplate(path);
+        fill(path, homes);
+        session.applicationFolder = folder_.path();
+        session.gConnection.open(path);
+        host = &desktop.load(std::make_unique<app::MDIHost>(desktop, session));
+        host->resize(1200, 800);
+        host->show();
+        session.gsPersonName = u"Whole Family"_s;
+        QApplication::processEvents();
+        raw = std::make_unique<SQLite::Database>(path.toStdString(), SQLite::OPEN_READWRITE);
+    }
+
+    session::DataWindow& open(const QString& name) {
+        session::DataWindow* window = host->touch(name);
+        window->ShowMe();
+        window->show();
+        QApplication::processEvents();
+        return *window;
+    }
+    void close(session::DataWindow& window) {
+        window.leave();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QApplication::processEvents();
+    }
+
+    platform::Desktop desktop;
+    session::Session session;
+    app::MDIHost* host = nullptr;
+    std::unique_ptr<SQLite::Database> raw;
+
+private:
+    static void fill(const QString& path, int homes) {
+        SQLite::Database file(path.toStdString(), SQLite::OPEN_READWRITE);
+        SQLite::Transaction all(file);
+        for (int i = 1; i <= 8; ++i) {
+            file.exec("INSERT INTO Person (LegalName, Seq) VALUES ('Member " + std::to_string(i) + "', " +
+                      std::to_string(i) + ")");
+        }
+        SQLite::Statement insert(file,
+                                 "INSERT INTO HomeOwned (PersonID, Type, Description, Addr, Purpose, City, State, "
+                                 "Comment) VALUES (?,?,?,?,?,?,?,?)");
+        for (int i = 0; i < homes; ++i) {
+            insert.bind(1, i % 8 + 1);
+            for (int column = 2; column <= 8; ++column)
+                insert.bind(column, std::string(50, 'x'));
+            insert.exec();
+            insert.reset();
+        }
+        for (const screens::ScreenDefinition& screen : screens::ownedScreens()) {
+            for (int i = 0; screen.table != "HomeOwned"_L1 && i < fewRows; ++i) {
+                file.exec("INSERT INTO " + std::string(screen.table.data()) + " (PersonID) VALUES (1)");
+            }
+        }
+        file.exec("UPDATE Obligations SET Type = 2 + ID % 3");
+        all.commit();
+    }
+
+    QTemporaryDir folder_;
+};
+
+const char* const keys =
+    "SELECT HomeOwned.ID FROM Person INNER JOIN HomeOwned ON Person.ID = HomeOwned.PersonID "
+    "ORDER BY Person.Seq, HomeOwned.ID";
+
+void openAndMoveOverManyRows() {
+    Running program(manyRows);
+    const double opening = best([&] { program.close(program.open(u"frmHomesOwned"_s)); });
+    const double listing = best([&] {
+        SQLite::Statement list(*program.raw, keys);
+        qint64 last = 0;
+        while (list.executeStep())
+            last = list.getColumn(0).getInt64();
+        SQLite::Statement row(*program.raw, "SELECT * FROM HomeOwned WHERE ID = ?");
+        row.bind(1, static_cast<int64_t>(last));
+        row.executeStep();
+    });
+    report("opening over 100,000 rows", "ms", opening, listing, 2);
+
+    session::DataWindow& window = program.open(u"frmHomesOwned"_s);
+    auto* next = dynamic_cast<platform::CommandButton*>(window.control(u"cmdNext"_s));
+    double slowest = 0;
+    double all = 0;
+    for (int i = 0; i < moves; ++i) {
+        const double move = milliseconds([&] { next->press(); });
+        slowest = std::max(slowest, move);
+        all += move;
+    }
+    const double reads = milliseconds([&] {
+        for (int i = 1; i <= moves; ++i) {
+            SQLite::Statement row(*program.raw, "SELECT * FROM HomeOwned WHERE ID = " + std::to_string(i * 8));
+            row.executeStep();
+            for (int column = 0; column < row.getColumnCount(); ++column)
+                row.getColumn(column).getString();
+            SQLite::Statement owner(*program.raw, "Select LegalName from Person where ID = 1");
+            owner.executeStep();
+            SQLite::Statement count(
+                *program.raw,
+                "Select Count(*) as AttachCnt from Attachments where BugNum = 'Hom_0_" + std::to_string(i) + "'");
+            count.executeStep();
+        }
+    });
+    report("a move", "ms", all / moves, reads / moves, 5);
+    std::printf("%-42s %.2f ms (limit 16)\n", "the slowest move", slowest);
+    withinAll = withinAll && slowest < 16;
+}
+
+std::size_t heapOfWindow(int homes) {
+    Running program(homes);
+    program.close(program.open(u"frmHomesOwned"_s));
+    const std::size_t before = mallinfo2().uordblks + mallinfo2().hblkhd;
+    program.open(u"frmHomesOwned"_s);
+    return mallinfo2().uordblks + mallinfo2().hblkhd - before;
+}
+
+/// How many widgets of each kind a window has.
+struct Census {
+    int labels = 0, lines = 0, memos = 0, combos = 0, checks = 0, buttons = 0, groups = 0, tools = 0;
+
+    explicit Census(const QWidget& window) {
+        labels = count<QLabel>(window);
+        lines = count<QLineEdit>(window);
+        memos = count<QPlainTextEdit>(window);
+        combos = count<QComboBox>(window);
+        checks = count<QCheckBox>(window);
+        buttons = count<QPushButton>(window);
+        groups = count<QGroupBox>(window);
+        tools = count<QToolButton>(window);
+    }
+
+    [[nodiscard]] QWidget* bareWindow() const {
+        auto* window = new QWidget;
+        auto* grid = new QGridLayout(window);
+        int place = 0;
+        const auto add = [&](QWidget* widget) {
+            grid->addWidget(widget, place / 4, place % 4);
+            ++place;
+        };
+        for (int i = 0; i < labels; ++i)
+            add(new QLabel(u"Label:"_s));
+        for (int i = 0; i < lines - combos; ++i)
+            add(new QLineEdit);
+        for (int i = 0; i < memos; ++i)
+            add(new QPlainTextEdit);
+        for (int i = 0; i < combos; ++i) {
+            auto* combo = new QComboBox;
+            combo->setEditable(true);
+            add(combo);
+        }
+        for (int i = 0; i < checks; ++i)
+            add(new QCheckBox(u"Check"_s));
+        for (int i = 0; i < buttons; ++i)
+            add(new QPushButton(u"Button"_s));
+        for (int i = 0; i < groups; ++i)
+            add(new QGroupBox(u"Group"_s));
+        for (int i = 0; i < tools; ++i)
+            add(new QToolButton);
+        return window;
+    }
+
+private:
+    template <class Widget>
+    static int count(const QWidget& window) {
+        return static_cast<int>(window.findChildren<Widget*>().size());
+    }
+};
+
+double openBare(const Census& census) {
+    QMainWindow frame;
+    auto* area = new QMdiArea;
+    frame.setCentralWidget(area);
+    frame.resize(1200, 800);
+    frame.show();
+    QApplication::processEvents();
+    return best([&] {
+        QMdiSubWindow* window = area->addSubWindow(census.bareWindow());
+        window->showMaximized();
+        QApplication::processEvents();
+        delete window;
+    });
+}
+
+void openEveryScreenOverTenRows() {
+    Running program(fewRows);
+    double worst = 0;
+    double worstOurs = 0;
+    double worstBare = 1;
+    QString name;
+    for (const screens::ScreenDefinition& screen : screens::ownedScreens()) {
+        session::DataWindow& window = program.open(screen.name);
+        const Census census(window);
+        program.close(window);
+        const double ours = best([&] { program.close(program.open(screen.name)); });
+        const double bare = openBare(census);
+        if (ours / bare <= worst) continue;
+        worst = ours / bare;
+        worstOurs = ours;
+        worstBare = bare;
+        name = screen.name;
+    }
+    report(qPrintable(u"opening over ten rows, worst: "_s + name), "ms", worstOurs, worstBare, 2);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    openAndMoveOverManyRows();
+    const double megabytes =
+        (static_cast<double>(heapOfWindow(manyRows)) - static_cast<double>(heapOfWindow(fewRows))) / 1048576;
+    std::printf("%-42s %.2f MB (limit 20)\n", "memory over the window with ten rows", megabytes);
+    withinAll = withinAll && megabytes <= 20;
+    openEveryScreenOverTenRows();
+    return withinAll ? 0 : 1;
+}

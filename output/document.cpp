@@ -1,0 +1,37 @@
+#include "output/document.h"
+
+#include "output/field_entry.h"
+#include "output/printable_screen.h"
+#include "platform/base/date_text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+namespace {
+
+const QString lineEnd = u"\r\n"_s;
+constexpr int emptyLinesAtHead = 6;
+
+QString document(const PrintableScreen& screen, const QDate& today, Medium medium) {
+    QString text = u"     The "_s + screen.caption + lineEnd;
+    text += u"     For "_s + platform::mediumDate(today) + lineEnd + lineEnd;
+    for (const PrintableField& field : screen.fields)
+        text += fieldEntry(field, medium);
+    const QString margin(medium == Medium::Page ? 6 : 5, u' ');
+    for (const PrintableCheck& check : screen.checks)
+        text += margin + check.caption + u" - "_s + (check.isSet ? u"Yes"_s : u"No"_s) + lineEnd;
+    return text + lineEnd;
+}
+
+}  // namespace
+
+QString pageDocument(const PrintableScreen& screen, const QDate& today) {
+    return lineEnd.repeated(emptyLinesAtHead) + document(screen, today, Medium::Page);
+}
+
+QString fileDocument(const PrintableScreen& screen, const QDate& today) {
+    return document(screen, today, Medium::File);
+}
+
+}  // namespace output

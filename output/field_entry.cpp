@@ -1,0 +1,111 @@
+#include "output/field_entry.h"
+
+#include "output/printable_screen.h"
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+namespace {
+
+constexpr qsizetype pageWidth = 80;
+/// The first line may run five characters beyond the page's width.
+constexpr qsizetype firstLineWidth = 85;
+/// How far back from the end of a line a blank is looked for.
+constexpr qsizetype blankReach = 20;
+
+const QString lineEnd = u"\r\n"_s;
+
+/// A value by positions that count from 1.
+class Value {
+public:
+    explicit Value(const QString& text) : text_(text) {}
+
+    [[nodiscard]] qsizetype length() const { return text_.size(); }
+    /// Position of the first line end from a position on; 0 for none.
+    [[nodiscard]] qsizetype lineEndFrom(qsizetype start) const { return text_.indexOf(lineEnd, start - 1) + 1; }
+    [[nodiscard]] bool hasBlankAt(qsizetype position) const {
+        return position >= 1 && position <= length() && text_.at(position - 1) == u' ';
+    }
+    /// The characters from one position through another; empty when they are the wrong way round.
+    [[nodiscard]] QString through(qsizetype start, qsizetype end) const {
+        return end < start ? QString() : text_.mid(start - 1, end - start + 1);
+    }
+    /// The position, or the one before where a cut behind it would go through a character of two units.
+    [[nodiscard]] qsizetype wholeCharacter(qsizetype position) const {
+        const bool cuts = position >= 1 && position < length() && text_.at(position - 1).isHighSurrogate() &&
+                          text_.at(position).isLowSurrogate();
+        return cuts ? position - 1 : position;
+    }
+
+private:
+    const QString& text_;
+};
+
+struct Break {
+    qsizetype end = 0;
+    bool isLineEnd = false;  ///< the piece ends in the CR of the value's own line end
+};
+
+Break breakFor(const Value& value, qsizetype start, qsizetype end) {
+    const qsizetype hard = value.lineEndFrom(start);
+    if (hard > 0 && hard < end) return {hard, true};
+    for (qsizetype at = end; at >= end - blankReach; --at) {
+        // Behind so long a label nothing fits: the value begins on the next line.
+        if (at < 1 && end < blankReach) return {0, false};
+        if (value.hasBlankAt(at)) return {at, false};
+    }
+    return {value.wholeCharacter(end), false};
+}
+
+QString shortEntry(const Value& value, const QString& prefix, const QString& indent, Medium medium) {
+    const qsizetype first = value.lineEndFrom(1);
+    if (first == 0) return prefix + value.through(1, value.length()) + lineEnd + u"     "_s;
+    QString entry = prefix + value.through(1, first);
+    if (medium == Medium::File) entry += lineEnd;
+    qsizetype start = first + 2;
+    for (qsizetype next = value.lineEndFrom(start); next > 0; next = value.lineEndFrom(start)) {
+        entry += indent + value.through(start, next);
+        start = next + 2;
+    }
+    if (start < value.length()) {
+        entry += indent + value.through(start, value.wholeCharacter(value.length() - 1));
+        if (medium == Medium::Page) entry += lineEnd;
+    }
+    return entry;
+}
+
+QString longEntry(const Value& value, const QString& prefix, const QString& indent) {
+    QString entry = prefix;
+    qsizetype start = 1;
+    qsizetype end = firstLineWidth - prefix.size();
+    for (bool isFirst = true; start < value.length(); isFirst = false) {
+        const Break piece = breakFor(value, start, end);
+        if (!isFirst) entry += indent;
+        entry += value.through(start, piece.end);
+        if (piece.isLineEnd) {
+            start = piece.end + 2;
+        } else {
+            entry += lineEnd;
+            start = piece.end + 1;
+            while (value.hasBlankAt(start))
+                ++start;
+        }
+        // Counted from where this line ended, so the blanks that were skipped make the next one shorter.
+        end = piece.end + pageWidth;
+    }
+    return entry;
+}
+
+}  // namespace
+
+QString fieldEntry(const PrintableField& field, Medium medium) {
+    const int number = field.index + 1;
+    const QString prefix = u"      %1.  "_s.arg(number) + field.label + u" - "_s;
+    const QString indent(number < 10 ? 10 : 11, u' ');
+    const Value value(field.value);
+    const bool fits = value.length() < pageWidth - prefix.size();
+    return (fits ? shortEntry(value, prefix, indent, medium) : longEntry(value, prefix, indent)) + lineEnd;
+}
+
+}  // namespace output

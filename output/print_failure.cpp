@@ -1,0 +1,24 @@
+#include "output/print_failure.h"
+
+#include "platform/base/runtime_error.h"
+#include "platform/forms/desktop.h"
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+void attemptPrint(platform::Desktop& desktop, const QString& title, const std::function<void()>& routine) {
+    constexpr int printerError = 482;
+    try {
+        routine();
+    } catch (const platform::RuntimeError& error) {
+        if (error.number() != printerError) {
+            desktop.notice(error.report(), title, platform::Icon::Critical);
+            return;
+        }
+        desktop.notice(u"No printer is configured for this computer so you will not be able to print anything."_s,
+                       u"No Printer"_s, platform::Icon::Information);
+    }
+}
+
+}  // namespace output

@@ -1,0 +1,86 @@
+#include "output/record_output.h"
+
+#include "output/document.h"
+#include "output/print_failure.h"
+#include "output/printable_screen.h"
+#include "platform/base/clock.h"
+#include "platform/base/files.h"
+#include "platform/base/text_writer.h"
+#include "platform/forms/desktop.h"
+#include "platform/print/print_device.h"
+#include "platform/print/printer.h"
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+namespace {
+
+constexpr double fontSize = 10;
+
+platform::FileRequest saveRequest(const QString& folder, bool asksForText) {
+    platform::FileRequest request{.mode = platform::FileRequest::Mode::Save, .folder = folder, .title = u"Save As"_s};
+    if (asksForText) {
+        request.filterText = u"Text File (*.txt)"_s;
+        request.filterPattern = u"*.txt"_s;
+        request.suffix = u"txt"_s;
+    }
+    return request;
+}
+
+}  // namespace
+
+void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen) {
+    attemptPrint(desktop, u"CreatePrintDoc Error"_s, [&] {
+        const QString document = pageDocument(screen, platform::systemClock().today());
+        platform::Printer printer(platform::printDevice());
+        printer.setFontName(u"Courier New"_s);
+        printer.setFontBold(true);
+        printer.setFontSize(fontSize);
+        printer.print(document);
+        printer.endDoc();
+    });
+}
+
+QString createFileDoc(const PrintableScreen& screen) {
+    return fileDocument(screen, platform::systemClock().today());
+}
+
+void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
+              const std::function<PrintableScreen()>& screen) {
+    desktop.attempt(u"SaveFile Error"_s, [&] {
+        const QString name = desktop.dialogs().fileDialog(saveRequest(applicationFolder, true));
+        if (platform::files::nameOf(name) == "SplashDef.txt"_L1) {
+            desktop.notice(
+                u"SplashDef.txt is a protected file.  You are not allowed to overwrite it.  Select a different "
+                "filename and you will be able to save your file and proceed."_s,
+                u"Protected File"_s, platform::Icon::Information);
+            return;
+        }
+        if (name.isEmpty()) {
+            desktop.notice(u"No filename was specified.  No file was saved."_s, u"No Filename"_s,
+                           platform::Icon::Information);
+            return;
+        }
+        const QString document = createFileDoc(screen());
+        platform::files::TextWriter file(name);
+        file.writeLine(document);
+        file.close();
+    });
+}
+
+void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const RecordWalk& walk,
+             const std::function<PrintableScreen()>& screen) {
+    desktop.attempt(u"SaveAll Error"_s, [&] {
+        const QString name = desktop.dialogs().fileDialog(saveRequest(request.folder, request.asksForText));
+        if (name.isEmpty()) {
+            desktop.notice(request.noFileText, request.noFileTitle, platform::Icon::Information);
+            return;
+        }
+        platform::files::TextWriter file(name);
+        walk([&] { file.writeLine(createFileDoc(screen()) + u"\r\n\r\n"_s); });
+        file.close();
+    });
+}
+
+}  // namespace output

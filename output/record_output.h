@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace platform {
+class Desktop;
+}
+
+namespace output {
+
+struct PrintableScreen;
+
+/// Prints a record as a job of its own. Failures are shown, the missing printer with a box of its own.
+void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen);
+
+/// The text of a record for a file.
+[[nodiscard]] QString createFileDoc(const PrintableScreen& screen);
+
+/// Asks for a file and writes the record into it, over an existing one without a question. The definition file's name
+/// is refused in any folder. Failures are shown.
+void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
+              const std::function<PrintableScreen()>& screen);
+
+/// How a screen asks where all its records go.
+struct SaveAllRequest {
+    QString folder;            ///< where the dialog starts
+    bool asksForText = false;  ///< text files alone are offered, and their ending is added
+    QString noFileTitle;
+    QString noFileText;
+};
+
+/// Calls `visit` with each record on screen, from the first through the last.
+using RecordWalk = std::function<void(const std::function<void()>& visit)>;
+
+/// Asks for a file and writes the records of the walk into it, each on its way, with two empty lines behind it.
+/// A failure is shown and leaves the file as far as it was written.
+void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const RecordWalk& walk,
+             const std::function<PrintableScreen()>& screen);
+
+}  // namespace output

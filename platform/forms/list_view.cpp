@@ -1,0 +1,62 @@
+#include "platform/forms/list_view.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMenu>
+#include <QMouseEvent>
+
+#include "platform/base/runtime_error.h"
+
+namespace platform {
+
+ListView::ListView(const QList<Header>& headers, QWidget* parent) : QTreeWidget(parent) {
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(SingleSelection);
+    setExpandsOnDoubleClick(false);
+    setColumnCount(static_cast<int>(headers.size()));
+    for (int column = 0; column < columnCount(); ++column) {
+        headerItem()->setText(column, headers[column].text);
+        setColumnWidth(column, headers[column].width);
+    }
+}
+
+void ListView::add(const QStringList& texts) {
+    auto* item = new QTreeWidgetItem(this, texts);
+    if (count() == 1) setCurrentItem(item);
+}
+
+void ListView::selectItem(int row) {
+    if (QTreeWidgetItem* item = topLevelItem(row)) setCurrentItem(item);
+}
+
+QString ListView::selectedText(int column) const {
+    if (!currentItem()) throw RuntimeError(91);
+    return currentItem()->text(column);
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && doubleClicked_) doubleClicked_();
+}
+
+void ListView::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton && popup_) popup_->popup(event->globalPosition().toPoint());
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent* event) {
+    // The mouse brings the menu up when its button is let go; here it is the keyboard's menu key.
+    if (event->reason() != QContextMenuEvent::Keyboard || !popup_) return;
+    popup_->popup(viewport()->mapToGlobal(visualItemRect(currentItem()).bottomLeft()));
+}
+
+QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+    // A click with Ctrl would take the highlight off the item that the buttons still act on.
+    if (!index.isValid()) return QItemSelectionModel::NoUpdate;
+    if (!event) return QTreeWidget::selectionCommand(index, event);
+    return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
+}  // namespace platform

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace session {
+struct Definition;
+}
+
+namespace screens {
+
+struct CoverPage {
+    QString heading1{};
+    QString subHeading1{};
+    QString heading2{};
+    QString subHeading2{};
+    QString date{};
+};
+
+/// Prints the cover as one page of centred lines, with the company's address at its foot. Throws 482 without a printer.
+void printCoverPage(const CoverPage& cover, const session::Definition& company);
+
+}  // namespace screens

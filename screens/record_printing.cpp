@@ -1,0 +1,72 @@
+// What record screens put on paper and into text files.
+
+#include <QLabel>
+
+#include "output/printable_screen.h"
+#include "output/record_output.h"
+#include "platform/forms/check_box.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/text_control.h"
+#include "screens/record_screen.h"
+#include "session/refusals.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace screens {
+
+output::PrintableScreen RecordScreen::printable() {
+    output::PrintableScreen screen;
+    screen.caption = caption();
+    for (const auto& [index, text] : boxes_.texts())
+        screen.fields.push_back({index, text.label->text(), text.box->text()});
+    for (const FieldBoxes::Check& check : boxes_.checks())
+        screen.checks.push_back({check.box->text(), check.box->value() != 0});
+    return screen;
+}
+
+void RecordScreen::printRecord() {
+    output::createPrintDoc(desktop(), printable());
+}
+
+void RecordScreen::mPrintAll_Click() {
+    if (bChange) {
+        session::showScreenChanges(desktop());
+        return;
+    }
+    walkAll([this] { printRecord(); });
+}
+
+void RecordScreen::mSave_Click() {
+    output::saveFile(desktop(), session().applicationFolder, [this] { return printable(); });
+}
+
+void RecordScreen::mSaveAll_Click() {
+    if (bChange) {
+        session::showScreenChanges(desktop());
+        return;
+    }
+    output::saveAll(
+        desktop(), saveAllRequest(), [this](const std::function<void()>& visit) { walkAll(visit); },
+        [this] { return printable(); });
+}
+
+output::SaveAllRequest RecordScreen::saveAllRequest() {
+    return {.folder = session().applicationFolder,
+            .noFileTitle = u"No File Specified"_s,
+            .noFileText = u"No file was specified.  No file was saved."_s};
+}
+
+void RecordScreen::walkAll(const std::function<void()>& visit) {
+    bLastRecord_ = false;
+    cmdFirst_Click();
+    bool goesOn = true;
+    while (goesOn) {
+        visit();
+        // A screen without rows never comes to its last one, nor does one whose rows can't be read any more.
+        goesOn = cmdNext_Click() && !bLastRecord_ && rows_.recordCount() > 0;
+    }
+    cmdFirst_Click();
+}
+
+}  // namespace screens

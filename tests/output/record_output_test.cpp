@@ -1,0 +1,226 @@
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+
+#include "tests/support/household.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class RecordOutput : public support::Household {
+protected:
+    void startWith(const QStringList& members) {
+        addMembers(members);
+        user.start();
+        user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    }
+    QString saved(const QString& name) {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : u"no file"_s;
+    }
+    void save(const QString& key, const QString& name) {
+        user.tool(key);
+        user.choose(path(name));
+    }
+    /// Texts of a job's lines.
+    static QStringList lines(const QJsonValue& job) {
+        QStringList texts;
+        const QJsonArray pages = job.toArray();
+        for (const QJsonValue& page : pages) {
+            const QJsonArray printed = page.toArray();
+            for (const QJsonValue& line : printed)
+                texts << line["text"_L1].toString();
+        }
+        return texts;
+    }
+};
+
+TEST_F(RecordOutput, PrintsTheRecordOnScreen) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s});
+    user.setPrinter(path(u"record.pdf"_s));
+    user.click(u"cmdNext"_s);
+    user.tool(u"tbPrint"_s);
+    const QJsonArray jobs = user.jobs();
+    ASSERT_EQ(jobs.size(), 1);
+    const QStringList text = lines(jobs[0]);
+    EXPECT_EQ(text.mid(0, 6), QStringList(6, QString()));
+    EXPECT_TRUE(text[6].startsWith(u"     The "_s)) << text[6].toStdString();
+    EXPECT_TRUE(text[9].startsWith(u"      1.  "_s)) << text[9].toStdString();
+    EXPECT_TRUE(text[9].endsWith(u" - Bob Larkin"_s)) << text[9].toStdString();
+    const QJsonValue line = jobs[0][0][9];
+    EXPECT_EQ(line["font"_L1].toString(), u"Courier New"_s);
+    EXPECT_TRUE(line["bold"_L1].toBool());
+    EXPECT_EQ(line["size"_L1].toDouble(), 10);
+    EXPECT_EQ(line["x"_L1].toDouble(), 0);
+    EXPECT_DOUBLE_EQ(line["y"_L1].toDouble(), 9 * 226.5625);
+    EXPECT_TRUE(saved(u"record.pdf"_s).startsWith(u"%PDF"_s));
+    EXPECT_TRUE(user.jobs().isEmpty());
+}
+
+TEST_F(RecordOutput, PrintAllMakesAJobOfEachRecordAndEndsOnTheFirst) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s});
+    user.menu(u"mPrintAll"_s);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(dismissBox(), u"No Printer"_s);
+    EXPECT_EQ(boxTitle(), u""_s);
+    user.setPrinter(path(u"all.pdf"_s));
+    user.click(u"cmdLast"_s);
+    user.menu(u"mPrintAll"_s);
+    const QJsonArray jobs = user.jobs();
+    ASSERT_EQ(jobs.size(), 3);
+    EXPECT_TRUE(lines(jobs[2])[9].endsWith(u"Cy Larkin"_s));
+    EXPECT_EQ(status(), u"Record: 1 of 3"_s);
+}
+
+TEST_F(RecordOutput, ChangesKeepAllRecordsFromBeingWritten) {
+    startWith({u"Ann Larkin"_s});
+    user.setPrinter(path(u"all.pdf"_s));
+    user.click(u"txtFields(3)"_s);
+    user.type(u"Q"_s);
+    for (const QString& key : {u"tbPrintAll"_s, u"tbSaveAll"_s}) {
+        user.tool(key);
+        EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
+        EXPECT_EQ(boxTitle(), u""_s);
+    }
+    EXPECT_TRUE(user.jobs().isEmpty());
+    user.tool(u"tbPrint"_s);
+    EXPECT_EQ(user.jobs().size(), 1);
+}
+
+TEST_F(RecordOutput, SavesTheRecordOverAnyFileButTheProtectedOne) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s});
+    const QString definition = saved(u"SplashDef.txt"_s);
+    save(u"tbSave"_s, u"SplashDef"_s);
+    EXPECT_EQ(dismissBox(), u"Protected File"_s);
+    EXPECT_EQ(saved(u"SplashDef.txt"_s), definition);
+    user.tool(u"tbSave"_s);
+    EXPECT_EQ(user.dialog()["title"_L1].toString(), u"Save As"_s);
+    user.cancel();
+    EXPECT_EQ(dismissBox(), u"No Filename"_s);
+    writeFile(u"splashdef.txt"_s, QByteArray(100'000, 'x'));
+    save(u"tbSave"_s, u"splashdef.txt"_s);
+    const QString text = saved(u"splashdef.txt"_s);
+    EXPECT_TRUE(text.startsWith(u"     The "_s));
+    EXPECT_TRUE(text.contains(u" - Ann Larkin\r\n     \r\n      2.  "_s));
+    EXPECT_TRUE(text.endsWith(u"\r\n\r\n\r\n"_s));
+    EXPECT_FALSE(text.contains(u"xxx"_s));
+}
+
+TEST_F(RecordOutput, SaveAllWritesOneDocumentBehindTheOther) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s});
+    user.tool(u"tbSaveAll"_s);
+    user.cancel();
+    EXPECT_EQ(dismissBox(), u"No File Name"_s);
+    save(u"tbSave"_s, u"ann.txt"_s);
+    user.click(u"cmdNext"_s);
+    save(u"tbSave"_s, u"bob.txt"_s);
+    save(u"tbSaveAll"_s, u"all"_s);
+    const QString between = u"\r\n\r\n"_s;
+    EXPECT_EQ(saved(u"all.txt"_s), saved(u"ann.txt"_s) + between + saved(u"bob.txt"_s) + between);
+    EXPECT_EQ(status(), u"Record: 1 of 2"_s);
+}
+
+TEST_F(RecordOutput, AScreenWithAnOwnerAddsNoEndingToTheName) {
+    addMembers({u"Ann Larkin"_s});
+    exec(u"INSERT INTO HomeOwned (PersonID, Description, State) VALUES (1, 'Cabin', 'Vermont')"_s);
+    exec(u"INSERT INTO HomeOwned (PersonID, Description) VALUES (1, 'Flat')"_s);
+    user.start();
+    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    openNode(u"Home"_s);
+    ASSERT_EQ(status(), u"Record: 1 of 2"_s);
+    user.tool(u"tbSaveAll"_s);
+    user.cancel();
+    EXPECT_EQ(dismissBox(), u"No File Specified"_s);
+    save(u"tbSaveAll"_s, u"homes"_s);
+    const QString text = saved(u"homes"_s);
+    EXPECT_TRUE(text.contains(u" - Ann Larkin\r\n"_s));
+    EXPECT_TRUE(text.contains(u" - Cabin\r\n"_s));
+    EXPECT_TRUE(text.contains(u" - Vermont\r\n"_s));
+    EXPECT_LT(text.indexOf(u" - Cabin\r\n"_s), text.indexOf(u" - Flat\r\n"_s));
+}
+
+TEST_F(RecordOutput, TellsWhyAFileCanNotBeWritten) {
+    startWith({u"Ann Larkin"_s});
+    QDir(path({})).mkdir(u"folder"_s);
+    writeFile(u"locked.txt"_s, "kept");
+    QFile::setPermissions(path(u"locked.txt"_s), QFile::ReadOwner);
+    struct {
+        QString file, report;
+    } const table[] = {{u"missing/a.txt"_s, u"76 - Path not found"_s},
+                       {u"folder"_s, u"70 - Permission denied"_s},
+                       {u"locked.txt"_s, u"70 - Permission denied"_s}};
+    for (const auto& row : table) {
+        save(u"tbSave"_s, row.file);
+        EXPECT_EQ(boxText(), row.report);
+        EXPECT_EQ(dismissBox(), u"SaveFile Error"_s);
+        save(u"tbSaveAll"_s, row.file);
+        EXPECT_EQ(boxText(), row.report);
+        EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
+    }
+    EXPECT_EQ(saved(u"locked.txt"_s), u"kept"_s);
+}
+
+TEST_F(RecordOutput, AFullDiskEndsTheSave) {
+    QDir(path({})).mkdir(u"disk"_s);
+    const QByteArray disk = QFile::encodeName(path(u"disk"_s));
+    if (::mount("none", disk.constData(), "tmpfs", 0, "size=4096k") != 0) GTEST_SKIP() << "may not mount";
+    const auto unmounted = qScopeGuard([&] { ::umount(disk.constData()); });
+    QFile filler(path(u"disk/filler"_s));
+    ASSERT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(4096, 'x')) == 4096)
+        continue;
+    startWith({u"Ann Larkin"_s});
+    save(u"tbSaveAll"_s, u"disk/all.txt"_s);
+    EXPECT_EQ(boxText(), u"61 - Disk full"_s);
+    EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
+    EXPECT_EQ(boxTitle(), u""_s);
+}
+
+TEST_F(RecordOutput, ACharacterOutsideTheCodePageIsRefused) {
+    startWith({u"Łarkin"_s});
+    save(u"tbSave"_s, u"a.txt"_s);
+    EXPECT_EQ(boxText(), u"5 - Invalid procedure call or argument"_s);
+    EXPECT_EQ(dismissBox(), u"SaveFile Error"_s);
+}
+
+TEST_F(RecordOutput, TheCoverPageIsCentredAndHasTheCompanyAtItsFoot) {
+    writeFile(u"SplashDef.txt"_s,
+              "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nCompany=Larkmoor Ltd\r\nAddress=1 Hill\r\nCity=Barre\r\n"
+              "State=VT\r\nZip=05641\r\nPhone=555\r\nValue=\r\nSplash=1\r\n");
+    exec(
+        u"INSERT INTO CoverPage (Heading1, SubHeading1, Heading2, SubHeading2, Date) VALUES "
+        "('Our Records', 'Kept well', 'Second', 'Sub', 'May 2026')"_s);
+    startWith({u"Ann Larkin"_s});
+    user.menu(u"mCoverPage"_s);
+    user.tool(u"tbPrint"_s);
+    EXPECT_EQ(dismissBox(), u"No Printer"_s);
+    user.setPrinter(path(u"cover.pdf"_s));
+    user.tool(u"tbPrint"_s);
+    const QJsonArray jobs = user.jobs();
+    ASSERT_EQ(jobs.size(), 1);
+    ASSERT_EQ(jobs[0].toArray().size(), 1);
+    QStringList texts;
+    const QJsonArray page = jobs[0][0].toArray();
+    for (const QJsonValue& line : page) {
+        const QString text = line["text"_L1].toString();
+        if (text.isEmpty()) continue;
+        const double size = line["size"_L1].toDouble();
+        EXPECT_DOUBLE_EQ(line["x"_L1].toDouble(), 11520 / 2.0 - static_cast<double>(text.size()) * size * 6);
+        if (text == u"Our Records"_s) {
+            EXPECT_EQ(line["y"_L1].toDouble(), 1440);
+        }
+        if (text == u"Larkmoor Ltd"_s) {
+            EXPECT_EQ(line["y"_L1].toDouble(), 13400);
+        }
+        EXPECT_EQ(line["italic"_L1].toBool(), size == 10);
+        texts << u"%1 %2"_s.arg(size).arg(text);
+    }
+    EXPECT_EQ(texts, (QStringList{u"18 Our Records"_s, u"14 Kept well"_s, u"12 May 2026"_s, u"14 Second"_s, u"12 Sub"_s,
+                                  u"10 Larkmoor Ltd"_s, u"10 1 Hill"_s, u"10 Barre, VT 05641"_s, u"10 555"_s}));
+}
+
+}  // namespace

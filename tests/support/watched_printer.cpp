@@ -1,0 +1,82 @@
+#include "tests/support/watched_printer.h"
+
+#include <QFileInfo>
+#include <QJsonObject>
+#include <QPdfWriter>
+#include <utility>
+
+#include "platform/base/runtime_error.h"
+#include "platform/print/job_painter.h"
+
+using namespace Qt::StringLiterals;
+
+namespace support {
+
+namespace {
+
+constexpr int noPrinter = 482;
+constexpr int resolution = 1200;
+/// Points that a household printer can't reach at each edge.
+constexpr double margin = 18;
+
+const QPageLayout& letter() {
+    static const QPageLayout layout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
+                                    QMarginsF(margin, margin, margin, margin));
+    return layout;
+}
+
+QJsonObject described(const platform::PrintedLine& line) {
+    return {
+        {u"x"_s, line.x},       {u"y"_s, line.y},           {u"text"_s, line.text}, {u"font"_s, line.font},
+        {u"bold"_s, line.bold}, {u"italic"_s, line.italic}, {u"size"_s, line.size}, {u"underline"_s, line.underline}};
+}
+
+QJsonArray described(const platform::PrintJob& job) {
+    QJsonArray pages;
+    for (const platform::PrintedPage& page : job) {
+        QJsonArray lines;
+        for (const platform::PrintedLine& line : page)
+            lines.append(described(line));
+        pages.append(lines);
+    }
+    return pages;
+}
+
+}  // namespace
+
+void WatchedPrinter::use(const QString& file) {
+    file_ = file == "none"_L1 ? QString() : file;
+    sent_ = 0;
+}
+
+QJsonArray WatchedPrinter::takeJobs() {
+    QJsonArray jobs;
+    for (const platform::PrintJob& job : std::exchange(jobs_, {}))
+        jobs.append(described(job));
+    return jobs;
+}
+
+platform::PageArea WatchedPrinter::page() {
+    if (file_.isEmpty()) throw platform::RuntimeError(noPrinter);
+    const QRectF sheet = letter().fullRect(QPageLayout::Point);
+    const QRectF printable = letter().paintRect(QPageLayout::Point);
+    constexpr double twips = 20;
+    return {sheet.width() * twips, sheet.height() * twips, printable.width() * twips, printable.height() * twips};
+}
+
+QString WatchedPrinter::nextFile() {
+    if (++sent_ == 1) return file_;
+    const QFileInfo first(file_);
+    return u"%1/%2-%3.pdf"_s.arg(first.path(), first.completeBaseName()).arg(sent_);
+}
+
+void WatchedPrinter::send(const platform::PrintJob& job) {
+    if (file_.isEmpty()) throw platform::RuntimeError(noPrinter);
+    QPdfWriter writer(nextFile());
+    writer.setResolution(resolution);
+    writer.setPageLayout(letter());
+    platform::paintJob(writer, job);
+    jobs_.push_back(job);
+}
+
+}  // namespace support
