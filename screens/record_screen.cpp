@@ -9,13 +9,13 @@
 
 #include "platform/base/conversions.h"
 #include "platform/base/date_text.h"
-#include "platform/base/runtime_error.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/command_button.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/key_codes.h"
 #include "platform/forms/text_control.h"
+#include "screens/clipboard_commands.h"
 #include "screens/field_checks.h"
 #include "screens/frame_layout.h"
 #include "session/refusals.h"
@@ -23,7 +23,6 @@
 #include "session/workspace.h"
 
 using namespace Qt::StringLiterals;
-using platform::RuntimeError;
 
 namespace screens {
 
@@ -89,9 +88,9 @@ RecordCommands RecordScreen::commands() {
     RecordCommands commands;
     commands.coverPage = handler([this] { workspace().showCoverPage(); });
     commands.exit = handler([this] { workspace().exitProgram(); });
-    commands.copy = handler([this] { copySelection(false); });
-    commands.cut = handler([this] { copySelection(true); });
-    commands.paste = handler([this] { pasteSelection(); });
+    commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
+    commands.cut = handler([this] { copySelection(*this, Copy::Cut); });
+    commands.paste = handler([this] { pasteSelection(*this); });
     commands.attachments = handler([this] { mAttachments_Click(); });
     commands.print = handler([this] { mPrint_Click(); });
     commands.printAll = handler([this] { mPrintAll_Click(); });
@@ -131,10 +130,6 @@ void RecordScreen::makeKeyBox() {
 
 void RecordScreen::openRows(const QString& statement) {
     rows_.open(statement, session().gConnection, data::CursorType::Static, data::LockType::Optimistic);
-}
-
-void RecordScreen::bindBoxes() {
-    boxes_.bind(&rows_);
 }
 
 void RecordScreen::fillStateCombos() {
@@ -413,10 +408,6 @@ void RecordScreen::showPosition() {
     buttons_->status().setText(u"Record: %1 of %2"_s.arg(rows_.absolutePosition()).arg(rows_.recordCount()));
 }
 
-QString RecordScreen::moveCompleteTitle() const {
-    return u"MoveComplete Error"_s;
-}
-
 // Close ------------------------------------------------------------------------------------------------------------
 
 void RecordScreen::cmdClose_Click() {
@@ -472,29 +463,6 @@ bool RecordScreen::validates(int box) {
         if (check.box == box) return passes(desktop(), boxes_.text(box), check.check, boxes_.label(box));
     }
     return true;
-}
-
-void RecordScreen::cbFields_Click() {
-    boxes_.copyShadows();
-}
-
-void RecordScreen::copySelection(bool cut) {
-    auto* box = dynamic_cast<platform::TextControl*>(activeInput());
-    if (!box) throw RuntimeError(438);
-    desktop().setClipboardText(box->selText());
-    if (cut) box->setSelText(QString());
-}
-
-void RecordScreen::pasteSelection() {
-    auto* box = dynamic_cast<platform::TextControl*>(activeInput());
-    if (!box) throw RuntimeError(438);
-    box->setSelText(desktop().clipboardText());
-}
-
-platform::Control* RecordScreen::activeInput() {
-    platform::Control* active = activeControl();
-    if (!active) throw RuntimeError(91);
-    return active;
 }
 
 // What the screen shows of its state -------------------------------------------------------------------------------

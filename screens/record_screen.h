@@ -45,7 +45,7 @@ public:
 protected:
     // Load, in the steps that the kinds of screens string together.
     void openRows(const QString& statement);
-    void bindBoxes();
+    void bindBoxes() { boxes_.bind(&rows_); }
     void fillStateCombos();
     void showStateCombos();
     /// A screen without rows begins in an add.
@@ -93,7 +93,7 @@ protected:
     virtual void goLast();
     void showPosition();
     /// Title under which a failure to show the position is reported.
-    [[nodiscard]] virtual QString moveCompleteTitle() const;
+    [[nodiscard]] virtual QString moveCompleteTitle() const { return QStringLiteral("MoveComplete Error"); }
 
     virtual void cmdClose_Click();
     /// Asks where there is something to lose; false if the window stays.
@@ -102,7 +102,7 @@ protected:
     // Checks and aids at the boxes.
     [[nodiscard]] virtual bool validates(int box);
     [[nodiscard]] virtual bool validatesCombos() { return true; }
-    virtual void cbFields_Click();
+    virtual void cbFields_Click() { boxes_.copyShadows(); }
 
     /// Shows the files of the record on screen.
     virtual void mAttachments_Click();
@@ -153,10 +153,6 @@ private:
     void walkAll(const std::function<void()>& visit);
     void writeCombos();
     void writeDates();
-    void copySelection(bool cut);
-    void pasteSelection();
-    /// The control that the clipboard commands work on; throws 91 when none has the focus.
-    [[nodiscard]] platform::Control* activeInput();
 
     const ScreenDefinition& definition_;
     data::Recordset rows_;
