@@ -68,7 +68,7 @@ void Desktop::retire(Form& form) {
     std::unique_ptr<Form> held = std::move(*place);
     forms_.erase(place);
     form.window().hide();
-    held.release()->window().deleteLater();
+    held.release()->destroyLater();
     if (forms_.empty()) Q_EMIT emptied();
 }
 

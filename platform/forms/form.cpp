@@ -39,6 +39,10 @@ void Form::leave() {
     desktop_.retire(*this);
 }
 
+void Form::destroyLater() {
+    window().deleteLater();
+}
+
 Form* Form::of(QWidget* widget) {
     for (; widget; widget = widget->parentWidget()) {
         if (auto* form = dynamic_cast<Form*>(widget)) return form;

@@ -64,6 +64,8 @@ protected:
     /// thrown.
     [[nodiscard]] std::function<void()> handler(std::function<void()> routine);
     void addMenu(QMenu* menu) { menus_.push_back(menu); }
+    /// Destroys the form, which is unloaded, when nothing of it runs any more.
+    virtual void destroyLater();
 
 private:
     friend class Desktop;

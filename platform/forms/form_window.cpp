@@ -45,6 +45,12 @@ void FormWindow::showModal() {
     modalLoop_ = &loop;
     loop.exec();
     modalLoop_ = nullptr;
+    if (!isLoaded()) destroyLater();
+}
+
+void FormWindow::destroyLater() {
+    // The modal loop still runs in this very object; whoever showed the form may read it until his handler ends.
+    if (!modalLoop_) deleteLater();
 }
 
 void FormWindow::leave() {

@@ -30,6 +30,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void destroyLater() override;
 
 private:
     /// A window that comes up for the first time has the focus in its first control.
