@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "platform/base/date_text.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/memo_box.h"
@@ -126,6 +127,25 @@ void FieldBoxes::bindCombos(platform::RecordSource* rows) {
 
 void FieldBoxes::bindFirstCombo(platform::RecordSource* rows) {
     if (!combos_.empty()) combos_.front().binding->setSource(rows);
+}
+
+void FieldBoxes::writeCombos(platform::RecordSource& rows) const {
+    for (const Combo& combo : combos_)
+        rows.setValue(combo.column.column, combo.box->text());
+}
+
+void FieldBoxes::writeDates(platform::RecordSource& rows) const {
+    for (const DateColumn& date : definition_.dates) {
+        const Text& text = texts_.at(date.box);
+        // Binding shows what the row holds, so the typed text is kept first.
+        const QString typed = text.box->text();
+        text.binding->setSource(&rows);
+        if (platform::isDate(typed)) {
+            rows.setValue(date.column, typed);
+        } else if (typed.isEmpty()) {
+            rows.setValue(date.column, QVariant());
+        }
+    }
 }
 
 void FieldBoxes::fillCombos(const QStringList& states) {

@@ -67,6 +67,11 @@ public:
     void bindCombos(platform::RecordSource* rows);
     /// Binds the first combo alone, as the end of an add does.
     void bindFirstCombo(platform::RecordSource* rows);
+    /// Sets each combo's column to its text.
+    void writeCombos(platform::RecordSource& rows) const;
+    /// Sets each date box's column to its text, or to a null if it is empty, and leaves the box bound. A text that is
+    /// no date writes nothing.
+    void writeDates(platform::RecordSource& rows) const;
     /// Fills the status combo with its own items and every other combo with the names of the states.
     void fillCombos(const QStringList& states);
     /// Tab runs through the boxes in index order, then through the check boxes. To be called when they stand in their

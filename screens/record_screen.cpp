@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "platform/base/conversions.h"
-#include "platform/base/date_text.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/command_button.h"
@@ -225,8 +224,8 @@ void RecordScreen::cmdUpdate_Click() {
     desktop().attempt(u"Update Error"_s, [this] {
         if (!readyToSave()) return;
         prepareSave();
-        writeCombos();
-        writeDates();
+        boxes_.writeCombos(rows_);
+        boxes_.writeDates(rows_);
         rows_.updateBatch();
         if (bAdding_) {
             if (!finishAdd()) return;
@@ -269,25 +268,6 @@ bool RecordScreen::finishAdd() {
     showAfterAdd();
     setAttachKey();
     return true;
-}
-
-void RecordScreen::writeCombos() {
-    for (const FieldBoxes::Combo& combo : boxes_.combos())
-        rows_.setValue(combo.column.column, combo.box->text());
-}
-
-void RecordScreen::writeDates() {
-    for (const DateColumn& date : definition_.dates) {
-        const FieldBoxes::Text& text = boxes_.texts().at(date.box);
-        // Binding shows what the row holds, so the typed text is kept first.
-        const QString typed = text.box->text();
-        text.binding->setSource(&rows_);
-        if (platform::isDate(typed)) {
-            rows_.setValue(date.column, typed);
-        } else if (typed.isEmpty()) {
-            rows_.setValue(date.column, QVariant());
-        }
-    }
 }
 
 // Cancel -----------------------------------------------------------------------------------------------------------

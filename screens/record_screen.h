@@ -151,8 +151,6 @@ private:
     bool move(const QString& errorTitle, void (RecordScreen::*step)());
     /// Shows each record from the first through the last and visits it there, then goes back to the first.
     void walkAll(const std::function<void()>& visit);
-    void writeCombos();
-    void writeDates();
 
     const ScreenDefinition& definition_;
     data::Recordset rows_;
