@@ -71,7 +71,7 @@ void CategoryTree::countNode(int nodeIndex) {
 }
 
 QString CategoryTree::countStatement(int nodeIndex) const {
-    const QString all = u"SELECT Count(*) as NumRec from "_s + nodeTable_.at(static_cast<std::size_t>(nodeIndex));
+    QString all = u"SELECT Count(*) as NumRec from "_s + nodeTable_.at(static_cast<std::size_t>(nodeIndex));
     const bool everybody = session_.gsPersonName == u"Whole Family"_s || session_.gsPersonName == u"Family"_s;
     if (everybody || std::ranges::find(familyNodes, nodeIndex) != familyNodes.end()) return all;
     const QString column = nodeIndex == personNode ? u"ID"_s : u"PersonID"_s;

@@ -55,11 +55,11 @@ Attachment AttachmentStore::storeFile(const QString& source) {
     const QString name = freeName(highest == 0 ? 0 : highest + 1, title);
     files::makeFolder(folder_.chopped(1));
     files::copyFile(source, folder_ + name);
-    const Attachment stored{.fileName = name,
-                            .fileType = lastCharacters(name, extension),
-                            .fileDesc = {},
-                            .oldFileName = title,
-                            .seqNum = highest + 1};
+    Attachment stored{.fileName = name,
+                      .fileType = lastCharacters(name, extension),
+                      .fileDesc = {},
+                      .oldFileName = title,
+                      .seqNum = highest + 1};
     try {
         files::setReadOnly(folder_ + name);
     } catch (const platform::RuntimeError&) {

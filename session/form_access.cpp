@@ -13,9 +13,10 @@ namespace session {
 void setFormAccess(platform::Form& form, bool canEdit) {
     const auto widgets = form.window().findChildren<QWidget*>();
     for (QWidget* widget : widgets) {
+        const QString name = widget->objectName();
         if (auto* text = dynamic_cast<platform::TextControl*>(widget)) {
-            if (widget->objectName().startsWith(u"txtFields("_s)) text->setLocked(!canEdit);
-        } else if (widget->objectName().startsWith(u"chkFields("_s)) {
+            if (name.startsWith(u"txtFields("_s)) text->setLocked(!canEdit);
+        } else if (name.startsWith(u"chkFields("_s)) {
             widget->setEnabled(canEdit);
         }
     }
