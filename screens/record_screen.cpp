@@ -57,6 +57,7 @@ void RecordScreen::layOut() {
     frames->setContentsMargins(9, 0, 9, 0);
     lblAttachments_ = new QLabel(u"Attachments:  0"_s, page);
     lblAttachments_->setObjectName(u"lblAttachments"_s);
+    lblAttachments_->setHidden(definition_.attachmentPrefix.isEmpty());
     layOutFrames(*page, *frames, definition_, boxes_, *lblAttachments_);
     scroll->setWidget(page);
     boxes_.orderTabs();
