@@ -19,6 +19,7 @@ std::optional<ColumnType> typeOf(const SQLite::Statement& statement, int column)
 
 std::vector<ShownColumn> shownColumns(const SQLite::Statement& statement) {
     std::vector<ShownColumn> columns;
+    columns.reserve(static_cast<size_t>(statement.getColumnCount()));
     for (int column = 0; column < statement.getColumnCount(); ++column)
         columns.push_back({QString::fromUtf8(statement.getColumnName(column)), typeOf(statement, column)});
     return columns;

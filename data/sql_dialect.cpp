@@ -43,12 +43,9 @@ void refuseParameters(const QString& statement, const std::vector<SqlToken>& tok
 qsizetype endOfSelect(const std::vector<SqlToken>& tokens, size_t from) {
     int depth = 0;
     for (size_t i = from; i < tokens.size(); ++i) {
-        if (tokens[i].isSymbol(u'('))
-            ++depth;
-        else if (tokens[i].isSymbol(u')') && --depth < 0)
-            return tokens[i - 1].end;
-        else if (tokens[i].isSymbol(u';'))
-            return tokens[i - 1].end;
+        if (tokens[i].isSymbol(u'(')) ++depth;
+        if (tokens[i].isSymbol(u')')) --depth;
+        if (depth < 0 || tokens[i].isSymbol(u';')) return tokens[i - 1].end;
     }
     return tokens.back().end;
 }

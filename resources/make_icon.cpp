@@ -41,6 +41,7 @@ void writeEntry(QDataStream& out, int size, quint32 bytes, quint32 offset) {
 
 QByteArray iconFile(QSvgRenderer& picture) {
     std::vector<QByteArray> images;
+    images.reserve(std::size(sizes));
     for (const int size : sizes)
         images.push_back(drawn(picture, size));
 

@@ -68,7 +68,7 @@ std::optional<QString> commandFor(const QString& path) {
     for (const QString& kind : kinds) {
         const QStringList programs = programsFor(kind);
         for (const QString& program : programs) {
-            if (const auto command = commandOf(program)) return command;
+            if (auto command = commandOf(program)) return command;
         }
     }
     return std::nullopt;
