@@ -3,6 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <malloc.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,8 +16,10 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <algorithm>
@@ -97,8 +100,8 @@ public:
         QApplication::processEvents();
     }
 
-    platform::Desktop desktop;
     session::Session session;
+    platform::Desktop desktop;
     app::MDIHost* host = nullptr;
     std::unique_ptr<SQLite::Database> raw;
 
@@ -189,16 +192,25 @@ std::size_t heapOfWindow(int homes) {
 /// How many widgets of each kind a window has.
 struct Census {
     int labels = 0, lines = 0, memos = 0, combos = 0, checks = 0, buttons = 0, groups = 0, tools = 0;
+    int menus = 0, entries = 0, scrollAreas = 0, plain = 0;
 
     explicit Census(const QWidget& window) {
         labels = count<QLabel>(window);
-        lines = count<QLineEdit>(window);
-        memos = count<QPlainTextEdit>(window);
         combos = count<QComboBox>(window);
+        lines = count<QLineEdit>(window) - combos;
+        memos = count<QPlainTextEdit>(window);
         checks = count<QCheckBox>(window);
         buttons = count<QPushButton>(window);
         groups = count<QGroupBox>(window);
         tools = count<QToolButton>(window);
+        menus = count<QMenu>(window);
+        entries = count<QAction>(window) - tools;
+        const auto widgets = window.findChildren<QWidget*>();
+        const auto isPlain = [](const QWidget* widget) {
+            return QLatin1StringView(widget->metaObject()->className()) == "QWidget"_L1;
+        };
+        plain = static_cast<int>(std::ranges::count_if(widgets, isPlain));
+        scrollAreas = count<QScrollArea>(window);
     }
 
     [[nodiscard]] QWidget* bareWindow() const {
@@ -211,7 +223,7 @@ struct Census {
         };
         for (int i = 0; i < labels; ++i)
             add(new QLabel(u"Label:"_s));
-        for (int i = 0; i < lines - combos; ++i)
+        for (int i = 0; i < lines; ++i)
             add(new QLineEdit);
         for (int i = 0; i < memos; ++i)
             add(new QPlainTextEdit);
@@ -228,13 +240,23 @@ struct Census {
             add(new QGroupBox(u"Group"_s));
         for (int i = 0; i < tools; ++i)
             add(new QToolButton);
+        for (int i = 0; i < scrollAreas; ++i)
+            add(new QScrollArea);
+        // Those inside memo boxes, combos and scroll areas come with these.
+        for (int i = 0; i < plain - 2 * (memos + scrollAreas) - combos; ++i)
+            add(new QWidget);
+        for (int i = 0; i < menus; ++i) {
+            auto* menu = new QMenu(u"Menu"_s, window);
+            for (int entry = 0; entry < entries / menus; ++entry)
+                menu->addAction(u"Entry"_s);
+        }
         return window;
     }
 
 private:
-    template <class Widget>
+    template <class Kind>
     static int count(const QWidget& window) {
-        return static_cast<int>(window.findChildren<Widget*>().size());
+        return static_cast<int>(window.findChildren<Kind*>().size());
     }
 };
 

@@ -3,6 +3,7 @@
 #include "output/document.h"
 #include "output/print_failure.h"
 #include "output/printable_screen.h"
+#include "output/save_dialog.h"
 #include "platform/base/clock.h"
 #include "platform/base/files.h"
 #include "platform/base/text_writer.h"
@@ -15,19 +16,7 @@ using namespace Qt::StringLiterals;
 namespace output {
 
 namespace {
-
 constexpr double fontSize = 10;
-
-platform::FileRequest saveRequest(const QString& folder, bool asksForText) {
-    platform::FileRequest request{.mode = platform::FileRequest::Mode::Save, .folder = folder, .title = u"Save As"_s};
-    if (asksForText) {
-        request.filterText = u"Text File (*.txt)"_s;
-        request.filterPattern = u"*.txt"_s;
-        request.suffix = u"txt"_s;
-    }
-    return request;
-}
-
 }  // namespace
 
 void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen) {
@@ -49,7 +38,7 @@ QString createFileDoc(const PrintableScreen& screen) {
 void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
               const std::function<PrintableScreen()>& screen) {
     desktop.attempt(u"SaveFile Error"_s, [&] {
-        const QString name = desktop.dialogs().fileDialog(saveRequest(applicationFolder, true));
+        const QString name = desktop.dialogs().fileDialog(textFileRequest(applicationFolder));
         if (platform::files::nameOf(name) == "SplashDef.txt"_L1) {
             desktop.notice(
                 u"SplashDef.txt is a protected file.  You are not allowed to overwrite it.  Select a different "
@@ -58,8 +47,7 @@ void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
             return;
         }
         if (name.isEmpty()) {
-            desktop.notice(u"No filename was specified.  No file was saved."_s, u"No Filename"_s,
-                           platform::Icon::Information);
+            tellNoFileName(desktop);
             return;
         }
         const QString document = createFileDoc(screen());
@@ -72,7 +60,8 @@ void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
 void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const RecordWalk& walk,
              const std::function<PrintableScreen()>& screen) {
     desktop.attempt(u"SaveAll Error"_s, [&] {
-        const QString name = desktop.dialogs().fileDialog(saveRequest(request.folder, request.asksForText));
+        const QString name = desktop.dialogs().fileDialog(request.asksForText ? textFileRequest(request.folder)
+                                                                              : saveRequest(request.folder));
         if (name.isEmpty()) {
             desktop.notice(request.noFileText, request.noFileTitle, platform::Icon::Information);
             return;

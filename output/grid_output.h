@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace platform {
+class Desktop;
+}
+
+namespace output {
+
+struct PrintableGrid;
+
+/// Prints a list as one job of numbered pages; a list without rows prints nothing.
+void printGrid(platform::Desktop& desktop, const PrintableGrid& grid);
+
+/// Asks for a file and writes the list into it, over an existing one without a question. `grid` is asked for only when
+/// there is a file. Throws what the walk and the file throw.
+void saveGrid(platform::Desktop& desktop, const QString& applicationFolder, const std::function<PrintableGrid()>& grid);
+
+}  // namespace output

@@ -1,0 +1,59 @@
+#include "output/listing_print.h"
+
+#include "output/print_failure.h"
+#include "platform/forms/desktop.h"
+#include "platform/print/print_device.h"
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+namespace {
+// In twips from the top of the sheet.
+constexpr double headingDown = 1440;
+constexpr double pageNumberDown = 14400;
+constexpr double fontSize = 10;
+}  // namespace
+
+void ListingPrint::printPage(const QString& text) {
+    printHeadings();
+    if (printer_) {
+        printer_->print(text);
+        printPageNumber();
+    }
+    ++page_;
+}
+
+void ListingPrint::end() {
+    if (printer_) printer_->endDoc();
+}
+
+void ListingPrint::printHeadings() {
+    attemptPrint(desktop_, u"PrintHeadings Error"_s, [this] {
+        if (!printer_) printer_.emplace(platform::printDevice());
+        printer_->setFontName(u"Courier New"_s);
+        printer_->setFontBold(true);
+        printer_->setFontSize(fontSize);
+        if (page_ > 1) printer_->newPage();
+        printer_->setFontUnderline(true);
+        printer_->setCurrentX(printer_->width() / 2 - printer_->textWidth(title_) / 2);
+        printer_->setCurrentY(headingDown);
+        printer_->print(title_);
+        printer_->print();
+        printer_->print();
+        printer_->print();
+        printer_->print(heading_);
+        printer_->setFontUnderline(false);
+        printer_->print();
+    });
+}
+
+void ListingPrint::printPageNumber() {
+    desktop_.attempt(u"PrintPageNumber Error"_s, [this] {
+        printer_->setCurrentX(printer_->width() / 2);
+        printer_->setCurrentY(pageNumberDown);
+        printer_->print(u"-%1-"_s.arg(page_));
+    });
+}
+
+}  // namespace output
