@@ -189,7 +189,7 @@ std::size_t heapOfWindow(int homes) {
     return mallinfo2().uordblks + mallinfo2().hblkhd - before;
 }
 
-/// How many widgets of each kind a window has.
+/// How many widgets of each kind a window has; and a window of nothing else, in as many group boxes.
 struct Census {
     int labels = 0, lines = 0, memos = 0, combos = 0, checks = 0, buttons = 0, groups = 0, tools = 0;
     int menus = 0, entries = 0, scrollAreas = 0, plain = 0;
@@ -215,10 +215,17 @@ struct Census {
 
     [[nodiscard]] QWidget* bareWindow() const {
         auto* window = new QWidget;
-        auto* grid = new QGridLayout(window);
+        auto* column = new QVBoxLayout(window);
+        std::vector<QGridLayout*> grids;
+        for (int i = 0; i < groups; ++i) {
+            auto* group = new QGroupBox(u"Group"_s);
+            grids.push_back(new QGridLayout(group));
+            column->addWidget(group);
+        }
         int place = 0;
         const auto add = [&](QWidget* widget) {
-            grid->addWidget(widget, place / 4, place % 4);
+            const int cell = place / groups;
+            grids[static_cast<std::size_t>(place % groups)]->addWidget(widget, cell / 4, cell % 4);
             ++place;
         };
         for (int i = 0; i < labels; ++i)
@@ -236,8 +243,6 @@ struct Census {
             add(new QCheckBox(u"Check"_s));
         for (int i = 0; i < buttons; ++i)
             add(new QPushButton(u"Button"_s));
-        for (int i = 0; i < groups; ++i)
-            add(new QGroupBox(u"Group"_s));
         for (int i = 0; i < tools; ++i)
             add(new QToolButton);
         for (int i = 0; i < scrollAreas; ++i)
