@@ -382,6 +382,7 @@ void Recordset::writePending() {
     const auto given = d_->pending;
     d_->write();
     if (before && d_->current) showFilledIn(*before, given);
+    Q_EMIT written();
 }
 
 /// Tells which columns of a new row the file filled in at the write.

@@ -142,6 +142,8 @@ void FieldBoxes::writeDates(platform::RecordSource& rows) const {
         text.binding->setSource(&rows);
         if (platform::isDate(typed)) {
             rows.setValue(date.column, typed);
+            // Until it is stored the date stands as typed; a refused save gives it back like this.
+            text.box->setText(typed);
         } else if (typed.isEmpty()) {
             rows.setValue(date.column, QVariant());
         }

@@ -34,6 +34,8 @@ Q_SIGNALS:
     void valueSet(const QString& column);
     /// The row is about to be written: every bound control hands over what was changed in it.
     void collecting();
+    /// What was handed over stands in the file.
+    void written();
 };
 
 }  // namespace platform

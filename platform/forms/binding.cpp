@@ -1,5 +1,7 @@
 #include "platform/forms/binding.h"
 
+#include <QScopedValueRollback>
+
 #include "platform/forms/bindable.h"
 
 namespace platform {
@@ -18,12 +20,14 @@ void Binding::setSource(RecordSource* source) {
     connect(source, &RecordSource::rowShown, this, &Binding::show);
     connect(source, &RecordSource::collecting, this, &Binding::handOver);
     connect(source, &RecordSource::valueSet, this, [this](const QString& column) {
-        if (column.compare(column_, Qt::CaseInsensitive) == 0) show();
+        if (!handing_ && column.compare(column_, Qt::CaseInsensitive) == 0) show();
     });
+    connect(source, &RecordSource::written, this, &Binding::showWritten);
     show();
 }
 
 void Binding::show() {
+    handedOver_ = false;
     const ColumnKind kind = source_->columnKind(column_);
     // Without a row a check box is clear; grey is for a row that doesn't say.
     const QVariant nothing = kind == ColumnKind::YesNo ? QVariant(false) : QVariant();
@@ -34,7 +38,13 @@ void Binding::show() {
 void Binding::handOver() {
     if (readsOnly_ || control_.content() == shown_) return;
     const QVariant content = control_.content();
+    const QScopedValueRollback handing(handing_, true);
     source_->setValue(column_, content);
+    handedOver_ = true;
+}
+
+void Binding::showWritten() {
+    if (handedOver_) show();
 }
 
 }  // namespace platform

@@ -14,7 +14,7 @@ class Bindable;
 /// Ties one control to one column of a recordset.
 ///
 /// The control shows the current row after every move and forgets what was typed. What was altered in it since then
-/// is handed over only when the row is about to be written.
+/// is handed over only when the row is about to be written, and stays as typed until that has succeeded.
 class Binding : public QObject {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ public:
 private:
     void show();
     void handOver();
+    void showWritten();
 
     Bindable& control_;
     QString column_;
@@ -37,6 +38,8 @@ private:
     bool readsOnly_;
     QPointer<RecordSource> source_;
     QVariant shown_;
+    bool handing_ = false;
+    bool handedOver_ = false;
 };
 
 }  // namespace platform

@@ -121,15 +121,17 @@ TEST_F(OwnedScreen, AnApostropheInTheOwnersNameFailsAndLosesNothing) {
 TEST_F(OwnedScreen, ARefusedWriteKeepsTheStateAndCanBeRepeated) {
     openFor({u"Ann Larkin"_s}, u"Ann Larkin"_s, u"Bonds"_s);
     exec(u"CREATE TRIGGER refuse BEFORE INSERT ON Bonds BEGIN SELECT RAISE(ABORT, 'no'); END"_s);
-    user.fill(u"txtFields(11)"_s, u"6/1/2002"_s);
+    user.fill(u"txtFields(11)"_s, u"june 1 2002"_s);
     save(10, u"12.5"_s);
     EXPECT_EQ(dismissBox(), u"Update Error"_s);
-    EXPECT_EQ(user.text(u"txtFields(10)"_s), u"12.50"_s);
-    EXPECT_EQ(user.text(u"txtFields(11)"_s), u"6/1/02"_s);
+    EXPECT_EQ(user.text(u"txtFields(10)"_s), u"12.5"_s);
+    EXPECT_EQ(user.text(u"txtFields(11)"_s), u"june 1 2002"_s);
     EXPECT_EQ(status(), u"Add record"_s);
     exec(u"DROP TRIGGER refuse"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(cell(u"SELECT Value||'|'||ValuationDate FROM Bonds"_s), u"12.5|2002-06-01"_s);
+    EXPECT_EQ(user.text(u"txtFields(10)"_s), u"12.50"_s);
+    EXPECT_EQ(user.text(u"txtFields(11)"_s), u"6/1/02"_s);
     EXPECT_EQ(status(), u"Record: 1 of 1"_s);
 }
 
