@@ -54,7 +54,8 @@ Attachment AttachmentStore::storeFile(const QString& source) {
     // The first file of a record is number 0 though its row is the first; from the second on both go together.
     const QString name = freeName(highest == 0 ? 0 : highest + 1, title);
     files::makeFolder(folder_.chopped(1));
-    files::copyFile(source, folder_ + name);
+    // The description is asked for at once; addRow() waits for the disk.
+    files::copyFileUnflushed(source, folder_ + name);
     Attachment stored{.fileName = name,
                       .fileType = lastCharacters(name, extension),
                       .fileDesc = {},
@@ -91,6 +92,7 @@ bool AttachmentStore::isTaken(const QString& name) {
 
 void AttachmentStore::addRow(const Attachment& attachment) {
     try {
+        files::flush(folder_ + attachment.fileName);
         rows_.release();
         rows_.open(u"SELECT * from Attachments Where 1=2"_s, connection_, data::CursorType::Keyset,
                    data::LockType::Pessimistic);

@@ -30,9 +30,10 @@ public:
     /// The record's attachments in the order in which they were attached.
     [[nodiscard]] std::vector<Attachment> attachments();
     /// Copies a file into the folder under a free name, marks the copy read-only and gives what its row is to hold.
-    /// A failure leaves no file under that name. Errors as platform::files::copyFile() and the provider's.
+    /// A failure leaves no file under that name. The copy is not yet on the disk for certain: addRow() sees to it.
+    /// Errors as platform::files::copyFile() and the provider's.
     [[nodiscard]] Attachment storeFile(const QString& source);
-    /// Adds the row of a stored file; when that fails the stored file is deleted again.
+    /// Waits until a stored file is on the disk and adds its row; when that fails the stored file is deleted again.
     void addRow(const Attachment& attachment);
     /// Deletes a stored file, which may be gone already, and then its row.
     void remove(const QString& fileName);

@@ -114,13 +114,14 @@ private:
 };
 
 /// Copies one file, and gives the folder that is to be synced before the copy is lasting.
-QString copyUnsynced(const QString& source, const QString& target, const CopyProgress& progress = {}) {
+QString copyUnsynced(const QString& source, const QString& target, const CopyProgress& progress = {},
+                     FileReplacement::Flush flush = FileReplacement::Flush::Now) {
     const SourceFile from(source);
     if (from.isSameAs(target)) throw RuntimeError(70);
     FileReplacement to(target);
     ContentCopy(from, to, progress).run();
     to.setMode(from.mode());
-    to.place();
+    to.place(flush);
     return to.folder();
 }
 
@@ -128,6 +129,18 @@ QString copyUnsynced(const QString& source, const QString& target, const CopyPro
 
 void copyFile(const QString& source, const QString& target, const CopyProgress& progress) {
     syncFolder(copyUnsynced(source, target, progress));
+}
+
+void copyFileUnflushed(const QString& source, const QString& target) {
+    copyUnsynced(source, target, {}, FileReplacement::Flush::Later);
+}
+
+void flush(const QString& path) {
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int error = descriptor >= 0 && ::fsync(descriptor) == 0 ? 0 : errno;
+    if (descriptor >= 0) ::close(descriptor);
+    if (error != 0) throwSystemError(error, 53);
+    syncFolder(parentOf(path));
 }
 
 void copyAllFiles(const QString& folder, const QString& targetFolder) {

@@ -51,8 +51,8 @@ void FileReplacement::setMode(unsigned mode) {
     if (::fchmod(descriptor_, mode) != 0) throwSystemError(errno, 76);
 }
 
-void FileReplacement::place() {
-    if (::fsync(descriptor_) != 0) throwSystemError(errno, 76);
+void FileReplacement::place(Flush flush) {
+    if (flush == Flush::Now && ::fsync(descriptor_) != 0) throwSystemError(errno, 76);
     if (::rename(temporary_.constData(), target_.constData()) != 0) throwSystemError(errno, 76);
     temporary_.clear();
 }

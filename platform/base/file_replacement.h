@@ -23,8 +23,10 @@ public:
     void write(const QByteArray& bytes);
     /// Gives the file these permission bits.
     void setMode(unsigned mode);
-    /// Flushes the file to the disk and renames it over the target. The new name is lasting after syncFolder().
-    void place();
+    enum class Flush { Now, Later };
+    /// Flushes the file to the disk, unless that comes later, and renames it over the target. The new name is lasting
+    /// after syncFolder().
+    void place(Flush flush = Flush::Now);
 
 private:
     QString folder_;

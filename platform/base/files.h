@@ -31,6 +31,10 @@ using CopyProgress = std::function<void(qint64 copied, qint64 total)>;
 /// Copies a file with its attributes. The target is replaced whole, on the disk when this returns, or left as it was.
 /// Errors: 53 no source, 76 no folder for the target, 70 a read-only target or the source itself, 61 disk full.
 void copyFile(const QString& source, const QString& target, const CopyProgress& progress = {});
+/// The same without the wait for the disk: flush() must follow before anything relies on the copy.
+void copyFileUnflushed(const QString& source, const QString& target);
+/// Returns when a file and its name are on the disk. Errors: 53 missing, 61 disk full.
+void flush(const QString& path);
 /// Copies the files of a folder, not its subfolders; stops at the first error. 53 when there are none.
 void copyAllFiles(const QString& folder, const QString& targetFolder);
 /// Errors: 53 missing, 70 read-only and not forced.
