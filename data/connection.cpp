@@ -35,6 +35,8 @@ void configure(SQLite::Database& database) {
     database.exec("PRAGMA foreign_keys=OFF");
     database.exec("PRAGMA synchronous=EXTRA");
     database.tryExec("PRAGMA journal_mode=DELETE");
+    // A walk goes member by member, and their rows lie mixed: each round would read the whole table anew.
+    database.exec("PRAGMA cache_size=-8192");
 }
 
 /// Reading the schema rolls an interrupted save back and finds most damage; a last page cut short is not noticed by it.
@@ -110,6 +112,20 @@ std::vector<QString> Connection::tableNames() const {
             names.push_back(QString::fromUtf8(rows.getColumn(0).getText()));
         return names;
     });
+}
+
+// Reading at length ------------------------------------------------------------------------------------------------
+
+Connection::ReadHold::ReadHold(Connection& connection) : connection_(connection.handle()) {
+    connection_.run({}, [](SQLite::Database& file) { file.exec("BEGIN"); });
+}
+
+Connection::ReadHold::~ReadHold() {
+    try {
+        connection_.database->exec("COMMIT");
+    } catch (const SQLite::Exception&) {
+        // A failed read has ended it already.
+    }
 }
 
 }  // namespace data

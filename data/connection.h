@@ -33,11 +33,26 @@ public:
     /// Names of the file's tables and views, system tables left out of none, ordered by type, then name.
     [[nodiscard]] std::vector<QString> tableNames() const;
 
+    /// Keeps the file as it stands for the reads of its lifetime, so that many of them need not ask for it one by one.
+    /// Nothing may be written meanwhile.
+    class ReadHold;
+
     struct Private;
     [[nodiscard]] Private& handle() const { return *d_; }
 
 private:
     std::unique_ptr<Private> d_;
+};
+
+class Connection::ReadHold {
+public:
+    explicit ReadHold(Connection& connection);
+    ~ReadHold();
+    ReadHold(const ReadHold&) = delete;
+    ReadHold& operator=(const ReadHold&) = delete;
+
+private:
+    Private& connection_;
 };
 
 }  // namespace data

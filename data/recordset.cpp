@@ -101,9 +101,12 @@ const std::vector<ShownColumn>& Recordset::Private::columns() const {
 /// Names match without regard to case; of two columns with one name the first is meant.
 int Recordset::Private::columnNumber(const QString& name) const {
     const auto& all = columns();
-    const auto found = std::find_if(all.begin(), all.end(), [&name](const ShownColumn& column) {
-        return column.name.compare(name, Qt::CaseInsensitive) == 0;
-    });
+    // Nearly always the name is written as the table has it.
+    auto found = std::ranges::find(all, name, &ShownColumn::name);
+    if (found == all.end()) {
+        found = std::ranges::find_if(
+            all, [&name](const ShownColumn& column) { return column.name.compare(name, Qt::CaseInsensitive) == 0; });
+    }
     if (found == all.end()) throw RuntimeError(3265);
     return static_cast<int>(found - all.begin());
 }

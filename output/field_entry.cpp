@@ -28,8 +28,8 @@ public:
         return position >= 1 && position <= length() && text_.at(position - 1) == u' ';
     }
     /// The characters from one position through another; empty when they are the wrong way round.
-    [[nodiscard]] QString through(qsizetype start, qsizetype end) const {
-        return end < start ? QString() : text_.mid(start - 1, end - start + 1);
+    [[nodiscard]] QStringView through(qsizetype start, qsizetype end) const {
+        return end < start ? QStringView() : QStringView(text_).mid(start - 1, end - start + 1);
     }
     /// The position, or the one before where a cut behind it would go through a character of two units.
     [[nodiscard]] qsizetype wholeCharacter(qsizetype position) const {
@@ -60,16 +60,17 @@ Break breakFor(const Value& value, qsizetype start, qsizetype end) {
 
 QString shortEntry(const Value& value, const QString& prefix, const QString& indent, Medium medium) {
     const qsizetype first = value.lineEndFrom(1);
-    if (first == 0) return prefix + value.through(1, value.length()) + lineEnd + u"     "_s;
-    QString entry = prefix + value.through(1, first);
+    QString entry = prefix;
+    if (first == 0) return entry.append(value.through(1, value.length())).append(lineEnd).append(u"     "_s);
+    entry += value.through(1, first);
     if (medium == Medium::File) entry += lineEnd;
     qsizetype start = first + 2;
     for (qsizetype next = value.lineEndFrom(start); next > 0; next = value.lineEndFrom(start)) {
-        entry += indent + value.through(start, next);
+        entry.append(indent).append(value.through(start, next));
         start = next + 2;
     }
     if (start < value.length()) {
-        entry += indent + value.through(start, value.wholeCharacter(value.length() - 1));
+        entry.append(indent).append(value.through(start, value.wholeCharacter(value.length() - 1)));
         if (medium == Medium::Page) entry += lineEnd;
     }
     return entry;
@@ -101,11 +102,13 @@ QString longEntry(const Value& value, const QString& prefix, const QString& inde
 
 QString fieldEntry(const PrintableField& field, Medium medium) {
     const int number = field.index + 1;
-    const QString prefix = u"      %1.  "_s.arg(number) + field.label + u" - "_s;
+    QString prefix = u"      "_s;
+    prefix.append(QString::number(number)).append(u".  ").append(field.label).append(u" - ");
     const QString indent(number < 10 ? 10 : 11, u' ');
     const Value value(field.value);
     const bool fits = value.length() < pageWidth - prefix.size();
-    return (fits ? shortEntry(value, prefix, indent, medium) : longEntry(value, prefix, indent)) + lineEnd;
+    QString entry = fits ? shortEntry(value, prefix, indent, medium) : longEntry(value, prefix, indent);
+    return entry.append(lineEnd);
 }
 
 }  // namespace output

@@ -182,6 +182,22 @@ void FieldBoxes::clearUnstored() {
     }
 }
 
+void FieldBoxes::holdDisplay() {
+    for (const auto& [index, text] : texts_)
+        text.box->holdDisplay();
+    for (const Combo& combo : combos_)
+        combo.box->holdDisplay();
+    if (owner_) owner_->holdDisplay();
+}
+
+void FieldBoxes::showHeld() {
+    for (const auto& [index, text] : texts_)
+        text.box->showHeld();
+    for (const Combo& combo : combos_)
+        combo.box->showHeld();
+    if (owner_) owner_->showHeld();
+}
+
 void FieldBoxes::copyShadows() {
     for (const Combo& combo : combos_) {
         platform::TextControl& shadow = text(combo.column.shadow);

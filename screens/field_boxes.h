@@ -81,6 +81,9 @@ public:
     void clearUnstored();
     /// Copies each combo's text into its shadow, for the output that walks the text boxes.
     void copyShadows();
+    /// Keeps the texts of all boxes and combos without drawing them, and draws what they have become.
+    void holdDisplay();
+    void showHeld();
 
 private:
     Text& addText(QWidget& form, int index, platform::TextControl* box, const QString& label);

@@ -9,6 +9,8 @@ HiddenBox::HiddenBox(QWidget& form, const QString& name, const QString& column)
     : box_(new platform::TextBox(&form)), binding_(*box_, column, QString()) {
     box_->setName(name);
     box_->hide();
+    // It is never seen.
+    box_->holdDisplay();
 }
 
 QString HiddenBox::text() const {

@@ -159,6 +159,9 @@ void OwnedScreen::deleteRecord() {
 // Moves ------------------------------------------------------------------------------------------------------------
 
 void OwnedScreen::updateName() {
+    // A walk comes by the records owner by owner.
+    if (walking() && txtOwnerID_.text() == walkedOwner_) return;
+    walkedOwner_ = walking() ? txtOwnerID_.text() : QString();
     desktop().attempt(u"UpdateName Error"_s, [this] {
         lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
         const QVariant name = rsLookup().eof() ? QVariant() : rsLookup().value(u"LegalName"_s);

@@ -55,6 +55,8 @@ private:
     void showOwner(const QString& name);
 
     HiddenBox txtOwnerID_;
+    /// PersonID of the owner shown last in a walk through all records.
+    QString walkedOwner_;
     QString sSavedName_;
     /// What Cancel puts back: the owner when Add or Edit was pressed.
     QString sCancelName_;

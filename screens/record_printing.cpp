@@ -1,7 +1,9 @@
 // What record screens put on paper and into text files.
 
 #include <QLabel>
+#include <QScopeGuard>
 
+#include "data/connection.h"
 #include "output/printable_screen.h"
 #include "output/record_output.h"
 #include "platform/forms/check_box.h"
@@ -58,6 +60,15 @@ output::SaveAllRequest RecordScreen::saveAllRequest() {
 }
 
 void RecordScreen::walkAll(const std::function<void()>& visit) {
+    const data::Connection::ReadHold hold(session().gConnection);
+    walking_ = true;
+    boxes_.holdDisplay();
+    boxes_.bindDates(&rows_);
+    const auto end = qScopeGuard([this] {
+        walking_ = false;
+        boxes_.bindDates(nullptr);
+        boxes_.showHeld();
+    });
     bLastRecord_ = false;
     cmdFirst_Click();
     bool goesOn = true;
@@ -66,6 +77,7 @@ void RecordScreen::walkAll(const std::function<void()>& visit) {
         // A screen without rows never comes to its last one, nor does one whose rows can't be read any more.
         goesOn = cmdNext_Click() && !bLastRecord_ && rows_.recordCount() > 0;
     }
+    walking_ = false;
     cmdFirst_Click();
 }
 

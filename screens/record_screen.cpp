@@ -342,11 +342,11 @@ bool RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)())
             session::showScreenChanges(desktop());
             return;
         }
-        boxes_.bindDates(&rows_);
+        if (!walking_) boxes_.bindDates(&rows_);
         (this->*step)();
         // A move can change a bound check box, and its click raises the flag.
         bChange = false;
-        boxes_.bindDates(nullptr);
+        if (!walking_) boxes_.bindDates(nullptr);
     });
 }
 
@@ -469,6 +469,8 @@ QString RecordScreen::attachKey() const {
 }
 
 void RecordScreen::setNumAttachments() {
+    // No document tells the count.
+    if (walking_) return;
     desktop().attempt(u"SetNumAttachments Error"_s, [this] {
         lookUp(u"Select Count(*) as AttachCnt from Attachments where BugNum = '"_s + session().gvAttachKey + u"'"_s);
         const double count = rsLookup_.value(u"AttachCnt"_s).toDouble();

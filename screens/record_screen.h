@@ -132,6 +132,8 @@ protected:
     [[nodiscard]] HiddenBox& txtID() const { return *txtID_; }
     void placeOnTop(QWidget& row);
     [[nodiscard]] bool isBrowsing() const { return !bEditing_ && !bAdding_; }
+    /// All records are being put out, one after the other; nobody sees them.
+    [[nodiscard]] bool walking() const { return walking_; }
 
     [[nodiscard]] data::Recordset& rows() { return rows_; }
     [[nodiscard]] data::Recordset& rsLookup() { return rsLookup_; }
@@ -164,6 +166,7 @@ private:
 
     bool bEditing_ = false;
     bool bAdding_ = false;
+    bool walking_ = false;
     bool bLastRecord_ = false;
     /// The record that was current when the last add began. Not cleared after use: a cancelled edit goes there too.
     std::optional<double> vBookmark_;

@@ -1,6 +1,7 @@
 #include "platform/base/clock.h"
 
 #include <QTime>
+#include <ctime>
 
 namespace platform {
 
@@ -15,7 +16,11 @@ const Clock*& clockInUse() {
 }  // namespace
 
 QDate Clock::today() const {
-    return QDate::currentDate();
+    // The toolkit's own call looks at the time zone's file each time, which a walk through many records would feel.
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
 }
 
 double Clock::secondsSinceMidnight() const {

@@ -44,6 +44,8 @@ QChar character(int code) {
 }
 
 QByteArray toWindows1252(const QString& text, OutsideCodePage outside) {
+    const bool plain = std::all_of(text.begin(), text.end(), [](QChar c) { return c < u'\x80'; });
+    if (plain) return text.toLatin1();
     QByteArray bytes;
     bytes.reserve(text.size());
     for (const QChar c : text) {

@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 #include <limits>
+#include <utility>
 
 #include "platform/base/display_format.h"
 #include "platform/base/runtime_error.h"
@@ -34,12 +35,22 @@ void ComboBox::click() {
 }
 
 void ComboBox::setText(const QString& text) {
-    const QSignalBlocker quiet(this);
     listIndex_ = -1;
+    if (held_) {
+        held_ = text;
+        return;
+    }
+    const bool stands = text == currentText() && lineEdit()->cursorPosition() == 0 && !lineEdit()->hasSelectedText();
+    if (stands && (text.isEmpty() ? currentIndex() < 0 : itemText(currentIndex()) == text)) return;
+    const QSignalBlocker quiet(this);
     // The arrow keys go on from the entry that reads like the text.
     setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
     setEditText(text);
     lineEdit()->setCursorPosition(0);
+}
+
+void ComboBox::showHeld() {
+    if (const auto text = std::exchange(held_, std::nullopt)) setText(*text);
 }
 
 void ComboBox::setListIndex(int index) {

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <functional>
+#include <optional>
 
 #include "platform/forms/bindable.h"
 #include "platform/forms/control.h"
@@ -16,7 +17,7 @@ public:
     explicit ComboBox(QWidget* parent = nullptr);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
-    [[nodiscard]] QString text() const { return currentText(); }
+    [[nodiscard]] QString text() const { return held_ ? *held_ : currentText(); }
     /// Sets the text without a click; the list index becomes -1, whatever entries there are.
     void setText(const QString& text);
     [[nodiscard]] int listIndex() const { return listIndex_; }
@@ -42,6 +43,10 @@ public:
     /// Enter was pressed in the box, before anything comes of the key.
     void onEnter(std::function<void()> handler) { enter_ = std::move(handler); }
 
+    /// As for text boxes: the text is kept without being drawn until showHeld().
+    void holdDisplay() { held_ = text(); }
+    void showHeld();
+
     void showValue(const QVariant& value, ColumnKind kind, const QString& format) override;
     [[nodiscard]] QVariant content() const override { return text(); }
 
@@ -57,6 +62,7 @@ private:
     std::function<void()> handler_;
     std::function<void()> enter_;
     int listIndex_ = -1;
+    std::optional<QString> held_;
     bool locked_ = false;
 };
 

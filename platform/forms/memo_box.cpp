@@ -2,10 +2,28 @@
 
 #include <QTextBlock>
 #include <QTextCursor>
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
+
+namespace {
+
+/// A text as the box gives it back when it has been shown: every line end as CR LF, every blank as the usual one.
+QString asRead(QString text) {
+    const auto isTurned = [](QChar c) {
+        return c == u'\r' || c == u'\n' || c == QChar::Nbsp || c == QChar::ParagraphSeparator ||
+               c == QChar::LineSeparator;
+    };
+    if (std::ranges::none_of(text, isTurned)) return text;
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(QChar::Nbsp, u' ');
+    text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+    return text.replace(u'\n', u"\r\n"_s);
+}
+
+}  // namespace
 
 MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
@@ -15,13 +33,21 @@ MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
 }
 
 QString MemoBox::text() const {
-    return toPlainText().replace(u'\n', u"\r\n"_s);
+    return held_ ? *held_ : toPlainText().replace(u'\n', u"\r\n"_s);
 }
 
 void MemoBox::setText(const QString& text) {
     const QString cut = limit_ > 0 ? text.left(limit_) : text;
+    if (held_) {
+        held_ = asRead(cut);
+        return;
+    }
     if (cut != this->text()) setPlainText(cut);
-    moveCursor(QTextCursor::Start);
+    if (textCursor().position() != 0 || textCursor().hasSelection()) moveCursor(QTextCursor::Start);
+}
+
+void MemoBox::showHeld() {
+    if (const auto text = std::exchange(held_, std::nullopt)) setText(*text);
 }
 
 void MemoBox::setLocked(bool locked) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <optional>
 
 #include "platform/forms/text_control.h"
 
@@ -25,6 +26,8 @@ public:
     void select(int start, int length) override;
     [[nodiscard]] QString selText() const override;
     void setSelText(const QString& text) override;
+    void holdDisplay() override { held_ = text(); }
+    void showHeld() override;
     using TextControl::selectAll;
 
 private:
@@ -33,6 +36,7 @@ private:
     [[nodiscard]] int toDocument(int textPosition) const;
 
     int limit_ = 0;
+    std::optional<QString> held_;
 };
 
 }  // namespace platform

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "platform/base/display_format.h"
 
@@ -16,12 +17,16 @@ TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
 }
 
 void TextBox::setText(const QString& text) {
-    if (text == QLineEdit::text()) {
-        setCursorPosition(0);
+    if (held_) {
+        held_ = limit_ > 0 ? text.left(limit_) : text;
         return;
     }
-    QLineEdit::setText(text);
-    setCursorPosition(0);
+    if (text != QLineEdit::text()) QLineEdit::setText(text);
+    if (cursorPosition() != 0 || hasSelectedText()) setCursorPosition(0);
+}
+
+void TextBox::showHeld() {
+    if (const auto text = std::exchange(held_, std::nullopt)) setText(*text);
 }
 
 void TextBox::setMaxLength(int characters) {

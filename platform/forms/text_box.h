@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <optional>
 
 #include "platform/forms/text_control.h"
 
@@ -14,7 +15,7 @@ public:
     explicit TextBox(QWidget* parent = nullptr);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
-    [[nodiscard]] QString text() const override { return QLineEdit::text(); }
+    [[nodiscard]] QString text() const override { return held_ ? *held_ : QLineEdit::text(); }
     void setText(const QString& text) override;
     [[nodiscard]] bool isLocked() const override { return isReadOnly(); }
     void setLocked(bool locked) override { setReadOnly(locked); }
@@ -25,10 +26,13 @@ public:
     void select(int start, int length) override;
     [[nodiscard]] QString selText() const override { return selectedText(); }
     void setSelText(const QString& text) override;
+    void holdDisplay() override { held_ = text(); }
+    void showHeld() override;
     using TextControl::selectAll;
 
 private:
     int limit_ = 0;
+    std::optional<QString> held_;
 };
 
 }  // namespace platform

@@ -24,6 +24,11 @@ public:
     /// Replaces the selection, also in a locked box.
     virtual void setSelText(const QString& text) = 0;
 
+    /// From here on the text is kept without being drawn, for a walk through many records that nobody watches.
+    virtual void holdDisplay() = 0;
+    /// Draws what the text has become.
+    virtual void showHeld() = 0;
+
     void selectAll() { select(0, static_cast<int>(text().size())); }
     void showValue(const QVariant& value, ColumnKind kind, const QString& format) override;
     [[nodiscard]] QVariant content() const override { return text(); }
