@@ -68,9 +68,10 @@ TEST_F(StoreTest, PassesOverNamesThatAreTaken) {
     QFile::copy(deed, folder.stored(u"Hom_3_17_0.pdf"_s));
     AttachmentStore other(connection, folder.path(), u"Mar_1_1"_s);
     Attachment strange = other.storeFile(deed);
-    QFile::remove(folder.stored(strange.fileName));
+    QFile::rename(folder.stored(strange.fileName), folder.stored(u"Hom_3_17_1.pdf"_s));
     strange.fileName = u"Hom_3_17_1.pdf"_s;
     other.addRow(strange);
+    QFile::remove(folder.stored(strange.fileName));
     attach(deed);
     EXPECT_EQ(names(), QStringList(u"Hom_3_17_2.pdf 1"_s));
     EXPECT_EQ(folder.storedNames(), (QStringList{u"Hom_3_17_0.pdf"_s, u"Hom_3_17_2.pdf"_s}));
