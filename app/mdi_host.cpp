@@ -71,7 +71,8 @@ void MDIHost::makeMenus() {
         platform::addEntry(*file, name, caption, [] {})->setEnabled(false);
     }
     platform::addSeparator(*file, u"Sep1"_s);
-    platform::addEntry(*file, u"mFamilySequence"_s, u"Family Sequence..."_s, [] {})->setEnabled(false);
+    platform::addEntry(*file, u"mFamilySequence"_s, u"Family Sequence..."_s,
+                       handler([this] { mFamilySequence_Click(); }));
     platform::addSeparator(*file, u"Sep2"_s);
     platform::addEntry(*file, u"mCoverPage"_s, u"Cover Page"_s, handler([this] { showCoverPage(); }));
     platform::addSeparator(*file, u"Sep4"_s);
@@ -251,6 +252,14 @@ session::DataWindow* MDIHost::touch(const QString& name) {
     if (platform::Form* loaded = desktop().find(name)) return dynamic_cast<session::DataWindow*>(loaded);
     std::unique_ptr<session::DataWindow> window = makeWindow(name, desktop(), session_, *this);
     return window ? &desktop().load(std::move(window)) : nullptr;
+}
+
+void MDIHost::mFamilySequence_Click() {
+    if (count(u"Person"_s) == 0 && !session_.gbCanEdit) {
+        session::showNoDataNoLogin(desktop());
+        return;
+    }
+    touch(u"frmFamilySequence"_s)->show();
 }
 
 void MDIHost::openChild(const QString& window, const QString& table, const session::ChildRequest& request) {

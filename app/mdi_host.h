@@ -71,6 +71,7 @@ private:
     void refuseSelection();
     void cmdAddNew_Click();
     void picture1_Click();
+    void mFamilySequence_Click();
     void openChild(const QString& window, const QString& table, const session::ChildRequest& request);
     /// A window is loaded besides the host (help, once used, isn't one), and the active one holds changes.
     [[nodiscard]] bool leavesChanges() const;

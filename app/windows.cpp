@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+#include "lists/asset_liquidation.h"
+#include "lists/family_sequence.h"
+#include "lists/medical_log.h"
+#include "lists/pins_and_passwords.h"
+#include "lists/who_gets_what.h"
 #include "screens/ag_site_screen.h"
 #include "screens/alimony_screen.h"
 #include "screens/catalogue/catalogue.h"
@@ -58,11 +63,34 @@ constexpr OwnClass ownClasses[] = {
     {"frmTheyOweYou"_L1, make<screens::SharedTableScreen>},
 };
 
+using PlainMaker = Made (*)(platform::Desktop&, session::Session&, session::Workspace&);
+
+template <class Window>
+Made makePlain(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace) {
+    return std::make_unique<Window>(desktop, session, workspace);
+}
+
+struct PlainClass {
+    QLatin1StringView window;
+    PlainMaker maker;
+};
+
+/// The windows without an entry in the catalogue.
+constexpr PlainClass plainClasses[] = {
+    {"frmAssetLiquidation"_L1, makePlain<lists::AssetLiquidation>},
+    {"frmFamilySequence"_L1, makePlain<lists::FamilySequence>},
+    {"frmKinbook"_L1, makePlain<screens::PersonScreen>},
+    {"frmMedicalLog"_L1, makePlain<lists::MedicalLog>},
+    {"frmPinsAndPasswords"_L1, makePlain<lists::PinsAndPasswords>},
+    {"frmWhoGetsWhat"_L1, makePlain<lists::WhoGetsWhat>},
+};
+
 }  // namespace
 
 std::unique_ptr<session::DataWindow> makeWindow(const QString& name, platform::Desktop& desktop,
                                                 session::Session& session, session::Workspace& workspace) {
-    if (name == u"frmKinbook"_s) return std::make_unique<screens::PersonScreen>(desktop, session, workspace);
+    const auto* plain = std::ranges::find(plainClasses, name, &PlainClass::window);
+    if (plain != std::end(plainClasses)) return plain->maker(desktop, session, workspace);
     const screens::ScreenDefinition* definition = screens::screenDefinition(name);
     if (!definition) return nullptr;
     const auto* own = std::ranges::find(ownClasses, name, &OwnClass::window);

@@ -68,18 +68,19 @@ void AttachDialog::layOut(const QString& ownerName) {
     addButton(*row, u"cmdEditDesc"_s, u"&Edit Desc..."_s, u"Edit the description for the highlighted attachment."_s,
               &AttachDialog::mnuEditDesc_Click);
     row->addStretch(1);
-    addButton(*row, u"cmdClose"_s, u"&Close"_s, {}, &AttachDialog::cmdClose_Click);
+    setCancelButton(addButton(*row, u"cmdClose"_s, u"&Close"_s, {}, &AttachDialog::cmdClose_Click));
     column->addLayout(row);
 }
 
-void AttachDialog::addButton(QHBoxLayout& row, const QString& name, const QString& caption, const QString& hint,
-                             void (AttachDialog::*routine)()) {
+platform::CommandButton* AttachDialog::addButton(QHBoxLayout& row, const QString& name, const QString& caption,
+                                                 const QString& hint, void (AttachDialog::*routine)()) {
     auto* button = new platform::CommandButton(this);
     button->setName(name);
     button->setText(caption);
     button->setToolTip(hint);
     button->onClick(handler([this, routine] { (this->*routine)(); }));
     row.addWidget(button);
+    return button;
 }
 
 void AttachDialog::makePopupMenu() {

@@ -7,6 +7,7 @@ class QHBoxLayout;
 class QMenu;
 
 namespace platform {
+class CommandButton;
 class ListView;
 }
 
@@ -28,8 +29,8 @@ public:
 
 private:
     void layOut(const QString& ownerName);
-    void addButton(QHBoxLayout& row, const QString& name, const QString& caption, const QString& hint,
-                   void (AttachDialog::*routine)());
+    platform::CommandButton* addButton(QHBoxLayout& row, const QString& name, const QString& caption,
+                                       const QString& hint, void (AttachDialog::*routine)());
     void makePopupMenu();
 
     void populateListView();

@@ -202,7 +202,7 @@ void Recordset::Private::forget() {
     pending.clear();
 }
 
-Recordset::Recordset(QObject* parent) : RecordSource(parent), d_(std::make_unique<Private>()) {}
+Recordset::Recordset(QObject* parent) : RowSource(parent), d_(std::make_unique<Private>()) {}
 
 Recordset::~Recordset() {
     if (isOpen()) std::erase(d_->connection->recordsets, this);
@@ -449,6 +449,23 @@ QVariant Recordset::value(const QString& column) const {
     const auto& type = d_->columns()[static_cast<size_t>(number)].type;
     const QVariant stored = d_->stored(number);
     return type ? shownValue(stored, type->kind) : stored;
+}
+
+std::vector<QVariant> Recordset::rowAt(int row) const {
+    d_->requireOpen();
+    const auto stored = d_->rows->read(row);
+    if (!stored) return {};
+    std::vector<QVariant> values;
+    values.reserve(stored->size());
+    for (size_t column = 0; column < stored->size(); ++column) {
+        const auto& type = d_->columns()[column].type;
+        values.push_back(type ? shownValue((*stored)[column], type->kind) : (*stored)[column]);
+    }
+    return values;
+}
+
+int Recordset::currentRow() const {
+    return hasCurrentRow() ? d_->position.row() : -1;
 }
 
 void Recordset::setValue(const QString& column, const QVariant& value) {

@@ -26,7 +26,7 @@ enum class EditMode { None = 0, InProgress = 1, Add = 2, Deleted = 4 };
 ///
 /// A move, requery or close never asks bound controls for what stands in them, but a move writes what code has set.
 /// After rowShown() comes moveComplete(), whose handlers may read, but get 3219 when they move.
-class Recordset : public platform::RecordSource {
+class Recordset : public platform::RowSource {
     Q_OBJECT
 
 public:
@@ -74,6 +74,12 @@ public:
     [[nodiscard]] QVariant value(const QString& column) const override;
     void setValue(const QString& column, const QVariant& value) override;
     [[nodiscard]] platform::ColumnKind columnKind(const QString& column) const override;
+
+    // RowSource; not for a stream.
+    [[nodiscard]] QStringList columnNames() const override { return fieldNames(); }
+    [[nodiscard]] int rowCount() const override { return isOpen() ? recordCount() : 0; }
+    [[nodiscard]] std::vector<QVariant> rowAt(int row) const override;
+    [[nodiscard]] int currentRow() const override;
 
 Q_SIGNALS:
     /// After open(), addNew(), requery() and every move, also one that failed; not after deleteCurrent() or update().

@@ -7,16 +7,16 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "platform/base/conversions.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/command_button.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/key_codes.h"
 #include "platform/forms/text_control.h"
-#include "screens/clipboard_commands.h"
 #include "screens/field_checks.h"
 #include "screens/frame_layout.h"
+#include "session/attachment_count.h"
+#include "session/navigation_keys.h"
 #include "session/refusals.h"
 #include "session/session.h"
 #include "session/workspace.h"
@@ -24,6 +24,14 @@
 using namespace Qt::StringLiterals;
 
 namespace screens {
+
+namespace {
+
+/// Name and picture of what opens a child screen, in the order of ChildKind.
+const std::pair<QString, QString> childKeys[] = {
+    {u"Inventory"_s, u"view-list-details"_s}, {u"Improvements"_s, u"tools"_s}, {u"Outbuildings"_s, u"go-home"_s}};
+
+}  // namespace
 
 RecordScreen::RecordScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
                            const ScreenDefinition& definition, OwnerBox owner)
@@ -35,7 +43,7 @@ RecordScreen::RecordScreen(platform::Desktop& desktop, session::Session& session
     rsLookup_.setCursorType(data::CursorType::ForwardOnly);
     connect(&rows_, &data::Recordset::moveComplete, this,
             [this] { this->desktop().attempt(moveCompleteTitle(), [this] { moveComplete(); }); });
-    menus_ = std::make_unique<RecordMenus>(*this, commands());
+    menus_ = std::make_unique<session::WindowMenus>(*this, commands());
     for (QMenu* menu : menus_->menus())
         addMenu(menu);
     layOut();
@@ -66,10 +74,10 @@ void RecordScreen::layOut() {
     auto* foot = new QVBoxLayout;
     foot->setContentsMargins(9, 0, 9, 0);
     column->addLayout(foot);
-    buttons_ = std::make_unique<RecordButtons>(*this, *foot, definition_.addCaption, actions());
+    buttons_ = std::make_unique<session::RecordButtons>(*this, *foot, definition_.addCaption, actions());
 }
 
-RecordActions RecordScreen::actions() {
+session::RecordActions RecordScreen::actions() {
     return {
         .first = handler([this] { cmdFirst_Click(); }),
         .previous = handler([this] { cmdPrevious_Click(); }),
@@ -84,21 +92,17 @@ RecordActions RecordScreen::actions() {
     };
 }
 
-RecordCommands RecordScreen::commands() {
-    RecordCommands commands;
-    commands.coverPage = handler([this] { workspace().showCoverPage(); });
-    commands.exit = handler([this] { workspace().exitProgram(); });
-    commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
-    commands.cut = handler([this] { copySelection(*this, Copy::Cut); });
-    commands.paste = handler([this] { pasteSelection(*this); });
+session::WindowCommands RecordScreen::commands() {
+    session::WindowCommands commands = commonCommands();
     commands.attachments = handler([this] { mAttachments_Click(); });
     commands.print = handler([this] { mPrint_Click(); });
     commands.printAll = handler([this] { mPrintAll_Click(); });
     commands.save = handler([this] { mSave_Click(); });
     commands.saveAll = handler([this] { mSaveAll_Click(); });
     for (const ChildOffer& child : definition_.children) {
+        const auto& [name, icon] = childKeys[static_cast<std::size_t>(child.kind)];
         commands.children.push_back(
-            {child.kind, child.tooltip, handler([this, kind = child.kind] { showChild(kind); })});
+            {name, icon, child.tooltip, handler([this, kind = child.kind] { showChild(kind); })});
     }
     return commands;
 }
@@ -185,11 +189,6 @@ void RecordScreen::cmdAdd_Click() {
         }
         if (mayAdd()) beginAdd();
     });
-}
-
-bool RecordScreen::mayChange() {
-    if (!session().gbCanEdit) session::showInvalidLogin(desktop());
-    return session().gbCanEdit;
 }
 
 void RecordScreen::beginAdd() {
@@ -412,29 +411,7 @@ void RecordScreen::Form_KeyPress(int keyAscii) {
 }
 
 void RecordScreen::Form_KeyDown(int keyCode, int shift) {
-    namespace key = platform::key;
-    if (bEditing_ || bAdding_) return;
-    switch (keyCode) {
-        case key::escape:
-            cmdClose_Click();
-            break;
-        case key::end:
-            cmdLast_Click();
-            break;
-        case key::home:
-            cmdFirst_Click();
-            break;
-        case key::up:
-        case key::pageUp:
-            shift == platform::ctrlMask ? cmdFirst_Click() : cmdPrevious_Click();
-            break;
-        case key::down:
-        case key::pageDown:
-            shift == platform::ctrlMask ? cmdLast_Click() : static_cast<void>(cmdNext_Click());
-            break;
-        default:
-            break;
-    }
+    if (isBrowsing()) session::navigate(keyCode, shift, *buttons_);
 }
 
 // Checks and aids --------------------------------------------------------------------------------------------------
@@ -472,9 +449,7 @@ void RecordScreen::setNumAttachments() {
     // No document tells the count.
     if (walking_) return;
     desktop().attempt(u"SetNumAttachments Error"_s, [this] {
-        lookUp(u"Select Count(*) as AttachCnt from Attachments where BugNum = '"_s + session().gvAttachKey + u"'"_s);
-        const double count = rsLookup_.value(u"AttachCnt"_s).toDouble();
-        lblAttachments_->setText(u"Attachments: "_s + platform::str(count));
+        lblAttachments_->setText(session::attachmentCount(rsLookup_, session().gConnection, session().gvAttachKey));
     });
 }
 

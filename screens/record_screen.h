@@ -6,9 +6,9 @@
 #include "data/recordset.h"
 #include "screens/field_boxes.h"
 #include "screens/hidden_box.h"
-#include "screens/record_buttons.h"
-#include "screens/record_menus.h"
 #include "session/data_window.h"
+#include "session/record_buttons.h"
+#include "session/window_menus.h"
 
 class QLabel;
 
@@ -55,8 +55,6 @@ protected:
 
     // Add, edit, save, cancel, delete. The steps in which a kind of screen differs are its overrides.
     void cmdAdd_Click();
-    /// False, after telling why, in a session that may change nothing.
-    [[nodiscard]] virtual bool mayChange();
     [[nodiscard]] virtual bool mayAdd() { return mayChange(); }
     virtual void beginAdd();
     void cmdEdit_Click();
@@ -145,8 +143,8 @@ protected:
 private:
     void layOut();
     void connectControls();
-    [[nodiscard]] RecordActions actions();
-    [[nodiscard]] RecordCommands commands();
+    [[nodiscard]] session::RecordActions actions();
+    [[nodiscard]] session::WindowCommands commands();
     void moveComplete();
     [[nodiscard]] QString attachKey() const;
     /// False when the move failed.
@@ -158,8 +156,8 @@ private:
     data::Recordset rows_;
     data::Recordset rsLookup_;
     FieldBoxes boxes_;
-    std::unique_ptr<RecordMenus> menus_;
-    std::unique_ptr<RecordButtons> buttons_;
+    std::unique_ptr<session::WindowMenus> menus_;
+    std::unique_ptr<session::RecordButtons> buttons_;
     QLabel* lblAttachments_ = nullptr;
     std::unique_ptr<HiddenBox> txtID_;
     platform::TextControl* focusWhenShown_ = nullptr;

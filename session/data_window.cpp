@@ -1,8 +1,11 @@
 #include "session/data_window.h"
 
 #include "platform/forms/desktop.h"
+#include "session/clipboard_commands.h"
 #include "session/refusals.h"
 #include "session/session.h"
+#include "session/window_menus.h"
+#include "session/workspace.h"
 
 namespace session {
 
@@ -11,6 +14,21 @@ DataWindow::DataWindow(platform::Desktop& desktop, Session& session, Workspace& 
 
 void DataWindow::Form_QueryUnload(bool& cancel) {
     cancel = !closeConfirm(desktop(), session_, bChange);
+}
+
+bool DataWindow::mayChange() {
+    if (!session_.gbCanEdit) showInvalidLogin(desktop());
+    return session_.gbCanEdit;
+}
+
+WindowCommands DataWindow::commonCommands() {
+    WindowCommands commands;
+    commands.coverPage = handler([this] { workspace_.showCoverPage(); });
+    commands.exit = handler([this] { workspace_.exitProgram(); });
+    commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
+    commands.cut = handler([this] { copySelection(*this, Copy::Cut); });
+    commands.paste = handler([this] { pasteSelection(*this); });
+    return commands;
 }
 
 }  // namespace session

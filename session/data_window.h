@@ -5,6 +5,7 @@
 namespace session {
 
 struct Session;
+struct WindowCommands;
 class Workspace;
 
 /// A window with the family's data, a child of the host.
@@ -24,6 +25,10 @@ public:
 protected:
     [[nodiscard]] Session& session() const { return session_; }
     [[nodiscard]] Workspace& workspace() const { return workspace_; }
+    /// False, after telling why, in a session that may change nothing.
+    [[nodiscard]] virtual bool mayChange();
+    /// The commands that are the same in every data window.
+    [[nodiscard]] WindowCommands commonCommands();
 
 private:
     Session& session_;

@@ -2,7 +2,9 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
+#include <vector>
 
 namespace platform {
 
@@ -36,6 +38,21 @@ Q_SIGNALS:
     void collecting();
     /// What was handed over stands in the file.
     void written();
+};
+
+/// A recordset as a whole, for a grid: besides the current row any row can be looked at without a move.
+class RowSource : public RecordSource {
+    Q_OBJECT
+
+public:
+    using RecordSource::RecordSource;
+
+    [[nodiscard]] virtual QStringList columnNames() const = 0;
+    [[nodiscard]] virtual int rowCount() const = 0;
+    /// Values of a row, from 0, by columns; empty for a row that has gone from the file.
+    [[nodiscard]] virtual std::vector<QVariant> rowAt(int row) const = 0;
+    /// The current row, from 0; -1 for none.
+    [[nodiscard]] virtual int currentRow() const = 0;
 };
 
 }  // namespace platform

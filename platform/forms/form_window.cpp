@@ -1,8 +1,10 @@
 #include "platform/forms/form_window.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 
+#include "platform/forms/command_button.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/mdi_frame.h"
 
@@ -72,6 +74,21 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 void FormWindow::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     if (modalLoop_ && !event->spontaneous()) modalLoop_->quit();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    CommandButton* button = nullptr;
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        auto* focused = dynamic_cast<CommandButton*>(focusWidget());
+        button = focused ? focused : default_;
+    } else if (event->key() == Qt::Key_Escape) {
+        button = cancel_;
+    }
+    if (button && button->isEnabled()) {
+        button->press();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 }  // namespace platform

@@ -10,6 +10,8 @@ class QMdiSubWindow;
 
 namespace platform {
 
+class CommandButton;
+
 /// A form that is a child of the host, a window of its own, or a modal dialog.
 class FormWindow : public QWidget, public Form {
     Q_OBJECT
@@ -27,9 +29,15 @@ public:
     void showModal();
     void leave() override;
 
+    /// Enter clicks it wherever nothing else takes the key; a button with the focus does.
+    void setDefaultButton(CommandButton* button) { default_ = button; }
+    /// Escape clicks it.
+    void setCancelButton(CommandButton* button) { cancel_ = button; }
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void destroyLater() override;
 
 private:
@@ -39,6 +47,8 @@ private:
     Kind kind_;
     QPointer<QMdiSubWindow> frame_;
     QEventLoop* modalLoop_ = nullptr;
+    CommandButton* default_ = nullptr;
+    CommandButton* cancel_ = nullptr;
 };
 
 }  // namespace platform

@@ -4,7 +4,7 @@ namespace platform {
 class Form;
 }
 
-namespace screens {
+namespace session {
 
 enum class Copy { Keep, Cut };
 
@@ -16,4 +16,4 @@ void copySelection(platform::Form& form, Copy copy);
 /// Replaces the selected text by the clipboard's.
 void pasteSelection(platform::Form& form);
 
-}  // namespace screens
+}  // namespace session

@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 
+class QHBoxLayout;
 class QLabel;
 class QVBoxLayout;
 class QWidget;
@@ -11,9 +12,9 @@ namespace platform {
 class CommandButton;
 }
 
-namespace screens {
+namespace session {
 
-/// What the two rows at the foot of a record screen set off.
+/// What the two rows at the foot of a data window set off. Without `add` and `remove` the window has neither button.
 struct RecordActions {
     std::function<void()> first, previous, next, last;
     std::function<void()> add, edit, update, cancel, remove, close;
@@ -22,22 +23,27 @@ struct RecordActions {
 /// The move row with the status line, and the action row below it.
 class RecordButtons {
 public:
-    RecordButtons(QWidget& form, QVBoxLayout& column, const QString& addCaption, const RecordActions& actions);
+    RecordButtons(QWidget& form, QVBoxLayout& column, const QString& addCaption, RecordActions actions);
 
     /// The action row shows Add, Edit, Delete and Close while browsing, Save and Cancel otherwise.
     void showBrowsing(bool browsing);
     void enableMoves(bool enabled);
     [[nodiscard]] QLabel& status() const { return *status_; }
     [[nodiscard]] platform::CommandButton& add() const { return *add_; }
+    [[nodiscard]] const RecordActions& actions() const { return actions_; }
+    /// Puts a label into the action row, ahead of Close.
+    void addNote(QLabel& note);
 
 private:
-    void makeMoveRow(QWidget& form, QVBoxLayout& column, const RecordActions& actions);
-    void makeActionRow(QWidget& form, QVBoxLayout& column, const QString& addCaption, const RecordActions& actions);
+    void makeMoveRow(QWidget& form, QVBoxLayout& column);
+    void makeActionRow(QWidget& form, QVBoxLayout& column, const QString& addCaption);
 
+    RecordActions actions_;
     QLabel* status_ = nullptr;
+    QHBoxLayout* actionRow_ = nullptr;
     platform::CommandButton *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
     platform::CommandButton *add_ = nullptr, *edit_ = nullptr, *update_ = nullptr, *cancel_ = nullptr;
     platform::CommandButton *delete_ = nullptr, *close_ = nullptr;
 };
 
-}  // namespace screens
+}  // namespace session

@@ -1,4 +1,4 @@
-#include "screens/clipboard_commands.h"
+#include "session/clipboard_commands.h"
 
 #include <QLineEdit>
 
@@ -8,7 +8,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/text_control.h"
 
-namespace screens {
+namespace session {
 
 namespace {
 
@@ -46,4 +46,4 @@ void pasteSelection(platform::Form& form) {
     setSelText(active(form), form.desktop().clipboardText());
 }
 
-}  // namespace screens
+}  // namespace session

@@ -1,4 +1,4 @@
-#include "screens/record_menus.h"
+#include "session/window_menus.h"
 
 #include <QAction>
 #include <QMdiArea>
@@ -8,11 +8,10 @@
 
 #include "platform/forms/icons.h"
 #include "platform/forms/menus.h"
-#include "screens/catalogue/screen_definition.h"
 
 using namespace Qt::StringLiterals;
 
-namespace screens {
+namespace session {
 
 namespace {
 
@@ -22,33 +21,9 @@ void entry(QMenu& menu, const QString& name, const QString& caption, const std::
     made->setEnabled(static_cast<bool>(routine));
 }
 
-QString childName(ChildKind kind) {
-    switch (kind) {
-        case ChildKind::Inventory:
-            return u"Inventory"_s;
-        case ChildKind::Improvements:
-            return u"Improvements"_s;
-        case ChildKind::Outbuildings:
-            break;
-    }
-    return u"Outbuildings"_s;
-}
-
-QString childIcon(ChildKind kind) {
-    switch (kind) {
-        case ChildKind::Inventory:
-            return u"view-list-details"_s;
-        case ChildKind::Improvements:
-            return u"tools"_s;
-        case ChildKind::Outbuildings:
-            break;
-    }
-    return u"go-home"_s;
-}
-
 }  // namespace
 
-RecordMenus::RecordMenus(QWidget& form, const RecordCommands& commands) : toolbar_(new QToolBar(&form)) {
+WindowMenus::WindowMenus(QWidget& form, const WindowCommands& commands) : toolbar_(new QToolBar(&form)) {
     makeFileMenu(form, commands);
     makeEditMenu(form, commands);
     makeOptionsMenu(form, commands);
@@ -66,15 +41,18 @@ RecordMenus::RecordMenus(QWidget& form, const RecordCommands& commands) : toolba
     addKey(u"tbPaste"_s, u"edit-paste"_s, u"Paste highlighted text"_s, commands.paste);
     toolbar_->addSeparator();
     addKey(u"tbPrint"_s, u"document-print"_s, u"Print screen"_s, commands.print);
-    addKey(u"tbPrintAll"_s, u"document-print-preview"_s, u"Print all screens"_s, commands.printAll);
+    if (commands.hasAllRecords)
+        addKey(u"tbPrintAll"_s, u"document-print-preview"_s, u"Print all screens"_s, commands.printAll);
     toolbar_->addSeparator();
-    addKey(u"tbAttach"_s, u"mail-attachment"_s, u"View/save attachments"_s, commands.attachments);
+    if (commands.hasAttachments)
+        addKey(u"tbAttach"_s, u"mail-attachment"_s, u"View/save attachments"_s, commands.attachments);
     addKey(u"tbSave"_s, u"document-save"_s, u"SaveToFile"_s, commands.save);
-    addKey(u"tbSaveAll"_s, u"document-save-all"_s, QLatin1StringView(commands.saveAllHint), commands.saveAll);
+    if (commands.hasAllRecords)
+        addKey(u"tbSaveAll"_s, u"document-save-all"_s, QLatin1StringView(commands.saveAllHint), commands.saveAll);
     if (!commands.children.empty()) addChildren(commands.children);
 }
 
-void RecordMenus::makeFileMenu(QWidget& form, const RecordCommands& commands) {
+void WindowMenus::makeFileMenu(QWidget& form, const WindowCommands& commands) {
     QMenu* menu = platform::makeMenu(form, u"mFile"_s, u"&File"_s);
     entry(*menu, u"mNew"_s, u"New"_s, commands.newDatabase);
     entry(*menu, u"mOpen"_s, u"Restore"_s, commands.restore);
@@ -86,7 +64,7 @@ void RecordMenus::makeFileMenu(QWidget& form, const RecordCommands& commands) {
     menus_.push_back(menu);
 }
 
-void RecordMenus::makeEditMenu(QWidget& form, const RecordCommands& commands) {
+void WindowMenus::makeEditMenu(QWidget& form, const WindowCommands& commands) {
     QMenu* menu = platform::makeMenu(form, u"mEdit"_s, u"&Edit"_s);
     entry(*menu, u"mCopy"_s, u"Copy"_s, commands.copy);
     entry(*menu, u"mCut"_s, u"Cut"_s, commands.cut);
@@ -94,18 +72,18 @@ void RecordMenus::makeEditMenu(QWidget& form, const RecordCommands& commands) {
     menus_.push_back(menu);
 }
 
-void RecordMenus::makeOptionsMenu(QWidget& form, const RecordCommands& commands) {
+void WindowMenus::makeOptionsMenu(QWidget& form, const WindowCommands& commands) {
     QMenu* menu = platform::makeMenu(form, u"mOptions"_s, u"&Options"_s);
-    entry(*menu, u"mAttachments"_s, u"Attachments"_s, commands.attachments);
+    if (commands.hasAttachments) entry(*menu, u"mAttachments"_s, u"Attachments"_s, commands.attachments);
     entry(*menu, u"mPrint"_s, u"Print"_s, commands.print);
-    entry(*menu, u"mPrintAll"_s, u"Print All"_s, commands.printAll);
+    if (commands.hasAllRecords) entry(*menu, u"mPrintAll"_s, u"Print All"_s, commands.printAll);
     entry(*menu, u"mSave"_s, u"Save To File"_s, commands.save);
-    entry(*menu, u"mSaveAll"_s, u"Save All To File"_s, commands.saveAll);
+    if (commands.hasAllRecords) entry(*menu, u"mSaveAll"_s, u"Save All To File"_s, commands.saveAll);
     menus_.push_back(menu);
     options_ = menu;
 }
 
-void RecordMenus::makeWindowMenu(QWidget& form) {
+void WindowMenus::makeWindowMenu(QWidget& form) {
     QMenu* menu = platform::makeMenu(form, u"mWindow"_s, u"&Window"_s);
     // The list of open windows is made anew each time it is looked at.
     QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, &form] {
@@ -123,25 +101,24 @@ void RecordMenus::makeWindowMenu(QWidget& form) {
     menus_.push_back(menu);
 }
 
-void RecordMenus::makeHelpMenu(QWidget& form, const RecordCommands& commands) {
+void WindowMenus::makeHelpMenu(QWidget& form, const WindowCommands& commands) {
     QMenu* menu = platform::makeMenu(form, u"mnuHelp1"_s, u"&Help"_s);
     entry(*menu, u"mnuHelp"_s, u"Contents and Index"_s, commands.help);
     entry(*menu, u"mnuAbout"_s, u"About"_s, commands.about);
     menus_.push_back(menu);
 }
 
-void RecordMenus::addChildren(const std::vector<ChildCommand>& children) {
+void WindowMenus::addChildren(const std::vector<ChildCommand>& children) {
     platform::addSeparator(*options_, u"Sep2"_s);
     toolbar_->addSeparator();
     for (const ChildCommand& child : children) {
-        const QString name = childName(child.kind);
-        entry(*options_, u'm' + name, name, child.routine);
+        entry(*options_, u'm' + child.name, child.name, child.routine);
         childEntries_.push_back(options_->actions().last());
-        addKey(u"tb"_s + name, childIcon(child.kind), child.tooltip, child.routine);
+        addKey(u"tb"_s + child.name, child.icon, child.tooltip, child.routine);
     }
 }
 
-void RecordMenus::addKey(const QString& key, const QString& icon, const QString& hint,
+void WindowMenus::addKey(const QString& key, const QString& icon, const QString& hint,
                          const std::function<void()>& routine) {
     QAction* made = toolbar_->addAction(platform::themeIcon(icon), hint);
     made->setObjectName(key);
@@ -151,7 +128,7 @@ void RecordMenus::addKey(const QString& key, const QString& icon, const QString&
     toolbar_->widgetForAction(made)->setFocusPolicy(Qt::NoFocus);
 }
 
-void RecordMenus::enable(bool enabled) {
+void WindowMenus::enable(bool enabled) {
     toolbar_->setEnabled(enabled);
     for (QMenu* menu : menus_) {
         if (menu->objectName() != u"mnuHelp1"_s) menu->menuAction()->setEnabled(enabled);
@@ -160,4 +137,4 @@ void RecordMenus::enable(bool enabled) {
         child->setEnabled(enabled);
 }
 
-}  // namespace screens
+}  // namespace session

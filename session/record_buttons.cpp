@@ -1,14 +1,15 @@
-#include "screens/record_buttons.h"
+#include "session/record_buttons.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <utility>
 
 #include "platform/forms/command_button.h"
 #include "platform/forms/icons.h"
 
 using namespace Qt::StringLiterals;
 
-namespace screens {
+namespace session {
 
 namespace {
 
@@ -43,36 +44,36 @@ QWidget* row(QWidget& form, QVBoxLayout& column, const QString& name) {
 
 }  // namespace
 
-RecordButtons::RecordButtons(QWidget& form, QVBoxLayout& column, const QString& addCaption,
-                             const RecordActions& actions) {
-    makeMoveRow(form, column, actions);
-    makeActionRow(form, column, addCaption, actions);
+RecordButtons::RecordButtons(QWidget& form, QVBoxLayout& column, const QString& addCaption, RecordActions actions)
+    : actions_(std::move(actions)) {
+    makeMoveRow(form, column);
+    makeActionRow(form, column, addCaption);
     showBrowsing(true);
 }
 
-void RecordButtons::makeMoveRow(QWidget& form, QVBoxLayout& column, const RecordActions& actions) {
+void RecordButtons::makeMoveRow(QWidget& form, QVBoxLayout& column) {
     QWidget* moves = row(form, column, u"picStatBox"_s);
-    first_ = moveButton(*moves, u"cmdFirst"_s, u"go-first"_s, u"First Record"_s, actions.first);
-    previous_ = moveButton(*moves, u"cmdPrevious"_s, u"go-previous"_s, u"Previous Record"_s, actions.previous);
+    first_ = moveButton(*moves, u"cmdFirst"_s, u"go-first"_s, u"First Record"_s, actions_.first);
+    previous_ = moveButton(*moves, u"cmdPrevious"_s, u"go-previous"_s, u"Previous Record"_s, actions_.previous);
     status_ = new QLabel(moves);
     status_->setObjectName(u"lblStatus"_s);
     status_->setFrameShape(QFrame::StyledPanel);
     status_->setIndent(6);
     static_cast<QHBoxLayout*>(moves->layout())->addWidget(status_, 1);
-    next_ = moveButton(*moves, u"cmdNext"_s, u"go-next"_s, u"Next Record"_s, actions.next);
-    last_ = moveButton(*moves, u"cmdLast"_s, u"go-last"_s, u"Last Record"_s, actions.last);
+    next_ = moveButton(*moves, u"cmdNext"_s, u"go-next"_s, u"Next Record"_s, actions_.next);
+    last_ = moveButton(*moves, u"cmdLast"_s, u"go-last"_s, u"Last Record"_s, actions_.last);
 }
 
-void RecordButtons::makeActionRow(QWidget& form, QVBoxLayout& column, const QString& addCaption,
-                                  const RecordActions& actions) {
+void RecordButtons::makeActionRow(QWidget& form, QVBoxLayout& column, const QString& addCaption) {
     QWidget* buttons = row(form, column, u"picButtons"_s);
-    add_ = button(*buttons, u"cmdAdd"_s, addCaption, actions.add);
-    edit_ = button(*buttons, u"cmdEdit"_s, u"&Edit"_s, actions.edit);
-    update_ = button(*buttons, u"cmdUpdate"_s, u"&Save"_s, actions.update);
-    cancel_ = button(*buttons, u"cmdCancel"_s, u"&Cancel"_s, actions.cancel);
-    delete_ = button(*buttons, u"cmdDelete"_s, u"&Delete"_s, actions.remove);
-    static_cast<QHBoxLayout*>(buttons->layout())->addStretch(1);
-    close_ = button(*buttons, u"cmdClose"_s, u"C&lose"_s, actions.close);
+    add_ = button(*buttons, u"cmdAdd"_s, addCaption, actions_.add);
+    edit_ = button(*buttons, u"cmdEdit"_s, u"&Edit"_s, actions_.edit);
+    update_ = button(*buttons, u"cmdUpdate"_s, u"&Save"_s, actions_.update);
+    cancel_ = button(*buttons, u"cmdCancel"_s, u"&Cancel"_s, actions_.cancel);
+    delete_ = button(*buttons, u"cmdDelete"_s, u"&Delete"_s, actions_.remove);
+    actionRow_ = static_cast<QHBoxLayout*>(buttons->layout());
+    actionRow_->addStretch(1);
+    close_ = button(*buttons, u"cmdClose"_s, u"C&lose"_s, actions_.close);
 }
 
 void RecordButtons::showBrowsing(bool browsing) {
@@ -83,12 +84,17 @@ void RecordButtons::showBrowsing(bool browsing) {
         for (platform::CommandButton* button : buttons)
             button->setVisible(visible);
     };
-    show({add_, edit_, delete_, close_}, true);
-    show({update_, cancel_}, true);
+    show({edit_, close_, update_, cancel_}, true);
     // A button that goes with the focus would leave it to the owner, who may be one that can't be left.
     if (heir) heir->setFocus();
-    show({add_, edit_, delete_, close_}, browsing);
+    show({edit_, close_}, browsing);
+    show({add_, delete_}, browsing && actions_.add);
     show({update_, cancel_}, !browsing);
+}
+
+void RecordButtons::addNote(QLabel& note) {
+    actionRow_->insertWidget(actionRow_->count() - 1, &note);
+    actionRow_->insertSpacing(actionRow_->count() - 1, 12);
 }
 
 void RecordButtons::enableMoves(bool enabled) {
@@ -96,4 +102,4 @@ void RecordButtons::enableMoves(bool enabled) {
         move->setEnabled(enabled);
 }
 
-}  // namespace screens
+}  // namespace session

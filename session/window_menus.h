@@ -9,32 +9,34 @@ class QMenu;
 class QToolBar;
 class QWidget;
 
-namespace screens {
+namespace session {
 
-enum class ChildKind;
-
-/// What opens the child screen of a kind: a menu entry and a key of the toolbar.
+/// What opens a child screen: a menu entry and a key of the toolbar.
 struct ChildCommand {
-    ChildKind kind;
+    QString name;  ///< of the child, "Inventory": the entry is mInventory, the key tbInventory
+    QString icon;
     QString tooltip;
     std::function<void()> routine;
 };
 
-/// What the menus and the toolbar of a record screen set off. An entry without a routine is there, but disabled.
-struct RecordCommands {
+/// What the menus and the toolbar of a data window set off. An entry without a routine is there, but disabled; those of
+/// attachments and of all records are left out of a window that has none.
+struct WindowCommands {
     std::function<void()> newDatabase, restore, backup, coverPage, exit;
     std::function<void()> copy, cut, paste;
     std::function<void()> attachments, print, printAll, save, saveAll;
     std::function<void()> help, about;
     std::vector<ChildCommand> children{};
+    bool hasAttachments = true;
+    bool hasAllRecords = true;
     /// Tooltip of the toolbar's last key, which differs on the Person screen.
     const char* saveAllHint = "Save all records to file";
 };
 
-/// The menus and the toolbar of a record screen; a key of the toolbar and its menu entry set off the same routine.
-class RecordMenus {
+/// The menus and the toolbar of a data window; a key of the toolbar and its menu entry set off the same routine.
+class WindowMenus {
 public:
-    RecordMenus(QWidget& form, const RecordCommands& commands);
+    WindowMenus(QWidget& form, const WindowCommands& commands);
 
     [[nodiscard]] const std::vector<QMenu*>& menus() const { return menus_; }
     [[nodiscard]] QToolBar& toolbar() const { return *toolbar_; }
@@ -42,11 +44,11 @@ public:
     void enable(bool enabled);
 
 private:
-    void makeFileMenu(QWidget& form, const RecordCommands& commands);
-    void makeEditMenu(QWidget& form, const RecordCommands& commands);
-    void makeOptionsMenu(QWidget& form, const RecordCommands& commands);
+    void makeFileMenu(QWidget& form, const WindowCommands& commands);
+    void makeEditMenu(QWidget& form, const WindowCommands& commands);
+    void makeOptionsMenu(QWidget& form, const WindowCommands& commands);
     void makeWindowMenu(QWidget& form);
-    void makeHelpMenu(QWidget& form, const RecordCommands& commands);
+    void makeHelpMenu(QWidget& form, const WindowCommands& commands);
     void addChildren(const std::vector<ChildCommand>& children);
     void addKey(const QString& key, const QString& icon, const QString& hint, const std::function<void()>& routine);
 
@@ -56,4 +58,4 @@ private:
     QToolBar* toolbar_;
 };
 
-}  // namespace screens
+}  // namespace session

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "lists/sequenced_list.h"
+
+namespace lists {
+
+/// What is to be sold or settled, in which order, and how.
+class AssetLiquidation : public SequencedList {
+    Q_OBJECT
+
+public:
+    AssetLiquidation(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace);
+
+protected:
+    [[nodiscard]] QString selectStatement() const override;
+    [[nodiscard]] std::unique_ptr<EditDialog> makeDialog() override;
+};
+
+}  // namespace lists

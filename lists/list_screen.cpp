@@ -1,0 +1,349 @@
+#include "lists/list_screen.h"
+
+#include <QLabel>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "output/grid_output.h"
+#include "platform/forms/data_grid.h"
+#include "platform/forms/desktop.h"
+#include "session/attachment_count.h"
+#include "session/navigation_keys.h"
+#include "session/session.h"
+#include "session/workspace.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lists {
+
+ListScreen::ListScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+                       const ListDefinition& definition)
+    : DataWindow(desktop, session, workspace, definition.window),
+      definition_(definition),
+      grdDataGrid_(new platform::DataGrid(definition.rowTwips, this)) {
+    for (data::Recordset* recordset : {&rows_, &rsRowWrite_, &rsStatement_}) {
+        recordset->setCursorLocation(data::CursorLocation::Client);
+        recordset->setLockType(data::LockType::Optimistic);
+    }
+    rows_.setCursorType(data::CursorType::Keyset);
+    rsCount_.setLockType(data::LockType::ReadOnly);
+    rsCount_.setCursorLocation(data::CursorLocation::Server);
+    connect(&rows_, &data::Recordset::moveComplete, this,
+            [this] { this->desktop().attempt(u"MoveComplete Error"_s, [this] { moveComplete(); }); });
+    menus_ = std::make_unique<session::WindowMenus>(*this, commands());
+    for (QMenu* menu : menus_->menus())
+        addMenu(menu);
+    layOut();
+}
+
+void ListScreen::layOut() {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 6);
+    column->setSpacing(4);
+    column->addWidget(&menus_->toolbar());
+    grdDataGrid_->setName(u"grdDataGrid"_s);
+    grdDataGrid_->onRowChosen([this](int row) { desktop().run([&] { rowChosen(row); }); });
+    auto* page = new QVBoxLayout;
+    page->setContentsMargins(9, 0, 9, 0);
+    page->addWidget(grdDataGrid_, 1);
+    column->addLayout(page, 1);
+    buttons_ = std::make_unique<session::RecordButtons>(*this, *page, u"&Add"_s, actions());
+    if (definition_.attachmentPrefix.isEmpty()) return;
+    lblAttachments_ = new QLabel(this);
+    lblAttachments_->setObjectName(u"lblAttachments"_s);
+    buttons_->addNote(*lblAttachments_);
+}
+
+session::RecordActions ListScreen::actions() {
+    session::RecordActions actions{
+        .first = handler([this] { move(u"Goto First Record Error"_s, &ListScreen::goFirst); }),
+        .previous = handler([this] { move(u"Goto Previous Record Error"_s, &ListScreen::goPrevious); }),
+        .next = handler([this] { move(u"Goto Next Record Error"_s, &ListScreen::goNext); }),
+        .last = handler([this] { move(u"Goto Last Record Error"_s, &ListScreen::goLast); }),
+        .add = {},
+        .edit = handler([this] { cmdEdit_Click(); }),
+        .update = handler([this] { cmdUpdate_Click(); }),
+        .cancel = handler([this] { cmdCancel_Click(); }),
+        .remove = {},
+        .close = handler([this] { cmdClose_Click(); }),
+    };
+    if (definition_.editsOnly) return actions;
+    actions.add = handler([this] { cmdAdd_Click(); });
+    actions.remove = handler([this] { cmdDelete_Click(); });
+    return actions;
+}
+
+session::WindowCommands ListScreen::commands() {
+    session::WindowCommands commands = commonCommands();
+    commands.attachments = handler([this] { mAttachments_Click(); });
+    commands.print = handler([this] { output::printGrid(desktop(), printable()); });
+    commands.save =
+        handler([this] { output::saveGrid(desktop(), session().applicationFolder, [this] { return printable(); }); });
+    commands.hasAttachments = !definition_.attachmentPrefix.isEmpty();
+    commands.hasAllRecords = false;
+    return commands;
+}
+
+// Load -------------------------------------------------------------------------------------------------------------
+
+void ListScreen::Form_Load() {
+    rows_.open(selectStatement(), session().gConnection);
+    prepareRows();
+    grdDataGrid_->setSource(&rows_);
+    formatGrid();
+    setCaption(captionText());
+}
+
+void ListScreen::formatGrid() {
+    grdDataGrid_->setShares(definition_.shares);
+    setAttachKey();
+}
+
+QString ListScreen::cell(int column) const {
+    return grdDataGrid_->columnText(column);
+}
+
+void ListScreen::moveComplete() {
+    const int position = rows_.absolutePosition();
+    buttons_->status().setText(u"Record: "_s + QString::number(std::max(position, 0)));
+    if (position >= 0) setAttachKey();
+}
+
+void ListScreen::rebind(bool givesUpChange) {
+    grdDataGrid_->setSource(nullptr);
+    if (givesUpChange && rows_.editMode() != data::EditMode::None) rows_.cancelUpdate();
+    rows_.requery();
+    prepareRows();
+    grdDataGrid_->setSource(&rows_);
+    formatGrid();
+}
+
+// Add and edit -----------------------------------------------------------------------------------------------------
+
+bool ListScreen::hasEntries(const QString& purpose) {
+    const bool empty = rows_.bof() && rows_.eof();
+    if (empty) desktop().notice(u"There are no entries to %1."_s.arg(purpose), u"No Entries"_s);
+    return !empty;
+}
+
+void ListScreen::cmdAdd_Click() {
+    desktop().attempt(u"Add Error"_s, [this] {
+        if (!mayChange()) return;
+        openDialog();
+        if (definition_.closesTree) workspace().enableTree(false);
+        buttons_->status().setText(u"Add record"_s);
+        bAdding_ = true;
+        bChange = true;
+        setButtons(false);
+        dialog_->clear();
+        runDialog();
+    });
+}
+
+void ListScreen::cmdEdit_Click() {
+    desktop().attempt(u"Edit Error"_s, [this] {
+        if (!mayChange() || !mayEditRow() || !hasEntries(u"edit"_s)) return;
+        openDialog();
+        fillDialog();
+        beginEdit();
+        buttons_->status().setText(u"Edit record"_s);
+        bEditing_ = true;
+        setButtons(false);
+        dialog_->initScreen();
+        runDialog();
+    });
+}
+
+void ListScreen::openDialog() {
+    closeDialog();
+    dialog_ = &desktop().load(makeDialog());
+}
+
+void ListScreen::fillDialog() {
+    for (const EditField& field : definition_.form.fields) {
+        QString text = cell(field.gridColumn);
+        if (field.ampersands != Ampersands::AsTheyStand) text.replace(u" && "_s, u" & "_s);
+        dialog_->setText(field.name, text);
+    }
+}
+
+void ListScreen::runDialog() {
+    dialog_->showModal();
+    dialog_->success() ? cmdUpdate_Click() : cmdCancel_Click();
+}
+
+void ListScreen::closeDialog() {
+    if (EditDialog* dialog = std::exchange(dialog_, nullptr); dialog && dialog->isLoaded()) dialog->unload();
+}
+
+// Save -------------------------------------------------------------------------------------------------------------
+
+void ListScreen::cmdUpdate_Click() {
+    if (!desktop().attempt(u"Update Error"_s, [this] { save(); })) cmdCancel_Click();
+}
+
+void ListScreen::save() {
+    if (!saveRow()) return;
+    rebind(bEditing_);
+    closeDialog();
+    if (bAdding_) platform::Desktop::passOver([this] { rows_.moveLast(); });
+    endEditing();
+    grdDataGrid_->setFocus();
+}
+
+bool ListScreen::saveRow() {
+    data::Recordset& row = rowWrite();
+    const QString which = bAdding_ ? u"1=2"_s : u"ID = "_s + key();
+    row.setCursorType(data::CursorType::Keyset);
+    row.open(u"Select * from %1 where "_s.arg(definition_.table) + which, session().gConnection);
+    if (bAdding_) row.addNew();
+    for (const EditField& field : definition_.form.fields) {
+        if (!field.stored.isEmpty()) row.setValue(field.stored, dialog_->text(field.name));
+    }
+    writeRow(row);
+    row.update();
+    return true;
+}
+
+void ListScreen::writeRow(data::Recordset& /*row*/) {}
+
+void ListScreen::endEditing() {
+    if (definition_.closesTree) workspace().enableTree(true);
+    bEditing_ = false;
+    bAdding_ = false;
+    setButtons(true);
+}
+
+// Cancel -----------------------------------------------------------------------------------------------------------
+
+void ListScreen::cmdCancel_Click() {
+    closeDialog();
+    endEditing();
+    platform::Desktop::passOver([this] { rows_.cancelUpdate(); });
+    platform::Desktop::passOver([this] { rows_.moveFirst(); });
+}
+
+// Delete -----------------------------------------------------------------------------------------------------------
+
+void ListScreen::cmdDelete_Click() {
+    desktop().attempt(u"Delete Error"_s, [this] {
+        if (!mayChange() || !hasEntries(u"delete"_s) || !mayDeleteRow()) return;
+        if (!desktop().ask(u"Are you sure you want to delete this entry?"_s, u"Delete Confirmation"_s)) return;
+        run(u"Delete * from %1 Where ID = "_s.arg(definition_.table) + key());
+        finishDelete();
+        rebind(true);
+        // The last entry may have gone.
+        if (rows_.eof()) return;
+        rows_.moveNext();
+        if (rows_.eof()) rows_.moveLast();
+    });
+}
+
+// Moves ------------------------------------------------------------------------------------------------------------
+
+void ListScreen::move(const QString& errorTitle, void (ListScreen::*step)()) {
+    desktop().attempt(errorTitle, [this, step] { (this->*step)(); });
+}
+
+void ListScreen::goNext() {
+    if (!rows_.eof()) rows_.moveNext();
+    if (rows_.eof() && rows_.recordCount() > 0) {
+        desktop().beep();
+        rows_.moveLast();
+    }
+}
+
+void ListScreen::goPrevious() {
+    if (!rows_.bof()) rows_.movePrevious();
+    if (rows_.bof() && rows_.recordCount() > 0) {
+        desktop().beep();
+        rows_.moveFirst();
+    }
+}
+
+void ListScreen::rowChosen(int row) {
+    rows_.setBookmark(row + 1);
+}
+
+void ListScreen::Form_KeyDown(int keyCode, int shift) {
+    if (bEditing_ || bAdding_) return;
+    session::navigate(keyCode, shift, *buttons_);
+}
+
+// Close ------------------------------------------------------------------------------------------------------------
+
+void ListScreen::cmdClose_Click() {
+    workspace().enableTree(true);
+    unload();
+}
+
+void ListScreen::Form_Unload() {
+    closeDialog();
+    grdDataGrid_->setSource(nullptr);
+    desktop().run([this] { restRows(); });
+    desktop().setPointer(platform::Pointer::Default);
+}
+
+// Attachments ------------------------------------------------------------------------------------------------------
+
+void ListScreen::mAttachments_Click() {
+    desktop().attempt(u"Attachments Error"_s, [this] {
+        setAttachKey();
+        workspace().showAttachments(rows_.hasCurrentRow() ? cell(1) : QString());
+        setAttachKey();
+    });
+}
+
+void ListScreen::setAttachKey() {
+    if (!lblAttachments_) return;
+    const QString record = rows_.hasCurrentRow() ? rows_.value(u"ID"_s).toString() : u"0"_s;
+    session().gvAttachKey = u"%1_%2_0"_s.arg(definition_.attachmentPrefix, record);
+    desktop().attempt(u"SetNumAttachments Error"_s, [this] {
+        lblAttachments_->setText(session::attachmentCount(rsCount_, session().gConnection, session().gvAttachKey));
+    });
+}
+
+// Listings ---------------------------------------------------------------------------------------------------------
+
+output::PrintableGrid ListScreen::printable() {
+    std::vector<int> shown;
+    output::PrintableGrid grid{.caption = caption()};
+    for (int column = 0; column < grdDataGrid_->columnCount(); ++column) {
+        if (grdDataGrid_->isColumnHidden(column)) continue;
+        shown.push_back(column);
+        grid.columns.push_back({grdDataGrid_->columnCaption(column),
+                                output::listingWidth(grdDataGrid_->columnWidth(column), grdDataGrid_->width())});
+    }
+    // The rows are looked at where they stand, so that the list stays at its current one.
+    grid.walk = [this, shown](const std::function<void(const QStringList&)>& visit) {
+        for (int row = 0; row < rows_.rowCount(); ++row) {
+            const QStringList texts = grdDataGrid_->rowTexts(row);
+            QStringList cells;
+            for (const int column : shown)
+                cells.append(texts[column]);
+            visit(cells);
+        }
+    };
+    return grid;
+}
+
+// What the window shows of its state -------------------------------------------------------------------------------
+
+void ListScreen::setButtons(bool browsing) {
+    buttons_->showBrowsing(browsing);
+    buttons_->enableMoves(browsing);
+}
+
+data::Recordset& ListScreen::rowWrite() {
+    rsRowWrite_.release();
+    rsRowWrite_.setLockType(data::LockType::Optimistic);
+    return rsRowWrite_;
+}
+
+void ListScreen::run(const QString& statement) {
+    rsStatement_.release();
+    rsStatement_.open(statement, session().gConnection);
+}
+
+}  // namespace lists

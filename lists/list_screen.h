@@ -1,0 +1,145 @@
+#pragma once
+
+#include <memory>
+
+#include "data/recordset.h"
+#include "lists/edit_dialog.h"
+#include "output/printable_grid.h"
+#include "session/data_window.h"
+#include "session/record_buttons.h"
+#include "session/window_menus.h"
+
+class QLabel;
+
+namespace platform {
+class DataGrid;
+}
+
+namespace lists {
+
+/// What tells one list from another.
+struct ListDefinition {
+    QString window;
+    QString caption;
+    /// The table whose rows the list edits.
+    QString table;
+    int rowTwips;
+    /// Of the grid's width, by columns. The first column is the key.
+    std::vector<double> shares;
+    EditForm form;
+    /// Front of the attachment keys; empty for a list without attachments.
+    QString attachmentPrefix{};
+    /// The rows are only edited here; they come and go elsewhere.
+    bool editsOnly = false;
+    /// The category tree is closed while a row is added.
+    bool closesTree = false;
+};
+
+/// A window that shows a whole table in a grid and edits its rows in a small modal dialog.
+///
+/// The row that is selected in the grid is the recordset's current one. After an edit or a cancel that is the first
+/// row, after an add the last.
+class ListScreen : public session::DataWindow {
+    Q_OBJECT
+
+public:
+    /// `definition` is kept; it has to live longer than the window.
+    ListScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
+               const ListDefinition& definition);
+
+    void Form_Load() override;
+    [[nodiscard]] bool keyPreview() const override { return true; }
+    void Form_KeyDown(int keyCode, int shift) override;
+    /// A list has nothing to lose: what was entered stands in the file.
+    void Form_QueryUnload(bool& /*cancel*/) override {}
+    void Form_Unload() override;
+
+protected:
+    // The steps in which a kind of list differs.
+    [[nodiscard]] virtual QString selectStatement() const = 0;
+    [[nodiscard]] virtual QString captionText() const { return definition_.caption; }
+    [[nodiscard]] virtual std::unique_ptr<EditDialog> makeDialog() = 0;
+    /// The rows were read, for the first time or anew.
+    virtual void prepareRows() {}
+    /// The list closes, and nobody looks at its rows any more.
+    virtual void restRows() {}
+    /// Whether a row may be changed at all; tells why not.
+    [[nodiscard]] virtual bool mayEditRow() { return true; }
+    [[nodiscard]] virtual bool mayDeleteRow() { return true; }
+    /// The dialog holds the texts of the row that is about to be edited.
+    virtual void beginEdit() {}
+    /// Writes what the dialog holds, as a new row or over the current one. False if there is nothing to write yet, and
+    /// the list stays as it is.
+    [[nodiscard]] virtual bool saveRow();
+    /// The columns that are written in a way of their own.
+    virtual void writeRow(data::Recordset& row);
+    /// The table holds a row less.
+    virtual void finishDelete() {}
+
+    [[nodiscard]] const ListDefinition& definition() const { return definition_; }
+    [[nodiscard]] data::Recordset& rows() { return rows_; }
+    /// Text of the current row's cell. Throws RuntimeError 3021 without a current row.
+    [[nodiscard]] QString cell(int column) const;
+    /// Key of the current row, as text.
+    [[nodiscard]] QString key() const { return cell(0); }
+    [[nodiscard]] EditDialog& dialog() { return *dialog_; }
+    [[nodiscard]] bool isAdding() const { return bAdding_; }
+    /// A recordset for one statement after the other: closed, whatever it was used for before.
+    [[nodiscard]] data::Recordset& rowWrite();
+    /// Runs a statement that returns no rows.
+    void run(const QString& statement);
+
+private:
+    void layOut();
+    [[nodiscard]] session::RecordActions actions();
+    [[nodiscard]] session::WindowCommands commands();
+    void formatGrid();
+    void moveComplete();
+    void rowChosen(int row);
+    /// Reads the rows anew with the grid let go.
+    void rebind(bool givesUpChange);
+
+    void cmdAdd_Click();
+    void cmdEdit_Click();
+    void cmdUpdate_Click();
+    void cmdCancel_Click();
+    void cmdDelete_Click();
+    void cmdClose_Click();
+    /// False, after telling so, in an empty list.
+    [[nodiscard]] bool hasEntries(const QString& purpose);
+    void openDialog();
+    void fillDialog();
+    void runDialog();
+    void closeDialog();
+    /// Writes what the dialog holds and shows the list as it is then.
+    void save();
+    void endEditing();
+
+    void move(const QString& errorTitle, void (ListScreen::*step)());
+    void goFirst() { rows_.moveFirst(); }
+    void goPrevious();
+    void goNext();
+    void goLast() { rows_.moveLast(); }
+
+    void mAttachments_Click();
+    void setAttachKey();
+    [[nodiscard]] output::PrintableGrid printable();
+
+    void setButtons(bool browsing);
+
+    const ListDefinition& definition_;
+    data::Recordset rows_;
+    data::Recordset rsRowWrite_;
+    data::Recordset rsStatement_;
+    data::Recordset rsCount_;
+    std::unique_ptr<session::WindowMenus> menus_;
+    std::unique_ptr<session::RecordButtons> buttons_;
+    platform::DataGrid* grdDataGrid_;
+    QLabel* lblAttachments_ = nullptr;
+    /// Loaded while a row is added or edited.
+    EditDialog* dialog_ = nullptr;
+    bool bEditing_ = false;
+    bool bAdding_ = false;
+};
+
+}  // namespace lists

@@ -1,0 +1,113 @@
+#include "platform/forms/data_grid.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+#include "platform/base/record_source.h"
+#include "platform/base/runtime_error.h"
+#include "platform/forms/grid_delegate.h"
+#include "platform/forms/grid_model.h"
+
+namespace platform {
+
+namespace {
+constexpr int twipsPerPixel = 15;
+constexpr int scrollBarTwips = 315;
+}  // namespace
+
+DataGrid::DataGrid(int rowTwips, QWidget* parent) : QTableView(parent), model_(std::make_unique<GridModel>()) {
+    setModel(model_.get());
+    setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setItemDelegate(new GridDelegate(this));
+    setAlternatingRowColors(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setDefaultSectionSize(std::max(rowTwips / twipsPerPixel, fontMetrics().height() + 6));
+    QFont bold = font();
+    bold.setBold(true);
+    horizontalHeader()->setFont(bold);
+    horizontalHeader()->setMinimumSectionSize(0);
+    horizontalHeader()->setHighlightSections(false);
+}
+
+DataGrid::~DataGrid() {
+    setModel(nullptr);
+}
+
+void DataGrid::setSource(RowSource* source) {
+    if (source_) source_->disconnect(this);
+    source_ = source;
+    const QScopedValueRollback following(following_, true);
+    model_->setSource(source);
+    if (!source) return;
+    connect(source, &RecordSource::rowShown, this, &DataGrid::showCurrentRow);
+    showCurrentRow();
+}
+
+int DataGrid::columnCount() const {
+    return model_->columnCount();
+}
+
+QString DataGrid::columnCaption(int column) const {
+    return model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+}
+
+QString DataGrid::columnText(int column) const {
+    if (!source_ || source_->currentRow() < 0) throw RuntimeError(3021);
+    return rowTexts(source_->currentRow()).at(column);
+}
+
+QStringList DataGrid::rowTexts(int row) const {
+    return model_->texts(row);
+}
+
+void DataGrid::setShares(std::vector<double> shares) {
+    shares_ = std::move(shares);
+    spreadColumns();
+}
+
+void DataGrid::spreadColumns() {
+    const int width = this->width() - scrollBarTwips / twipsPerPixel;
+    for (int column = 0; column < std::min(columnCount(), static_cast<int>(shares_.size())); ++column) {
+        const int pixels = static_cast<int>(width * shares_[static_cast<std::size_t>(column)]);
+        setColumnHidden(column, pixels < 2);
+        if (pixels >= 2) setColumnWidth(column, pixels);
+    }
+}
+
+void DataGrid::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    spreadColumns();
+}
+
+void DataGrid::showCurrentRow() {
+    const QScopedValueRollback following(following_, true);
+    const int row = source_ ? source_->currentRow() : -1;
+    int column = 0;
+    while (column < columnCount() && isColumnHidden(column))
+        ++column;
+    const QModelIndex index = row < 0 ? QModelIndex() : model_->index(row, column);
+    setCurrentIndex(index);
+    if (!index.isValid()) clearSelection();
+}
+
+void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    const bool byUser = !following_ && current.isValid() && current.row() != previous.row();
+    if (byUser && chosen_) chosen_(current.row());
+}
+
+void DataGrid::keyPressEvent(QKeyEvent* event) {
+    // The form moves its recordset by the keyboard, and the grid goes with it.
+    event->ignore();
+}
+
+}  // namespace platform

@@ -1,0 +1,50 @@
+#include "platform/forms/grid_model.h"
+
+#include "platform/base/display_format.h"
+#include "platform/base/record_source.h"
+
+namespace platform {
+
+void GridModel::setSource(RowSource* source) {
+    beginResetModel();
+    source_ = source;
+    columns_ = source ? source->columnNames() : QStringList();
+    rows_ = source ? source->rowCount() : 0;
+    seen_.clear();
+    endResetModel();
+}
+
+QStringList GridModel::texts(int row) const {
+    if (const QStringList* known = seen_.object(row)) return *known;
+    QStringList texts(columns_.size());
+    const auto values = source_ ? source_->rowAt(row) : std::vector<QVariant>();
+    for (qsizetype column = 0; column < static_cast<qsizetype>(values.size()); ++column) {
+        const QVariant& value = values[static_cast<std::size_t>(column)];
+        texts[column] = displayText(value, source_->columnKind(columns_[column]), {});
+    }
+    seen_.insert(row, new QStringList(texts));
+    return texts;
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignTop);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+    const QString text = texts(index.row())[index.column()];
+    return role == Qt::ToolTipRole && text.isEmpty() ? QVariant() : text;
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || section >= columns_.size()) return {};
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    return role == Qt::DisplayRole ? columns_[section] : QVariant();
+}
+
+}  // namespace platform
