@@ -4,6 +4,7 @@
 
 #include "app/mdi_host.h"
 #include "app/splash_window.h"
+#include "data/database_files.h"
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
@@ -130,7 +131,7 @@ void Kinbook::replaceDatabase(const QString& chosen) {
     session_->gsDatabasePath = session_->path(session_->gsDatabaseName);
     if (session_->gConnection.isOpen()) session_->gConnection.close();
     desktop_->unloadAll([](const platform::Form& form) { return form.name() != MDIHost::formName(); });
-    platform::files::copyFile(chosen, session_->gsDatabasePath);
+    data::replaceDatabase(chosen, session_->gsDatabasePath);
     session_->gConnection.setCursorLocation(data::CursorLocation::Client);
     session_->gConnection.open(session_->gsDatabasePath);
     desktop_->notice(u"Your database, "_s + chosenName + u", has been restored as "_s + u"FamilyInfo.mdb"_s +

@@ -47,7 +47,8 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
       session_(session),
       panel_(new HostPanel(this)),
       categories_(panel_->tvTree(), session, rsHost_),
-      dispatch_(*this) {
+      dispatch_(*this),
+      database_(*this) {
     desktop.setHost(this);
     setPanel(*panel_);
     setCaption(u"Larkmoor Kinbook"_s);
@@ -66,10 +67,9 @@ QString MDIHost::formName() {
 
 void MDIHost::makeMenus() {
     QMenu* file = platform::makeMenu(*this, u"mFile"_s, u"&File"_s);
-    for (const auto& [name, caption] :
-         {std::pair{u"mNew"_s, u"New"_s}, {u"mOpen"_s, u"Restore"_s}, {u"mBackup"_s, u"Backup"_s}}) {
-        platform::addEntry(*file, name, caption, [] {})->setEnabled(false);
-    }
+    platform::addEntry(*file, u"mNew"_s, u"New"_s, handler([this] { newDatabase(); }));
+    platform::addEntry(*file, u"mOpen"_s, u"Restore"_s, handler([this] { restoreDatabase(); }));
+    platform::addEntry(*file, u"mBackup"_s, u"Backup"_s, handler([this] { backupDatabase(); }));
     platform::addSeparator(*file, u"Sep1"_s);
     platform::addEntry(*file, u"mFamilySequence"_s, u"Family Sequence..."_s,
                        handler([this] { mFamilySequence_Click(); }));
@@ -135,6 +135,10 @@ void MDIHost::loadFamily() {
         }
         if (selector.isVisible()) selector.selectAll();
     });
+}
+
+void MDIHost::selectWholeName() {
+    panel_->cbPerson().selectAll();
 }
 
 // Selection --------------------------------------------------------------------------------------------------------

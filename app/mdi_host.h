@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/category_tree.h"
+#include "app/database_commands.h"
 #include "app/dispatch.h"
 #include "data/recordset.h"
 #include "platform/forms/mdi_frame.h"
@@ -36,6 +37,10 @@ public:
     [[nodiscard]] qint64 count(const QString& counted);
     /// The data window of that name, loaded if it isn't yet; nullptr for a name that no window has.
     [[nodiscard]] session::DataWindow* touch(const QString& name);
+    /// Fills the selector with the family's names.
+    void loadFamily();
+    /// Selects the selector's whole text.
+    void selectWholeName();
 
     void Form_Load() override;
     void Form_Unload() override;
@@ -56,6 +61,9 @@ public:
     void showOutbuildingsScreen(const session::ChildRequest& request) override;
     void showCoverPage() override;
     void showAttachments(const QString& ownerName) override;
+    void newDatabase() override { database_.newDB(); }
+    void restoreDatabase() override { database_.openDB(); }
+    void backupDatabase() override { database_.backupDB(); }
     void exitProgram() override;
 
 protected:
@@ -64,7 +72,6 @@ protected:
 private:
     void makeMenus();
     void connectControls();
-    void loadFamily();
     void cbPerson_Click();
     /// Sets the session's member from the selector's text; false when it matches nobody.
     [[nodiscard]] bool acceptSelection();
@@ -83,6 +90,7 @@ private:
     data::Recordset rsHost_;
     CategoryTree categories_;
     Dispatch dispatch_;
+    DatabaseCommands database_;
     int iCurrentNode_ = 1;
 };
 

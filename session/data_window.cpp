@@ -23,6 +23,9 @@ bool DataWindow::mayChange() {
 
 WindowCommands DataWindow::commonCommands() {
     WindowCommands commands;
+    commands.newDatabase = handler([this] { workspace_.newDatabase(); });
+    commands.restore = handler([this] { workspace_.restoreDatabase(); });
+    commands.backup = handler([this] { workspace_.backupDatabase(); });
     commands.coverPage = handler([this] { workspace_.showCoverPage(); });
     commands.exit = handler([this] { workspace_.exitProgram(); });
     commands.copy = handler([this] { copySelection(*this, Copy::Keep); });

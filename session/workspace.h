@@ -47,6 +47,12 @@ public:
     /// Shows the files of the session's attachment key, and returns when the user has closed them.
     virtual void showAttachments(const QString& ownerName) = 0;
 
+    /// Each replaces or copies the whole database; the first two close every window but the host, so a window that asks
+    /// for one of them must return at once.
+    virtual void newDatabase() = 0;
+    virtual void restoreDatabase() = 0;
+    virtual void backupDatabase() = 0;
+
     /// Leaves the program.
     virtual void exitProgram() = 0;
 };

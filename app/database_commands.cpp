@@ -1,0 +1,266 @@
+#include "app/database_commands.h"
+
+#include "app/mdi_host.h"
+#include "data/database_files.h"
+#include "platform/base/conversions.h"
+#include "platform/base/files.h"
+#include "platform/base/runtime_error.h"
+#include "platform/forms/desktop.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+using platform::Icon;
+using platform::numberText;
+using platform::Pointer;
+using platform::RuntimeError;
+namespace files = platform::files;
+
+namespace app {
+
+namespace {
+
+const QString liveName = u"FamilyInfo.mdb"_s;
+
+double fileKilobytes(const QString& path) {
+    return data::kilobytes(files::fileSize(path));
+}
+
+double folderKilobytes(const QString& folder) {
+    return data::kilobytes(files::folderSize(folder));
+}
+
+double folderKilobytesIfAny(const QString& folder) {
+    return files::folderExists(folder) ? folderKilobytes(folder) : 0;
+}
+
+}  // namespace
+
+DatabaseCommands::DatabaseCommands(MDIHost& host) : host_(host), session_(host.session()) {}
+
+platform::Desktop& DatabaseCommands::desktop() const {
+    return host_.desktop();
+}
+
+QString DatabaseCommands::attachments() const {
+    return session_.path(u"Attachments"_s);
+}
+
+void DatabaseCommands::attempt(const QString& title, const std::function<void()>& routine) {
+    replacing_ = false;
+    platform::Desktop::attempt(routine, [&](const RuntimeError& error) {
+        desktop().setPointer(Pointer::Default);
+        desktop().notice(error.report(), title, Icon::Critical);
+        if (replacing_ && session_.gConnection.isOpen()) host_.loadFamily();
+    });
+}
+
+// New --------------------------------------------------------------------------------------------------------------
+
+void DatabaseCommands::newDB() {
+    attempt(u"NewDB Error"_s, [this] {
+        if (confirmFreshStart()) startFresh();
+    });
+}
+
+bool DatabaseCommands::confirmFreshStart() {
+    const bool goesOn = desktop().ask(
+        u"Starting with a fresh database will destroy the database you have created thus far.  If you want to save "
+        "your current database, you should use the Backup function to save your current database before you continue "
+        "with this process.\r\n\r\n"
+        "NOTE also that you must clear your password if you have set one on your current database before you start "
+        "this new database.  If you do not clear your password you will be locked out of your new database.  Do you "
+        "still want to continue?"_s,
+        u"Fresh Start Confirmation"_s);
+    if (!goesOn) {
+        desktop().notice(
+            u"No changes were made to your existing database.  It is recommended that you backup your existing "
+            "database by using the Backup function before starting fresh unless you know that your existing database "
+            "is worthless."_s,
+            u"No Changes Made"_s, Icon::Information);
+    }
+    return goesOn;
+}
+
+void DatabaseCommands::startFresh() {
+    desktop().setPointer(Pointer::Hourglass);
+    const QString source = session_.path(u"FamilyInfo_Empty.mdb"_s);
+    if (!files::fileExists(source)) {
+        desktop().notice(source + u" does not exist."_s, u"File Not Found"_s, Icon::Information);
+        return;
+    }
+    if (!closeWindows()) return;
+    replaceLive(source);
+    data::emptyFolder(attachments());
+    desktop().setPointer(Pointer::Default);
+    desktop().notice(u"Your database, "_s + session_.gsDatabaseName + u", has been created and is ready for use."_s);
+    host_.loadFamily();
+}
+
+// Restore ----------------------------------------------------------------------------------------------------------
+
+void DatabaseCommands::openDB() {
+    attempt(u"OpenDB Error"_s, [this] {
+        if (confirmRestore()) restore();
+    });
+}
+
+bool DatabaseCommands::confirmRestore() {
+    return desktop().ask(
+        u"When you restore a database, the current database \r\n"
+        "will be destroyed.  If, for some reason, you are wanting \r\n"
+        "to restore a database and not lose the current database, \r\n"
+        "you must backup the current database before continuing \r\n"
+        "this restore function.\r\n\r\n"
+        "Do you want to continue?"_s,
+        u"Restore Database Confirmation"_s);
+}
+
+QString DatabaseCommands::chooseSource() {
+    const QString chosen = desktop().dialogs().fileDialog({.folder = session_.applicationFolder,
+                                                           .filterText = u"Database Files (*.mdb)"_s,
+                                                           .filterPattern = u"*.mdb"_s,
+                                                           .title = u"Database to Restore"_s});
+    session_.gsDatabaseName = files::nameOf(chosen);
+    session_.gsDatabasePath = chosen;
+    return chosen;
+}
+
+void DatabaseCommands::restore() {
+    const QString chosen = chooseSource();
+    if (chosen.isEmpty()) return refuseNoName(u"No database name was selected to restore."_s);
+    desktop().setPointer(Pointer::Hourglass);
+    const QString companion = data::companionFolder(chosen);
+    Sizes expected{.attachments = folderKilobytesIfAny(companion)};
+    if (!files::fileExists(chosen)) {
+        desktop().notice(chosen + u" does not exist.  No database was opened."_s, u"File Does Not Exist"_s,
+                         Icon::Information);
+        return;
+    }
+    expected.database = fileKilobytes(chosen);
+    if (!closeWindows()) return;
+    // Taking the old attachments away must not take the backup's.
+    data::requireApart(companion, attachments());
+    replaceLive(chosen);
+    copyAttachments(chosen);
+    const Sizes copied{fileKilobytes(session_.gsDatabasePath), folderKilobytes(attachments())};
+    desktop().setPointer(Pointer::Default);
+    if (copied == expected) {
+        desktop().notice(u"Your database, "_s + files::nameOf(chosen) + u", has been restored as \r\n"_s + liveName +
+                             u", and is ready for use."_s,
+                         u"Database Restored"_s, Icon::Information);
+    } else {
+        tellIncomplete();
+    }
+    host_.loadFamily();
+}
+
+void DatabaseCommands::copyAttachments(const QString& source) {
+    desktop().attempt(u"CopyAttachments"_s, [&] {
+        if (files::folderExists(attachments())) files::deleteAllFiles(attachments(), true);
+        const QString companion = data::companionFolder(source);
+        if (files::folderExists(companion)) files::copyAllFiles(companion, attachments());
+    });
+}
+
+// Replacing the live file ------------------------------------------------------------------------------------------
+
+bool DatabaseCommands::closeWindows() {
+    session_.gsDatabaseName = liveName;
+    session_.gsDatabasePath = session_.path(liveName);
+    desktop().unloadAll([this](const platform::Form& form) { return &form != &host_; });
+    // Who won't give up what he has typed doesn't want another file under it.
+    const bool closed = desktop().count() == 1;
+    if (!closed) desktop().setPointer(Pointer::Default);
+    replacing_ = closed;
+    return closed;
+}
+
+void DatabaseCommands::replaceLive(const QString& source) {
+    if (session_.gConnection.isOpen()) session_.gConnection.close();
+    platform::Desktop::attempt([&] { data::replaceDatabase(source, session_.gsDatabasePath); },
+                               [&](const RuntimeError& failure) {
+                                   platform::Desktop::passOver([this] { openLive(); });
+                                   throw failure;
+                               });
+    openLive();
+}
+
+void DatabaseCommands::openLive() {
+    session_.gConnection.setCursorLocation(data::CursorLocation::Client);
+    session_.gConnection.open(session_.gsDatabasePath);
+}
+
+// Backup -----------------------------------------------------------------------------------------------------------
+
+void DatabaseCommands::backupDB() {
+    attempt(u"BackupDB Error"_s, [this] { backup(); });
+}
+
+QString DatabaseCommands::chooseTarget() {
+    return desktop().dialogs().fileDialog({.mode = platform::FileRequest::Mode::Save,
+                                           .folder = session_.path(u"Backup"_s),
+                                           .filterText = u"Database Files (*.mdb)"_s,
+                                           .filterPattern = u"*.mdb"_s,
+                                           .fileName = session_.path(u"FamilyInfoBackup.mdb"_s)});
+}
+
+bool DatabaseCommands::confirmBackup(const Sizes& sizes) {
+    const bool goesOn = desktop().ask(
+        u"Your backup database and attachments will require "_s + numberText(sizes.database + sizes.attachments) +
+            u" kilobytes of space on your backup medium.  The backup will not be successful if you do "
+            "not have sufficient space.\r\n\r\nDo you want to continue?"_s,
+        u"Backup Database Size Requirements"_s);
+    if (!goesOn) desktop().notice(u"No data was saved."_s, u"No Backup"_s, Icon::Information);
+    return goesOn;
+}
+
+void DatabaseCommands::backup() {
+    const QString target = chooseTarget();
+    if (target.isEmpty()) return refuseNoName(u"No database name was selected for the backup database."_s);
+    const QString companion = data::companionFolder(target);
+    Sizes expected{.attachments = folderKilobytesIfAny(attachments())};
+    const QString source = session_.gsDatabasePath;
+    if (!files::fileExists(source)) {
+        desktop().notice(u"The original database does not exist."_s, u"No Source Database"_s, Icon::Information);
+        return;
+    }
+    expected.database = fileKilobytes(source);
+    if (!confirmBackup(expected)) return;
+    desktop().setPointer(Pointer::Hourglass);
+    // The source need not be the live file, which must not be overwritten all the same.
+    if (data::isSameFile(target, session_.gConnection.path())) throw RuntimeError(70);
+    data::requireApart(companion, attachments());
+    files::copyFile(source, target);
+    saveAttachments(target);
+    const Sizes copied{fileKilobytes(target), folderKilobytes(companion)};
+    desktop().setPointer(Pointer::Default);
+    if (copied != expected) return tellIncomplete();
+    desktop().notice(u"Your backup database is:  "_s + target + u"\r\nIt contains "_s + numberText(copied.database) +
+                         u" kilobytes.\r\n\r\nYour attachments are contained in: "_s + companion + u"\r\nThere are "_s +
+                         numberText(copied.attachments) + u" kilobytes of attachments. "_s,
+                     u"Backup Database Information"_s, Icon::Information);
+}
+
+void DatabaseCommands::saveAttachments(const QString& target) {
+    desktop().attempt(u"SaveAttachments"_s, [&] {
+        const QString companion = data::companionFolder(target);
+        if (files::folderExists(companion)) files::deleteFolder(companion, true);
+        if (files::folderExists(attachments())) files::copyFolder(attachments(), companion);
+    });
+}
+
+// Refusals ---------------------------------------------------------------------------------------------------------
+
+void DatabaseCommands::refuseNoName(const QString& text) {
+    desktop().notice(text, u"No Database Name"_s, Icon::Information);
+    host_.selectWholeName();
+}
+
+void DatabaseCommands::tellIncomplete() {
+    desktop().notice(
+        u"Your data was not completely copied.  There was probably not enough space on your backup disk.  Make more "
+        "space available by deleting some files on your disk and try again."_s,
+        u"Backup Failure"_s, Icon::Critical);
+}
+
+}  // namespace app

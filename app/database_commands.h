@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace platform {
+class Desktop;
+}
+
+namespace session {
+struct Session;
+}
+
+namespace app {
+
+class MDIHost;
+
+/// The three commands that deal with the family's data as a whole: the database file and the folder of attached files.
+///
+/// New and Restore close every window but the host, which also lets the list of PINs encipher itself, and put another
+/// file in the place of the live one. When that fails the old file is whole and open again. Attached files are replaced
+/// one by one behind that, without a way back.
+class DatabaseCommands {
+public:
+    explicit DatabaseCommands(MDIHost& host);
+
+    /// Starts afresh with the empty database.
+    void newDB();
+    /// Restores a backup that the user chooses.
+    void openDB();
+    /// Copies the database and the attached files to a place that the user chooses.
+    void backupDB();
+
+private:
+    /// What a copy is held against: kilobytes of the database and of the attached files.
+    struct Sizes {
+        double database = 0;
+        double attachments = 0;
+        bool operator==(const Sizes&) const = default;
+    };
+
+    /// Runs a routine that has an error title. After a failure the pointer is normal again, and the selector shows
+    /// whom the open file holds.
+    void attempt(const QString& title, const std::function<void()>& routine);
+
+    void startFresh();
+    [[nodiscard]] bool confirmFreshStart();
+    void restore();
+    [[nodiscard]] bool confirmRestore();
+    /// Full name of the file to restore, which becomes the session's database at once; empty for none.
+    [[nodiscard]] QString chooseSource();
+    void backup();
+    [[nodiscard]] QString chooseTarget();
+    [[nodiscard]] bool confirmBackup(const Sizes& sizes);
+    void copyAttachments(const QString& source);
+    void saveAttachments(const QString& target);
+
+    /// Closes every window but the host; false when the user keeps one with its changes. From here on the session's
+    /// database is the live file again.
+    [[nodiscard]] bool closeWindows();
+    /// Closes the connection, puts a copy in the place of the live file and opens what stands there, also after a
+    /// failure.
+    void replaceLive(const QString& source);
+    void openLive();
+
+    void refuseNoName(const QString& text);
+    void tellIncomplete();
+    [[nodiscard]] platform::Desktop& desktop() const;
+    [[nodiscard]] QString attachments() const;
+
+    MDIHost& host_;
+    session::Session& session_;
+    /// The windows are closed for a new file, so the selector has to be filled anew.
+    bool replacing_ = false;
+};
+
+}  // namespace app
