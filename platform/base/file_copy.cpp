@@ -125,6 +125,24 @@ QString copyUnsynced(const QString& source, const QString& target, const CopyPro
     return to.folder();
 }
 
+/// Waits until the contents of a file are on the disk.
+void flushContents(const QString& path) {
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int error = descriptor >= 0 && ::fsync(descriptor) == 0 ? 0 : errno;
+    if (descriptor >= 0) ::close(descriptor);
+    if (error != 0) throwSystemError(error, 53);
+}
+
+/// Copies files of one folder into another. They are flushed when all are written, for a wait at each would keep the
+/// disk idle in between.
+void copyFiles(const QStringList& names, const QString& folder, const QString& targetFolder) {
+    for (const QString& name : names)
+        copyUnsynced(join(folder, name), join(targetFolder, name), {}, FileReplacement::Flush::Later);
+    for (const QString& name : names)
+        flushContents(join(targetFolder, name));
+    syncFolder(targetFolder);
+}
+
 }  // namespace
 
 void copyFile(const QString& source, const QString& target, const CopyProgress& progress) {
@@ -136,10 +154,7 @@ void copyFileUnflushed(const QString& source, const QString& target) {
 }
 
 void flush(const QString& path) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    const int error = descriptor >= 0 && ::fsync(descriptor) == 0 ? 0 : errno;
-    if (descriptor >= 0) ::close(descriptor);
-    if (error != 0) throwSystemError(error, 53);
+    flushContents(path);
     syncFolder(parentOf(path));
 }
 
@@ -147,9 +162,7 @@ void copyAllFiles(const QString& folder, const QString& targetFolder) {
     const QStringList names = entriesOf(folder).files;
     if (names.isEmpty()) throw RuntimeError(53);
     if (!folderExists(targetFolder)) throw RuntimeError(76);
-    for (const QString& name : names)
-        copyUnsynced(join(folder, name), join(targetFolder, name));
-    syncFolder(targetFolder);
+    copyFiles(names, folder, targetFolder);
 }
 
 void makeFolder(const QString& path) {
@@ -164,9 +177,7 @@ void copyFolder(const QString& source, const QString& target) {
     // Listed before the target is made, so that a folder copied into itself comes to an end.
     const FolderEntries entries = entriesOf(source);
     makeFolder(target);
-    for (const QString& name : entries.files)
-        copyUnsynced(join(source, name), join(target, name));
-    syncFolder(target);
+    copyFiles(entries.files, source, target);
     for (const QString& name : entries.folders)
         copyFolder(join(source, name), join(target, name));
 }

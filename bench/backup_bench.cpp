@@ -1,0 +1,114 @@
+// Backup and restore of 500 MB of attachments in 500 files against cp -r of the same, and the memory that they take
+// beyond what was in use before. cp doesn't wait for the disk; both commands do before they tell of success, so they
+// are held against cp and sync as well. A restore also deletes as many old files, as cp does not.
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+
+#include "data/database_files.h"
+#include "data/template.h"
+#include "platform/base/files.h"
+
+using namespace Qt::StringLiterals;
+namespace files = platform::files;
+
+namespace {
+
+constexpr int fileCount = 500;
+constexpr int rounds = 5;
+
+void makeFiles(const QString& folder) {
+    QDir().mkpath(folder);
+    for (int i = 0; i < fileCount; ++i) {
+        QFile file(u"%1/FI_%2.bin"_s.arg(folder).arg(i));
+        if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(1 << 20, static_cast<char>('a' + i % 26))) < 0)
+            std::exit(1);
+        file.close();
+        files::setReadOnly(file.fileName());
+    }
+}
+
+long peakKilobytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+/// Each measurement starts with a disk that has nothing left to write.
+template <class Work>
+qint64 milliseconds(Work work) {
+    ::sync();
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return timer.elapsed();
+}
+
+/// The steps of the command, without its boxes.
+void backUp(const QString& live, const QString& target) {
+    const QString companion = data::companionFolder(target);
+    files::copyFile(live + u"/FamilyInfo.mdb"_s, target);
+    if (files::folderExists(companion)) files::deleteFolder(companion, true);
+    files::copyFolder(live + u"/Attachments"_s, companion);
+}
+
+void restore(const QString& source, const QString& live) {
+    data::replaceDatabase(source, live + u"/FamilyInfo.mdb"_s);
+    files::deleteAllFiles(live + u"/Attachments"_s, true);
+    files::copyAllFiles(data::companionFolder(source), live + u"/Attachments"_s);
+}
+
+void copyAll(const QString& from, const QString& to) {
+    QProcess::execute(u"cp"_s, {u"-r"_s, from, to});
+}
+
+}  // namespace
+
+int main() {
+    const QTemporaryDir folder(QDir::currentPath() + u"/backup_bench"_s);
+    const QString live = folder.filePath(u"live"_s);
+    const QString copy = folder.filePath(u"copy"_s);
+    const QString backup = folder.filePath(u"FamilyInfoBackup.mdb"_s);
+    makeFiles(live + u"/Attachments"_s);
+    data::createTemplate(live + u"/FamilyInfo.mdb"_s);
+
+    qint64 cp = 1 << 30;
+    qint64 synced = 1 << 30;
+    qint64 backingUp = 1 << 30;
+    qint64 restoring = 1 << 30;
+    long extra = 0;
+    for (int round = 0; round < rounds; ++round) {
+        cp = std::min(cp, milliseconds([&] { copyAll(live, copy); }));
+        files::deleteFolder(copy, true);
+        synced = std::min(synced, milliseconds([&] {
+                              copyAll(live, copy);
+                              ::sync();
+                          }));
+        files::deleteFolder(copy, true);
+        const long before = peakKilobytes();
+        if (round > 0) files::deleteFolder(data::companionFolder(backup), true);
+        backingUp = std::min(backingUp, milliseconds([&] { backUp(live, backup); }));
+        restoring = std::min(restoring, milliseconds([&] { restore(backup, live); }));
+        extra = std::max(extra, peakKilobytes() - before);
+    }
+    const auto line = [&](const char* what, qint64 time) {
+        std::printf("%-12s %6lld ms  %.2f times cp -r, %.2f times cp -r and sync\n", what, static_cast<long long>(time),
+                    static_cast<double>(time) / static_cast<double>(cp),
+                    static_cast<double>(time) / static_cast<double>(synced));
+    };
+    line("cp -r", cp);
+    line("cp -r, sync", synced);
+    line("backup", backingUp);
+    line("restore", restoring);
+    std::printf("memory, extra %.1f MB (limit 16)\n", static_cast<double>(extra) / 1024);
+    const bool within = static_cast<double>(std::max(backingUp, restoring)) <= 1.2 * static_cast<double>(synced);
+    return within && extra < 16 * 1024 ? 0 : 1;
+}
