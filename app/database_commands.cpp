@@ -3,6 +3,7 @@
 #include "app/mdi_host.h"
 #include "data/database_files.h"
 #include "platform/base/conversions.h"
+#include "platform/base/file_replacement.h"
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
@@ -230,6 +231,7 @@ void DatabaseCommands::backup() {
     // The source need not be the live file, which must not be overwritten all the same.
     if (data::isSameFile(target, session_.gConnection.path())) throw RuntimeError(70);
     data::requireApart(companion, attachments());
+    files::discardUnfinished(files::folderOf(target));
     files::copyFile(source, target);
     saveAttachments(target);
     const Sizes copied{fileKilobytes(target), folderKilobytes(companion)};

@@ -48,6 +48,7 @@ void Kinbook::start() {
     const int seconds = session_->definition.giSplashSeconds;
     desktop_->wait(seconds != 0 ? seconds : usualSplashSeconds);
 
+    data::discardUnfinishedRestore(session_->path(u"FamilyInfo.mdb"_s), session_->path(u"Attachments"_s));
     session_->gConnection.setCursorLocation(data::CursorLocation::Client);
     try {
         session_->gConnection.open(session_->path(u"FamilyInfo.mdb"_s));

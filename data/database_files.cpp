@@ -100,10 +100,20 @@ void discardJournal(const QString& database) {
     }
 }
 
+/// Where the live file lies: a link to it stays a link.
+QString placeOf(const QString& live) {
+    const QFileInfo info(live);
+    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+}
+
+QString successorOf(const QString& live) {
+    return live + u".new"_s;
+}
+
 /// A copy beside the live file that is to take its place, gone at the end unless it has.
 class Successor {
 public:
-    explicit Successor(const QString& live) : live_(live), path_(live + u".new"_s) { discard(); }
+    explicit Successor(const QString& live) : live_(live), path_(successorOf(live)) { discard(); }
     ~Successor() { discard(); }
     Successor(const Successor&) = delete;
     Successor& operator=(const Successor&) = delete;
@@ -166,16 +176,20 @@ void checkDatabase(const QString& path) {
 void replaceDatabase(const QString& source, const QString& live) {
     if (isSameFile(source, live)) throw RuntimeError(permissionDenied);
     checkDatabase(source);
-    // A link to the live file stays a link.
-    const QFileInfo info(live);
-    const QString place = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
-    if (info.isFile() && files::isReadOnly(place)) throw RuntimeError(permissionDenied);
+    const QString place = placeOf(live);
+    if (files::fileExists(place) && files::isReadOnly(place)) throw RuntimeError(permissionDenied);
     const Successor successor(place);
     files::copyFile(source, successor.path());
     // A backup on a medium that can't be written must not make a database that can't be.
     files::setReadOnly(successor.path(), false);
     discardJournal(place);
     successor.takePlace();
+}
+
+void discardUnfinishedRestore(const QString& live, const QString& attachments) {
+    QFile::remove(successorOf(placeOf(live)));
+    files::discardUnfinished(files::folderOf(live));
+    files::discardUnfinished(attachments);
 }
 
 void emptyFolder(const QString& folder) {

@@ -28,6 +28,9 @@ void checkDatabase(const QString& path);
 /// the disk when this returns, or the file that was there before. Throws as checkDatabase() and files::copyFile().
 void replaceDatabase(const QString& source, const QString& live);
 
+/// Deletes what a run that died while it restored left beside the live file and among the attachments.
+void discardUnfinishedRestore(const QString& live, const QString& attachments);
+
 /// Deletes every file in the folder, read-only ones too; it need neither exist nor hold any.
 void emptyFolder(const QString& folder);
 

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QUuid>
@@ -17,6 +18,12 @@ using namespace Qt::StringLiterals;
 
 namespace platform::files {
 
+namespace {
+
+const QString temporaryPrefix = u".kinbook-"_s;
+
+}  // namespace
+
 FileReplacement::FileReplacement(const QString& target) {
     // A link to a file stays a link: what it leads to is replaced.
     const QFileInfo info(target);
@@ -27,7 +34,7 @@ FileReplacement::FileReplacement(const QString& target) {
     if (place.isDir()) throw RuntimeError(70);
     if (place.exists() && isReadOnly(target)) throw RuntimeError(70);
 
-    const QString name = u".kinbook-"_s + QUuid::createUuid().toString(QUuid::Id128);
+    const QString name = temporaryPrefix + QUuid::createUuid().toString(QUuid::Id128);
     temporary_ = QFile::encodeName(join(folder_, name));
     descriptor_ = ::open(temporary_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (descriptor_ < 0) throwSystemError(errno, 76);
@@ -48,13 +55,26 @@ void FileReplacement::write(const QByteArray& bytes) {
 }
 
 void FileReplacement::setMode(unsigned mode) {
-    if (::fchmod(descriptor_, mode) != 0) throwSystemError(errno, 76);
+    if (::fchmod(descriptor_, mode) == 0) return;
+    // The file systems of most memory sticks know read-only files and writable ones, and nothing else.
+    struct stat status {};
+    const bool known = errno == EPERM && ::fstat(descriptor_, &status) == 0;
+    constexpr mode_t everyonesWriting = S_IWUSR | S_IWGRP | S_IWOTH;
+    const mode_t nearest = (mode & S_IWUSR) != 0 ? status.st_mode : status.st_mode & ~everyonesWriting;
+    if (!known || ::fchmod(descriptor_, nearest & 07777) != 0) throwSystemError(errno, 76);
 }
 
 void FileReplacement::place(Flush flush) {
     if (flush == Flush::Now && ::fsync(descriptor_) != 0) throwSystemError(errno, 76);
     if (::rename(temporary_.constData(), target_.constData()) != 0) throwSystemError(errno, 76);
     temporary_.clear();
+}
+
+void discardUnfinished(const QString& folder) {
+    const QDir inside(folder);
+    const QStringList names = inside.entryList({temporaryPrefix + u"?"_s.repeated(32)}, QDir::Files | QDir::Hidden);
+    for (const QString& name : names)
+        QFile::remove(inside.filePath(name));
 }
 
 void syncFolder(const QString& folder) {

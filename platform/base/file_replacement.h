@@ -35,6 +35,9 @@ private:
     int descriptor_ = -1;
 };
 
+/// Deletes what a run that died in the middle left of its replacements in a folder, as far as that can be deleted.
+void discardUnfinished(const QString& folder);
+
 /// Makes the names in a folder last through a power cut.
 void syncFolder(const QString& folder);
 
