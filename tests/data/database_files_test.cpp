@@ -1,0 +1,219 @@
+#include "data/database_files.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "data/template.h"
+#include "hostile_disk.h"
+#include "platform/base/files.h"
+#include "platform/base/runtime_error.h"
+
+using namespace Qt::StringLiterals;
+namespace files = platform::files;
+
+namespace {
+
+/// The error that an action ends in, as a box shows it; empty for none.
+template <typename Action>
+QString errorOf(Action action) {
+    try {
+        action();
+        return {};
+    } catch (const platform::RuntimeError& error) {
+        return error.report();
+    }
+}
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+void exec(const QString& path, const char* statements) {
+    SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec(statements);
+}
+
+class DatabaseFiles : public testing::Test {
+protected:
+    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
+    [[nodiscard]] QString makeDatabase(const QString& name) const {
+        data::createTemplate(path(name));
+        return path(name);
+    }
+    [[nodiscard]] QStringList names() const {
+        return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST(CompanionFolder, IsNamedAfterTheFileUpToItsLastDot) {
+    const struct {
+        QString path;
+        QString companion;
+    } cases[] = {
+        {u"/b/Mon.mdb"_s, u"/b/MonAttachments"_s},
+        {u"/b/2026.11.23.mdb"_s, u"/b/2026.11.23Attachments"_s},
+        {u"/b.c/Mon.mdb"_s, u"/b.c/MonAttachments"_s},
+        {u"/b/Größe 家.mdb"_s, u"/b/Größe 家Attachments"_s},
+        {u"/b/Mon."_s, u"/b/MonAttachments"_s},
+        {u"/b/.mdb"_s, u"/b/Attachments"_s},
+        {u"Mon.mdb"_s, u"MonAttachments"_s},
+        {u"/b/Mon"_s, {}},
+        {u"/b.c/Mon"_s, {}},
+    };
+    for (const auto& [path, companion] : cases) {
+        SCOPED_TRACE(path.toStdString());
+        QString found;
+        const QString error = errorOf([&] { found = data::companionFolder(path); });
+        EXPECT_EQ(found, companion);
+        EXPECT_EQ(error, companion.isEmpty() ? u"6 - Overflow"_s : QString());
+    }
+}
+
+TEST(Kilobytes, HaveTwoDecimalsWithHalvesToTheEvenNeighbour) {
+    EXPECT_EQ(data::kilobytes(0), 0);
+    EXPECT_EQ(data::kilobytes(5), 0);
+    EXPECT_EQ(data::kilobytes(6), 0.01);
+    EXPECT_EQ(data::kilobytes(128), 0.12);
+    EXPECT_EQ(data::kilobytes(1024 + 384), 1.38);
+    EXPECT_EQ(data::kilobytes(qint64{500} << 20), 512000);
+}
+
+TEST_F(DatabaseFiles, FoldersThatHoldEachOtherAreNotApart) {
+    QDir(folder_.path()).mkpath(u"app/Attachments"_s);
+    QFile::link(path(u"app"_s), path(u"linkAttachments"_s));
+    const QString live = path(u"app/Attachments"_s);
+    for (const auto& near : {u"app/Attachments"_s, u"app"_s, u"app/Attachments/bAttachments"_s, u"linkAttachments"_s,
+                             u"linkAttachments/Attachments"_s, u"app/../app/Attachments"_s})
+        EXPECT_EQ(errorOf([&] { data::requireApart(path(near), live); }), u"70 - Permission denied"_s)
+            << near.toStdString();
+    for (const auto& apart : {u"app/FamilyInfoAttachments"_s, u"app/Attachments2"_s, u"none/Attachments"_s})
+        EXPECT_EQ(errorOf([&] { data::requireApart(path(apart), live); }), QString()) << apart.toStdString();
+}
+
+TEST_F(DatabaseFiles, AFileThatIsNotAWholeDatabaseIsRefusedInWordsThatSayWhy) {
+    const QByteArray whole = bytesOf(makeDatabase(u"whole.mdb"_s));
+    EXPECT_EQ(errorOf([&] { data::checkDatabase(path(u"whole.mdb"_s)); }), QString());
+    const auto changed = [&](qsizetype at, const QByteArray& bytes) {
+        return QByteArray(whole).replace(at, bytes.size(), bytes);
+    };
+    const struct {
+        QByteArray bytes;
+        const char* statements;
+        QString reason;
+    } cases[] = {
+        {{}, "", u"the file is empty."_s},
+        {QByteArray(50'000, 'x'), "", u"it is no Kinbook database."_s},
+        {whole.first(60), "", u"it is no Kinbook database."_s},
+        {whole.first(whole.size() / 2), "", u"it is cut short"_s},
+        {whole.chopped(1), "", u"it is cut short"_s},
+        {changed(8192, QByteArray(20'000, 'z')), "", u"it is damaged"_s},
+        {changed(18, "\3\3"), "", u"it was written by a newer version of Kinbook."_s},
+        {whole, "PRAGMA user_version = 7", u"it was written by a newer version of Kinbook."_s},
+        {whole, "DROP TABLE Attachments", u"it is no Kinbook database, for it has no table 'Attachments'."_s},
+    };
+    const QString file = path(u"Her 100% ?#.mdb"_s);
+    for (const auto& [bytes, statements, reason] : cases) {
+        SCOPED_TRACE(reason.toStdString());
+        write(file, bytes);
+        if (*statements != 0) exec(file, statements);
+        const QByteArray before = bytesOf(file);
+        const QString error = errorOf([&] { data::checkDatabase(file); });
+        EXPECT_TRUE(error.startsWith(u"-2147467259 - '%1' can't be used: %2"_s.arg(file, reason)))
+            << error.toStdString();
+        EXPECT_EQ(bytesOf(file), before);
+    }
+    EXPECT_EQ(errorOf([&] { data::checkDatabase(path(u"none.mdb"_s)); }), u"53 - File not found"_s);
+}
+
+TEST_F(DatabaseFiles, TheLiveFileIsReplacedAndKeepsNothingOfTheOldOne) {
+    const QString source = makeDatabase(u"source.mdb"_s);
+    exec(source, "INSERT INTO Person (LegalName) VALUES ('New')");
+    files::setReadOnly(source);
+    write(path(u"live.mdb"_s), "old");
+    write(path(u"live.mdb-journal"_s), "of the old file");
+    write(path(u"live.mdb.new"_s), "of a killed run");
+    data::replaceDatabase(source, path(u"live.mdb"_s));
+    EXPECT_EQ(bytesOf(path(u"live.mdb"_s)), bytesOf(source));
+    EXPECT_FALSE(files::isReadOnly(path(u"live.mdb"_s)));
+    EXPECT_EQ(names(), QStringList({u"live.mdb"_s, u"source.mdb"_s}));
+}
+
+TEST_F(DatabaseFiles, TheLiveFileIsNotReplacedByItself) {
+    const QString live = makeDatabase(u"live.mdb"_s);
+    QFile::link(live, path(u"link.mdb"_s));
+    ASSERT_EQ(::link(qPrintable(live), qPrintable(path(u"hard.mdb"_s))), 0);
+    for (const auto& name : {u"live.mdb"_s, u"./live.mdb"_s, u"link.mdb"_s, u"hard.mdb"_s})
+        EXPECT_EQ(errorOf([&] { data::replaceDatabase(path(name), live); }), u"70 - Permission denied"_s);
+    EXPECT_EQ(errorOf([&] { data::checkDatabase(live); }), QString());
+}
+
+TEST_F(DatabaseFiles, AFailedReplacementLeavesTheOldFileAlone) {
+    const QString source = makeDatabase(u"source.mdb"_s);
+    files::setReadOnly(source);
+    SmallDisk disk;
+    const QString onDisk = disk.folder() + u"/live.mdb"_s;
+    write(onDisk, "old");
+    disk.fill();
+    EXPECT_EQ(errorOf([&] { data::replaceDatabase(source, onDisk); }), u"61 - Disk full"_s);
+    disk.makeRoom();
+    EXPECT_EQ(bytesOf(onDisk), "old");
+    EXPECT_EQ(QDir(disk.folder()).entryList(QDir::Files | QDir::Hidden), QStringList{u"live.mdb"_s});
+
+    QDir(folder_.path()).mkpath(u"locked"_s);
+    const QString locked = path(u"locked/live.mdb"_s);
+    write(locked, "old");
+    for (const bool folderOnly : {true, false}) {
+        ASSERT_EQ(::chmod(qPrintable(folder_.path()), 0755), 0);
+        const OrdinaryUser user(path(u"locked"_s), locked, folderOnly);
+        EXPECT_EQ(errorOf([&] { data::replaceDatabase(source, locked); }), u"70 - Permission denied"_s);
+    }
+    EXPECT_EQ(bytesOf(locked), "old");
+}
+
+TEST_F(DatabaseFiles, ARunKilledWhileItReplacesLeavesOneOfTheTwoFilesWhole) {
+    const QString first = makeDatabase(u"first.mdb"_s);
+    const QString second = makeDatabase(u"second.mdb"_s);
+    exec(second, "INSERT INTO Person (LegalName) VALUES ('Second')");
+    const QString live = makeDatabase(u"live.mdb"_s);
+    for (int kill = 0; kill < 15; ++kill) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        for (int i = 0; child == 0; ++i)
+            data::replaceDatabase(i % 2 == 0 ? second : first, live);
+        ::usleep(static_cast<useconds_t>(15'000 + kill * 1'700));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const QByteArray found = bytesOf(live);
+        EXPECT_TRUE(found == bytesOf(first) || found == bytesOf(second));
+    }
+    data::discardUnfinishedRestore(live, path(u"Attachments"_s));
+    EXPECT_EQ(names(), QStringList({u"first.mdb"_s, u"live.mdb"_s, u"second.mdb"_s}));
+}
+
+TEST_F(DatabaseFiles, EmptyingTakesEveryFileAndNoFolder) {
+    data::emptyFolder(path(u"none"_s));
+    QDir(folder_.path()).mkpath(u"A/sub"_s);
+    data::emptyFolder(path(u"A"_s));
+    write(path(u"A/f"_s), "x");
+    files::setReadOnly(path(u"A/f"_s));
+    data::emptyFolder(path(u"A"_s));
+    EXPECT_EQ(QDir(path(u"A"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"sub"_s});
+}
+
+}  // namespace
