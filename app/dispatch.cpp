@@ -4,6 +4,10 @@
 #include "app/mdi_host.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/tree_view.h"
+#include "security/change_password.h"
+#include "security/change_pin_password.h"
+#include "security/login.h"
+#include "security/login_pin.h"
 #include "session/data_window.h"
 #include "session/form_access.h"
 #include "session/refusals.h"
@@ -16,6 +20,7 @@ namespace app {
 namespace {
 constexpr int withData = 2;
 constexpr int mostForms = 10;
+const QString pinList = u"frmPinsAndPasswords"_s;
 }  // namespace
 
 void Dispatch::nodeClick(int nodeIndex) {
@@ -47,15 +52,41 @@ bool Dispatch::tooManyWindows() const {
 bool Dispatch::follow(const QString& key) {
     if (const DispatchRow* row = dispatchRow(key)) return openWindow(*row);
     if (key == u"PINsPasswords"_s) openPins();
-    return true;
+    if (key == u"LogIn"_s) touchDialog<security::Login>().showModal();
+    if (key == u"ChangeMainPassword"_s) touchDialog<security::ChangePassword>().showModal();
+    return key != u"ChangePINPassword"_s || changePinPassword();
+}
+
+template <class Dialog>
+Dialog& Dispatch::touchDialog() {
+    platform::Desktop& desktop = host_.desktop();
+    if (platform::Form* loaded = desktop.find(Dialog::formName())) return static_cast<Dialog&>(*loaded);
+    return desktop.load(std::make_unique<Dialog>(desktop, host_.session()));
 }
 
 void Dispatch::openPins() {
-    if (!host_.session().gbWholeFamily) return;
-    host_.desktop().notice(
-        u"No family member has been selected.  The PIN And Password screen is tied \r\n"
-        "to specific family members.  Please select a family member."_s,
-        u"No Family Member Selected"_s, platform::Icon::Information);
+    if (host_.session().gbWholeFamily) {
+        host_.desktop().notice(
+            u"No family member has been selected.  The PIN And Password screen is tied \r\n"
+            "to specific family members.  Please select a family member."_s,
+            u"No Family Member Selected"_s, platform::Icon::Information);
+        return;
+    }
+    auto& login = touchDialog<security::LoginPin>();
+    login.showModal();
+    if (!login.success()) return;
+    login.setSuccess(false);
+    host_.touch(pinList)->show();
+}
+
+bool Dispatch::changePinPassword() {
+    if (host_.desktop().find(pinList)) {
+        host_.desktop().notice(u"You must close the PINs and Passwords screen before you change the password."_s,
+                               u"Close PINs and Passwords Screen"_s, platform::Icon::Information);
+        return false;
+    }
+    touchDialog<security::ChangePinPassword>().showModal();
+    return true;
 }
 
 bool Dispatch::openWindow(const DispatchRow& row) {

@@ -21,6 +21,11 @@ private:
     [[nodiscard]] bool openWindow(const DispatchRow& row);
     /// The list of accounts belongs to one member, so one has to be selected.
     void openPins();
+    /// False when the list of accounts, which that password opens, is open.
+    [[nodiscard]] bool changePinPassword();
+    /// The dialog, loaded if it isn't yet.
+    template <class Dialog>
+    [[nodiscard]] Dialog& touchDialog();
     [[nodiscard]] bool tooManyWindows() const;
 
     MDIHost& host_;

@@ -20,8 +20,11 @@ std::optional<ColumnType> typeOf(const SQLite::Statement& statement, int column)
 std::vector<ShownColumn> shownColumns(const SQLite::Statement& statement) {
     std::vector<ShownColumn> columns;
     columns.reserve(static_cast<size_t>(statement.getColumnCount()));
-    for (int column = 0; column < statement.getColumnCount(); ++column)
-        columns.push_back({QString::fromUtf8(statement.getColumnName(column)), typeOf(statement, column)});
+    for (int column = 0; column < statement.getColumnCount(); ++column) {
+        // Out of a nested join a name that two of its tables have comes with a number, "ID:1".
+        const QString name = QString::fromUtf8(statement.getColumnName(column));
+        columns.push_back({name.section(u':', 0, 0), typeOf(statement, column)});
+    }
     return columns;
 }
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "platform/forms/combo_box.h"
-#include "platform/forms/command_button.h"
+#include "platform/forms/dialog_buttons.h"
 #include "platform/forms/memo_box.h"
 #include "platform/forms/text_box.h"
 
@@ -26,7 +26,8 @@ EditDialog::EditDialog(platform::Desktop& desktop, const EditForm& form)
     rows->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
     for (const EditField& field : form.fields)
         addInput(*rows, field);
-    addButtons(*rows);
+    rows->addRow(
+        platform::dialogButtons(*this, handler([this] { cmdOK_Click(); }), handler([this] { cmdCancel_Click(); })));
 }
 
 void EditDialog::addInput(QFormLayout& rows, const EditField& field) {
@@ -52,22 +53,6 @@ void EditDialog::addInput(QFormLayout& rows, const EditField& field) {
     label->setBuddy(widget);
     rows.addRow(label, widget);
     inputs_.push_back(input);
-}
-
-void EditDialog::addButtons(QFormLayout& rows) {
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    const auto add = [&](const QString& name, const QString& caption, void (EditDialog::*routine)()) {
-        auto* button = new platform::CommandButton(this);
-        button->setName(name);
-        button->setText(caption);
-        button->onClick(handler([this, routine] { (this->*routine)(); }));
-        row->addWidget(button);
-        return button;
-    };
-    setDefaultButton(add(u"cmdOK"_s, u"&OK"_s, &EditDialog::cmdOK_Click));
-    setCancelButton(add(u"cmdCancel"_s, u"&Cancel"_s, &EditDialog::cmdCancel_Click));
-    rows.addRow(row);
 }
 
 const EditDialog::Input& EditDialog::input(const QString& field) const {

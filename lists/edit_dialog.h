@@ -50,7 +50,6 @@ private:
     };
 
     void addInput(QFormLayout& rows, const EditField& field);
-    void addButtons(QFormLayout& rows);
     [[nodiscard]] const Input& input(const QString& field) const;
     void cmdOK_Click();
     void cmdCancel_Click();

@@ -43,7 +43,7 @@ MedicalLog::MedicalLog(platform::Desktop& desktop, session::Session& session, se
     : ListScreen(desktop, session, workspace, logList) {}
 
 QString MedicalLog::selectStatement() const {
-    const QString all =
+    QString all =
         u"SELECT MedicalLog.ID, Person.LegalName, MedicalLog.TreatmentStartDate as StartDate, "
         "MedicalLog.TreatmentEndDate as EndDate, Doctors.Name as Doctor, MedicalLog.Description FROM Doctors "
         "RIGHT JOIN (Person RIGHT JOIN MedicalLog ON Person.ID = MedicalLog.PersonID) ON Doctors.ID = "

@@ -1,10 +1,12 @@
 #include "session/definition_file.h"
 
+#include <algorithm>
 #include <array>
 
 #include "data/cipher.h"
 #include "platform/base/conversions.h"
 #include "platform/base/files.h"
+#include "platform/base/runtime_error.h"
 
 using namespace Qt::StringLiterals;
 
@@ -57,6 +59,18 @@ std::optional<Definition> readDefinition(const QString& path) {
     }
     definition.gsMainPassword = data::cipher(definition.gsMainPassword);
     return definition;
+}
+
+void writeDefinition(const QString& path, const Definition& definition) {
+    Definition written = definition;
+    written.gsMainPassword = data::cipher(definition.gsMainPassword);
+    // Such a line couldn't be read back, and the program wouldn't start any more.
+    const auto breaksLine = [](QChar c) { return c == u'\r' || c == u'\n' || c.isNull(); };
+    if (std::ranges::any_of(written.gsMainPassword, breaksLine)) throw platform::RuntimeError(5);
+    QString text;
+    for (const Key& key : keys)
+        text += key.text + written.*key.value + u"\r\n"_s;
+    platform::files::writeTextFile(path, text);
 }
 
 }  // namespace session

@@ -11,4 +11,8 @@ namespace session {
 /// Throws RuntimeError when the file can't be read.
 [[nodiscard]] std::optional<Definition> readDefinition(const QString& path);
 
+/// Writes the file anew, whole, without the splash's seconds. A failure leaves the old file as it was. Throws
+/// RuntimeError 5 for a password whose cipher would break its line, and what the file throws.
+void writeDefinition(const QString& path, const Definition& definition);
+
 }  // namespace session

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "platform/forms/check_box.h"
+#include "platform/forms/desktop.h"
 #include "platform/forms/form.h"
 #include "platform/forms/text_control.h"
 
@@ -19,6 +20,13 @@ void setFormAccess(platform::Form& form, bool canEdit) {
         } else if (name.startsWith(u"chkFields("_s)) {
             widget->setEnabled(canEdit);
         }
+    }
+}
+
+void setAllFormsAccess(platform::Desktop& desktop, bool canEdit) {
+    static const QStringList untouched{u"MDIHost"_s, u"frmLogin"_s, u"frmChangePassword"_s, u"frmLoginPIN"_s};
+    for (int i = desktop.count() - 1; i >= 0; --i) {
+        if (!untouched.contains(desktop.at(i).name())) setFormAccess(desktop.at(i), canEdit);
     }
 }
 

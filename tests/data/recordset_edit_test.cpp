@@ -215,6 +215,9 @@ const Shape shapes[] = {
     {"SELECT Person.* FROM Pet LEFT JOIN Person ON Person.ID = Pet.PersonID ORDER BY Pet.ID", false, "2 1 1"},
     {"SELECT Pet.Name, Person.LegalName FROM Person RIGHT JOIN Pet ON Person.ID = Pet.PersonID ORDER BY Pet.ID", false,
      "Rex Tom Ada Stray"},
+    {"SELECT Pet.ID, b.LegalName FROM Person b RIGHT JOIN (Person a RIGHT JOIN Pet ON a.ID = Pet.PersonID) ON b.ID = "
+     "Pet.PersonID ORDER BY Pet.ID",
+     false, "1 2 3 4"},
     {"Select * from Tame", false, "1 2 3"},
     {"Select Distinct PersonID from Pet order by PersonID", false, "1 2 9"},
     {"Select PersonID, Count(*) as n from Pet Group By PersonID", false, "1 2 9"},

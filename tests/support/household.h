@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include "tests/support/print.h"
 #include "tests/support/user.h"
 
 namespace support {

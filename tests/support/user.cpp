@@ -404,7 +404,8 @@ bool User::settled() {
 }
 
 bool User::activateTopmost() {
-    QWidget* top = QGuiApplication::focusWindow() ? nullptr : topmostWindow();
+    const QWindow* focused = QGuiApplication::focusWindow();
+    QWidget* top = focused && focused->isVisible() ? nullptr : topmostWindow();
     if (!top) {
         activations_ = 0;
         return false;

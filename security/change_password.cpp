@@ -1,0 +1,36 @@
+#include "security/change_password.h"
+
+#include "platform/forms/text_box.h"
+#include "session/definition_file.h"
+#include "session/form_access.h"
+#include "session/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace security {
+
+ChangePassword::ChangePassword(platform::Desktop& desktop, session::Session& session)
+    : ChangePasswordDialog(
+          desktop, formName(), u"Change Password"_s, u"Then click OK and you have changed your password."_s,
+          u"(Note that if you have not already set up a password, you should skip entering an old password and leave "
+          "the Old Password field empty.)"_s),
+      session_(session) {}
+
+QString ChangePassword::oldPassword() {
+    return session_.definition.gsMainPassword;
+}
+
+void ChangePassword::change(const QString& password) {
+    session_.definition.gsMainPassword = password;
+    session_.gbCanEdit = true;
+    session::setAllFormsAccess(desktop(), true);
+    session::writeDefinition(session_.path(u"SplashDef.txt"_s), session_.definition);
+}
+
+void ChangePassword::pointAtMismatch() {
+    txtNew().setFocus();
+    // As many characters as the old password has, whatever stands in the box.
+    txtNew().select(0, static_cast<int>(txtOld().text().size()));
+}
+
+}  // namespace security

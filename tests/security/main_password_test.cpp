@@ -1,0 +1,137 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonObject>
+
+#include "data/cipher.h"
+#include "platform/base/files.h"
+#include "platform/base/windows1252.h"
+#include "tests/support/household.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MainPassword : public support::Household {
+protected:
+    void start(const QString& password = {}) {
+        writeFile(u"SplashDef.txt"_s, "CompanyName=A=B\r\nPhone= 1 \r\nSplash=1\r\nValue=" +
+                                          platform::toWindows1252(data::cipher(password)) + "\r\n");
+        addMembers({u"Ann Larkin"_s});
+        exec(u"INSERT INTO HomeOwned (PersonID) VALUES (1)"_s);
+        user.start();
+        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+    }
+    void changeTo(const QString& password, const QString& old, const QString& confirmation) {
+        openNode(u"ChangeMainPassword"_s);
+        user.fill(u"txtOld"_s, old);
+        user.fill(u"txtNew"_s, password);
+        user.fill(u"txtConfirm"_s, confirmation);
+        user.click(u"cmdOK"_s);
+    }
+    bool canEdit() { return user.session()["gbCanEdit"_L1].toBool(); }
+    QByteArray definition() {
+        QFile file(path(u"SplashDef.txt"_s));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+TEST_F(MainPassword, LoggingInUnlocksEveryOpenScreenAtOnce) {
+    start(u"Tea time"_s);
+    EXPECT_FALSE(canEdit());
+    openNode(u"CDs"_s);
+    EXPECT_EQ(dismissBox(), u"Invalid Login"_s);
+    openNode(u"Home"_s);
+    EXPECT_TRUE(user.control(u"txtFields(2)"_s)["locked"_L1].toBool());
+    openNode(u"LogIn"_s);
+    for (const QString& wrong : {u""_s, u"tea time"_s, u"Tea time "_s}) {
+        user.fill(u"txtPassword"_s, wrong);
+        user.click(u"cmdOK"_s);
+        EXPECT_EQ(boxText(), u"Invalid Password, try again!"_s);
+        EXPECT_EQ(dismissBox(), u"Login"_s);
+        EXPECT_EQ(user.control(u"txtPassword"_s)["selLength"_L1].toInt(), wrong.size());
+    }
+    user.key(u"Escape"_s);
+    EXPECT_FALSE(canEdit());
+    user.node(u"LogIn"_s);
+    EXPECT_EQ(user.text(u"txtPassword"_s), u"Tea time "_s);
+    user.type(u"Tea time"_s);
+    user.key(u"Return"_s);
+    EXPECT_TRUE(canEdit());
+    EXPECT_FALSE(user.control(u"txtFields(2)"_s)["locked"_L1].toBool());
+    EXPECT_TRUE(forms().contains(u"frmLogin"_s));
+    user.click(u"cmdEdit"_s);
+    EXPECT_TRUE(boxTitle().isEmpty());
+}
+
+TEST_F(MainPassword, AChangeRewritesTheDefinitionFileAndLogsIn) {
+    struct Case {
+        QString password;
+        QString nextTime;  // what the next session asks for
+    };
+    const Case cases[] = {{u"a"_s, u"a"_s},
+                          {u"0123456789"_s, u"0123456789"_s},
+                          {u"it's = \"11\""_s, u"it's = \"11\""_s},
+                          {u"caf\u00E9 \u0416"_s, u"caf\u00E9 ?"_s},
+                          {QString(255, u'z'), QString(255, u'z')},
+                          {u""_s, u""_s}};
+    start(u"old"_s);
+    QString old = u"old"_s;
+    for (const Case& sample : cases) {
+        SCOPED_TRACE(sample.password.toStdString());
+        EXPECT_EQ(canEdit(), old.isEmpty());
+        changeTo(sample.password, old, sample.password);
+        EXPECT_TRUE(boxTitle().isEmpty());
+        EXPECT_TRUE(canEdit());
+        EXPECT_TRUE(definition().startsWith("CompanyName=A=B\r\nNameFontSize=\r\nProductName=\r\n"));
+        EXPECT_TRUE(definition().endsWith(
+            "Phone= 1 \r\nSupportPhone=\r\nValue=" + platform::toWindows1252(data::cipher(sample.nextTime)) + "\r\n"));
+        user.close();
+        user.start();
+        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+        old = sample.nextTime;
+    }
+}
+
+TEST_F(MainPassword, WhatIsTypedWrongChangesNothing) {
+    start(u"old"_s);
+    const QByteArray before = definition();
+    changeTo(u"fresh"_s, u"Old"_s, u"fresh"_s);
+    EXPECT_EQ(boxText(), u"The old password does not match your current password.  No changes can be made."_s);
+    EXPECT_EQ(dismissBox(), u"Invalid Old Password"_s);
+    EXPECT_EQ(user.text(u"txtNew"_s) + user.text(u"txtConfirm"_s), u""_s);
+    EXPECT_EQ(user.control(u"txtOld"_s)["selLength"_L1].toInt(), 3);
+    user.type(u"old"_s);
+    user.fill(u"txtNew"_s, u"fresh"_s);
+    user.fill(u"txtConfirm"_s, u"flesh"_s);
+    user.click(u"cmdOK"_s);
+    EXPECT_EQ(boxText(), u"The new password does not match your confirmation password.  No changes can be made."_s);
+    EXPECT_EQ(dismissBox(), u"Invalid Old Password"_s);
+    EXPECT_EQ(user.control(u"txtNew"_s)["selLength"_L1].toInt(), 3);
+    EXPECT_EQ(user.text(u"txtConfirm"_s), u""_s);
+    user.key(u"Escape"_s);
+    EXPECT_EQ(definition(), before);
+    EXPECT_FALSE(canEdit());
+}
+
+TEST_F(MainPassword, AFileThatCantBeWrittenStaysAndTheSessionIsLoggedInAllTheSame) {
+    start();
+    const QByteArray before = definition();
+    platform::files::setReadOnly(path(u"SplashDef.txt"_s));
+    changeTo(u"fresh"_s, {}, u"fresh"_s);
+    EXPECT_TRUE(boxText().startsWith(u"70 - "_s)) << boxText().toStdString();
+    user.answer(u"OK"_s);
+    EXPECT_EQ(user.form()["name"_L1].toString(), u"frmChangePassword"_s);
+    EXPECT_EQ(definition(), before);
+    // A character whose cipher is a line feed would keep the program from starting again.
+    user.fill(u"txtOld"_s, u"fresh"_s);
+    const QString breaking = data::cipher(u"\n"_s);
+    user.fill(u"txtNew"_s, breaking);
+    user.fill(u"txtConfirm"_s, breaking);
+    user.click(u"cmdOK"_s);
+    EXPECT_TRUE(boxText().startsWith(u"5 - "_s)) << boxText().toStdString();
+    user.answer(u"OK"_s);
+    EXPECT_EQ(definition(), before);
+}
+
+}  // namespace
