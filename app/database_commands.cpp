@@ -171,7 +171,8 @@ bool DatabaseCommands::closeWindows() {
     desktop().unloadAll([this](const platform::Form& form) { return &form != &host_; });
     // Who won't give up what he has typed doesn't want another file under it.
     const bool closed = desktop().count() == 1;
-    if (!closed) desktop().setPointer(Pointer::Default);
+    // A window that goes leaves a normal pointer behind.
+    desktop().setPointer(closed ? Pointer::Hourglass : Pointer::Default);
     replacing_ = closed;
     return closed;
 }

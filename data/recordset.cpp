@@ -481,6 +481,8 @@ void Recordset::setValue(const QString& column, const QVariant& value) {
 }
 
 ColumnKind Recordset::columnKind(const QString& column) const {
+    // Controls that stay bound are told when the file is closed under them, and show nothing then.
+    if (!isOpen()) return ColumnKind::Text;
     const int number = d_->columnNumber(column);
     const auto& type = d_->columns()[static_cast<size_t>(number)].type;
     if (type) return type->kind;

@@ -27,6 +27,7 @@ public:
     [[nodiscard]] virtual QVariant value(const QString& column) const = 0;
     /// Sets a column of the current row, converted to the column's kind; pending until the row is written.
     virtual void setValue(const QString& column, const QVariant& value) = 0;
+    /// Text for a closed set.
     [[nodiscard]] virtual ColumnKind columnKind(const QString& column) const = 0;
 
 Q_SIGNALS:

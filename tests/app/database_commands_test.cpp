@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include "data/cipher.h"
 #include "data/template.h"
 #include "platform/base/files.h"
 #include "tests/data/hostile_disk.h"
@@ -15,6 +18,26 @@ using namespace Qt::StringLiterals;
 namespace files = platform::files;
 
 namespace {
+
+/// While it lives, a folder belongs to a user without the administrator's powers, and the program runs as his.
+class OrdinaryFamily {
+public:
+    explicit OrdinaryFamily(const QString& folder) {
+        if (::geteuid() != 0) return;
+        constexpr uid_t nobody = 65534;
+        EXPECT_EQ(::chown(qPrintable(folder), nobody, nobody), 0);
+        QDirIterator inside(folder, QDir::AllEntries | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        while (inside.hasNext())
+            EXPECT_EQ(::chown(qPrintable(inside.next()), nobody, nobody), 0);
+        EXPECT_EQ(::seteuid(nobody), 0);
+    }
+    ~OrdinaryFamily() { EXPECT_EQ(::seteuid(before_), 0); }
+    OrdinaryFamily(const OrdinaryFamily&) = delete;
+    OrdinaryFamily& operator=(const OrdinaryFamily&) = delete;
+
+private:
+    uid_t before_ = ::geteuid();
+};
 
 /// The family of Ann, with two attached files and a folder for backups.
 class DatabaseCommands : public support::Household {
@@ -280,12 +303,14 @@ TEST_F(DatabaseCommands, SizesThatDifferAndMissingFoldersAreTold) {
     user.start();
     backUp(path(u"b/Mon.mdb"_s));
     EXPECT_EQ(dismissBox(), u"Backup Database Information"_s);
-    // One of the backup's files can't be copied.
-    QFile::remove(path(u"b/MonAttachments/FI_2.txt"_s));
-    QFile::link(u"/proc/self/mem"_s, path(u"b/MonAttachments/FI_2.txt"_s));
-    writeFile(u"b/MonAttachments/FI_3.txt"_s, "x");
-    restore(path(u"b/Mon.mdb"_s));
-    EXPECT_EQ(dismissBox(), u"CopyAttachments"_s);
+    // One of the backup's files can't be read.
+    ASSERT_EQ(::chmod(qPrintable(path(u"b/MonAttachments/FI_2.txt"_s)), 0), 0);
+    {
+        const OrdinaryFamily family(path({}));
+        restore(path(u"b/Mon.mdb"_s));
+        EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
+        EXPECT_EQ(dismissBox(), u"CopyAttachments"_s);
+    }
     EXPECT_TRUE(boxText().startsWith(u"Your data was not completely copied.  There was"_s));
     EXPECT_EQ(dismissBox(), u"Backup Failure"_s);
     expectAnnIsThere();
@@ -301,6 +326,23 @@ TEST_F(DatabaseCommands, SizesThatDifferAndMissingFoldersAreTold) {
     EXPECT_EQ(boxText(), u"76 - Path not found"_s);
     EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
     EXPECT_EQ(bytesOf(u"b/Tue.mdb"_s), bytesOf(u"FamilyInfo.mdb"_s));
+}
+
+TEST_F(DatabaseCommands, SecretsOfAnOpenListAreEncipheredBeforeItsFileIsClosed) {
+    startWithAnn();
+    openNode(u"PINsPasswords"_s);
+    user.fill(u"txtPassword"_s, {});
+    user.click(u"cmdOK"_s);
+    user.click(u"cmdAdd"_s);
+    user.fill(u"txtSequence"_s, u"1"_s);
+    user.fill(u"txtAccount"_s, u"Bank"_s);
+    user.fill(u"txtPINPass"_s, u"secret"_s);
+    user.click(u"cmdOK"_s);
+    EXPECT_EQ(cell(u"SELECT PIN_Password FROM PIN_Password"_s), u"secret"_s);
+    restore(path(u"FamilyInfo.mdb"_s));
+    EXPECT_EQ(dismissBox(), u"OpenDB Error"_s);
+    EXPECT_EQ(cell(u"SELECT PIN_Password FROM PIN_Password"_s), data::cipher(u"secret"_s));
+    expectAnnIsThere();
 }
 
 TEST_F(DatabaseCommands, AWindowWhoseChangesAreKeptStopsTheRestore) {
