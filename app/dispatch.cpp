@@ -1,6 +1,7 @@
 #include "app/dispatch.h"
 
 #include "app/dispatch_table.h"
+#include "app/information_dialogs.h"
 #include "app/mdi_host.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/tree_view.h"
@@ -52,6 +53,9 @@ bool Dispatch::tooManyWindows() const {
 bool Dispatch::follow(const QString& key) {
     if (const DispatchRow* row = dispatchRow(key)) return openWindow(*row);
     if (key == u"PINsPasswords"_s) openPins();
+    platform::Desktop& desktop = host_.desktop();
+    if (key == u"SecurityInfo"_s) desktop.load(std::make_unique<SecurityInfo>(desktop)).showModal();
+    if (key == u"CategoryListHelp"_s) desktop.load(std::make_unique<CategoryListHelp>(desktop)).showModal();
     if (key == u"LogIn"_s) touchDialog<security::Login>().showModal();
     if (key == u"ChangeMainPassword"_s) touchDialog<security::ChangePassword>().showModal();
     return key != u"ChangePINPassword"_s || changePinPassword();

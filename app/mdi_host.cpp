@@ -6,11 +6,14 @@
 #include <QMenu>
 #include <QScreen>
 
+#include "app/about_dialog.h"
+#include "app/help_viewer.h"
 #include "app/host_panel.h"
 #include "app/tree_pictures.h"
 #include "app/windows.h"
 #include "attachments/attach_dialog.h"
 #include "platform/base/conversions.h"
+#include "platform/base/files.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/command_button.h"
 #include "platform/forms/desktop.h"
@@ -33,6 +36,7 @@ namespace {
 
 const QString wholeFamily = u"Whole Family"_s;
 const QString personScreen = u"frmKinbook"_s;
+const QString helpOwner = u"Form1"_s;
 
 /// A disabled control hands the focus on, which would bring whatever window comes next in the tab order to the front.
 void enable(QWidget& control, bool enabled) {
@@ -80,9 +84,9 @@ void MDIHost::makeMenus() {
     addMenu(file);
 
     QMenu* help = platform::makeMenu(*this, u"mnuHelp1"_s, u"&Help"_s);
-    platform::addEntry(*help, u"mnuHelp"_s, u"Kinbook Help"_s, [] {})->setEnabled(false);
+    platform::addEntry(*help, u"mnuHelp"_s, u"Kinbook Help"_s, handler([this] { showHelp(); }));
     platform::addSeparator(*help, u"Sep3"_s);
-    platform::addEntry(*help, u"mnuAbout"_s, u"About"_s, [] {})->setEnabled(false);
+    platform::addEntry(*help, u"mnuAbout"_s, u"About"_s, handler([this] { showAbout(); }));
     addMenu(help);
 }
 
@@ -144,7 +148,7 @@ void MDIHost::selectWholeName() {
 // Selection --------------------------------------------------------------------------------------------------------
 
 bool MDIHost::onlyHelpIsOpen() const {
-    return session_.gbHelpOpened && desktop().count() == 2;
+    return session_.gbHelpOpened && desktop().count() == 2 && desktop().find(helpOwner);
 }
 
 bool MDIHost::leavesChanges() const {
@@ -361,6 +365,22 @@ void MDIHost::showAttachments(const QString& ownerName) {
     desktop().load(std::make_unique<attachments::AttachDialog>(desktop(), session_, ownerName)).showModal();
 }
 
+void MDIHost::showHelp() {
+    session_.gbHelpOpened = true;
+    if (!desktop().find(helpOwner)) {
+        // Never shown; it counts among the loaded forms once help was used.
+        desktop().load(
+            std::make_unique<platform::FormWindow>(desktop(), helpOwner, platform::FormWindow::Kind::Window));
+    }
+    if (!help_)
+        help_ = std::make_unique<HelpViewer>(platform::files::join(session_.path(u"HelpFiles"_s), u"Helper.hlp"_s));
+    help_->open();
+}
+
+void MDIHost::showAbout() {
+    desktop().load(std::make_unique<AboutDialog>(desktop(), session_)).showModal();
+}
+
 void MDIHost::exitProgram() {
     closeHost();
 }
@@ -384,6 +404,7 @@ void MDIHost::closeHost() {
 }
 
 void MDIHost::Form_Unload() {
+    if (help_) help_->close();
     for (int i = desktop().count() - 1; i >= 0; --i) {
         if (&desktop().at(i) != this) desktop().at(i).leave();
     }

@@ -13,6 +13,7 @@ class DataWindow;
 
 namespace app {
 
+class HelpViewer;
 class HostPanel;
 
 /// The host: the window in which every data window stands, with the family selector and the category tree at its left.
@@ -64,6 +65,8 @@ public:
     void newDatabase() override { database_.newDB(); }
     void restoreDatabase() override { database_.openDB(); }
     void backupDatabase() override { database_.backupDB(); }
+    void showHelp() override;
+    void showAbout() override;
     void exitProgram() override;
 
 protected:
@@ -80,7 +83,7 @@ private:
     void picture1_Click();
     void mFamilySequence_Click();
     void openChild(const QString& window, const QString& table, const session::ChildRequest& request);
-    /// A window is loaded besides the host (help, once used, isn't one), and the active one holds changes.
+    /// A window is loaded besides the host (the owner of the help isn't one), and the active one holds changes.
     [[nodiscard]] bool leavesChanges() const;
     [[nodiscard]] bool onlyHelpIsOpen() const;
     [[nodiscard]] bool mayGoDown();
@@ -91,6 +94,7 @@ private:
     CategoryTree categories_;
     Dispatch dispatch_;
     DatabaseCommands database_;
+    std::unique_ptr<HelpViewer> help_;
     int iCurrentNode_ = 1;
 };
 

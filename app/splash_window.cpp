@@ -2,11 +2,11 @@
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "app/brand.h"
 #include "platform/base/conversions.h"
 #include "platform/base/files.h"
 #include "session/session.h"
@@ -21,21 +21,6 @@ constexpr int logoSize = 96;
 constexpr int fullLogoSize = 256;
 /// 200 twips at 96 dpi.
 constexpr int lineGap = 13;
-
-void loadPicture(QLabel& label, const QString& path, int size) {
-    if (!platform::files::fileExists(path)) return;
-    const QPixmap picture = QIcon(path).pixmap(size, size);
-    if (picture.isNull()) return;
-    label.setPixmap(picture);
-    label.show();
-}
-
-void setLabelFont(QLabel& label, int points, bool bold) {
-    QFont font = label.font();
-    font.setPointSize(points);
-    font.setBold(bold);
-    label.setFont(font);
-}
 
 }  // namespace
 
@@ -90,7 +75,6 @@ void SplashWindow::setCaptions(const session::Session& session) {
     lblVersion->setText(words.gsVersion);
     lblCopyright->setText(words.gsCopyright);
     lblCompany->setText(words.gsCompany);
-    lblTM->setText(u"\u2122"_s);
     setLabelFont(*lblProductName, 30, true);
     setLabelFont(*lblVersion, 12, true);
 
@@ -104,11 +88,7 @@ void SplashWindow::setCaptions(const session::Session& session) {
 }
 
 void SplashWindow::layOut() {
-    auto* product = new QHBoxLayout;
-    product->setSpacing(1);
-    product->addWidget(lblProductName);
-    product->addWidget(lblTM, 0, Qt::AlignTop);
-    product->addStretch(1);
+    auto* product = productLine(*lblProductName, *lblTM);
 
     auto* words = new QVBoxLayout;
     words->setSpacing(2);

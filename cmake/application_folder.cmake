@@ -10,7 +10,7 @@ install(FILES
   ${CMAKE_BINARY_DIR}/TheLarkmoorIcon.ico
   ${CMAKE_BINARY_DIR}/TheIcon.ico
   DESTINATION .)
-install(DIRECTORY DESTINATION HelpFiles)
+install(FILES ${PROJECT_SOURCE_DIR}/resources/help/help.html DESTINATION HelpFiles RENAME Helper.hlp)
 
 # The copy goes through a second name, so that a copy cut off half-way is never taken for the family's own file.
 install(CODE [[

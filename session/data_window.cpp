@@ -31,6 +31,8 @@ WindowCommands DataWindow::commonCommands() {
     commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
     commands.cut = handler([this] { copySelection(*this, Copy::Cut); });
     commands.paste = handler([this] { pasteSelection(*this); });
+    commands.help = handler([this] { workspace_.showHelp(); });
+    commands.about = handler([this] { workspace_.showAbout(); });
     return commands;
 }
 

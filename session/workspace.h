@@ -53,6 +53,10 @@ public:
     virtual void restoreDatabase() = 0;
     virtual void backupDatabase() = 0;
 
+    /// Opens the help at its contents; it stays open beside the program.
+    virtual void showHelp() = 0;
+    virtual void showAbout() = 0;
+
     /// Leaves the program.
     virtual void exitProgram() = 0;
 };
