@@ -34,8 +34,7 @@ HelpViewer::HelpViewer(QString file)
     : file_(std::move(file)),
       contents_(new QTreeWidget(this)),
       page_(new QTextBrowser(this)),
-      search_(new QLineEdit(this)),
-      notFound_(new QLabel(u"Not found"_s, this)) {
+      search_(new QLineEdit(this)) {
     setWindowTitle(u"Kinbook Help"_s);
     setWindowFlags(Qt::Window);
     // The program ends with its own windows; this one doesn't keep it.
@@ -45,7 +44,7 @@ HelpViewer::HelpViewer(QString file)
         if (item) page_->setSource(QUrl(u'#' + item->data(0, Qt::UserRole).toString()));
     });
     connect(search_, &QLineEdit::returnPressed, this, [this] { search(); });
-    connect(search_, &QLineEdit::textChanged, notFound_, &QWidget::hide);
+    connect(search_, &QLineEdit::textChanged, this, [this] { notFound_->setVisible(false); });
 }
 
 void HelpViewer::layOut() {
@@ -78,8 +77,8 @@ void HelpViewer::layOut() {
         search_->selectAll();
     });
     addAction(find);
-    bar->addWidget(notFound_);
-    notFound_->hide();
+    notFound_ = bar->addWidget(new QLabel(u"Not found"_s, this));
+    notFound_->setVisible(false);
 
     contents_->setHeaderHidden(true);
     page_->setOpenLinks(true);
@@ -130,6 +129,7 @@ void HelpViewer::showContents() {
         if (level == 1) chapter = item;
     }
     contents_->expandToDepth(0);
+    contents_->setCurrentItem(contents_->topLevelItem(0));
 }
 
 void HelpViewer::search(QTextDocument::FindFlags direction) {

@@ -4,7 +4,6 @@
 #include <QWidget>
 
 class QAction;
-class QLabel;
 class QLineEdit;
 class QTreeWidget;
 
@@ -32,7 +31,7 @@ private:
     QTreeWidget* contents_;
     QTextBrowser* page_;
     QLineEdit* search_;
-    QLabel* notFound_;
+    QAction* notFound_ = nullptr;
 };
 
 }  // namespace app

@@ -87,6 +87,7 @@ SecurityInfo::SecurityInfo(platform::Desktop& desktop) : FormWindow(desktop, u"f
         label->setWordWrap(true);
         column->addWidget(label);
     }
+    column->addStretch(1);
     column->addLayout(platform::closingButton(*this, handler([this] { unload(); })));
     // Labels that wrap have no width of their own to go by.
     setMinimumWidth(560);

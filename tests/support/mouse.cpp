@@ -79,6 +79,10 @@ Spot spotOn(QWidget& widget) {
 
 void press(const Spot& spot, Qt::MouseButton button) {
     QTest::mouseMove(spot.window, spot.position);
+    // A window manager brings the window that is clicked to the front.
+    const bool behind =
+        spot.window && spot.window->type() != Qt::Popup && QGuiApplication::focusWindow() != spot.window;
+    if (behind && !QApplication::activePopupWidget()) spot.window->requestActivate();
     if (spot.window) QTest::mousePress(spot.window, button, {}, spot.position);
 }
 
