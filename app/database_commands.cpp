@@ -117,10 +117,10 @@ bool DatabaseCommands::confirmRestore() {
 }
 
 QString DatabaseCommands::chooseSource() {
-    const QString chosen = desktop().dialogs().fileDialog({.folder = session_.applicationFolder,
-                                                           .filterText = u"Database Files (*.mdb)"_s,
-                                                           .filterPattern = u"*.mdb"_s,
-                                                           .title = u"Database to Restore"_s});
+    QString chosen = desktop().dialogs().fileDialog({.folder = session_.applicationFolder,
+                                                     .filterText = u"Database Files (*.mdb)"_s,
+                                                     .filterPattern = u"*.mdb"_s,
+                                                     .title = u"Database to Restore"_s});
     session_.gsDatabaseName = files::nameOf(chosen);
     session_.gsDatabasePath = chosen;
     return chosen;

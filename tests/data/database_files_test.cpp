@@ -206,14 +206,4 @@ TEST_F(DatabaseFiles, ARunKilledWhileItReplacesLeavesOneOfTheTwoFilesWhole) {
     EXPECT_EQ(names(), QStringList({u"first.mdb"_s, u"live.mdb"_s, u"second.mdb"_s}));
 }
 
-TEST_F(DatabaseFiles, EmptyingTakesEveryFileAndNoFolder) {
-    data::emptyFolder(path(u"none"_s));
-    QDir(folder_.path()).mkpath(u"A/sub"_s);
-    data::emptyFolder(path(u"A"_s));
-    write(path(u"A/f"_s), "x");
-    files::setReadOnly(path(u"A/f"_s));
-    data::emptyFolder(path(u"A"_s));
-    EXPECT_EQ(QDir(path(u"A"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"sub"_s});
-}
-
 }  // namespace
