@@ -9,7 +9,7 @@ class QMenu;
 namespace platform {
 class CommandButton;
 class ListView;
-}
+}  // namespace platform
 
 namespace session {
 struct Session;
