@@ -1,6 +1,7 @@
 #include "app/database_commands.h"
 
 #include "app/mdi_host.h"
+#include "app/restore_source.h"
 #include "data/database_files.h"
 #include "platform/base/conversions.h"
 #include "platform/base/file_replacement.h"
@@ -19,8 +20,6 @@ namespace files = platform::files;
 namespace app {
 
 namespace {
-
-const QString liveName = u"FamilyInfo.mdb"_s;
 
 double fileKilobytes(const QString& path) {
     return data::kilobytes(files::fileSize(path));
@@ -116,27 +115,17 @@ bool DatabaseCommands::confirmRestore() {
         u"Restore Database Confirmation"_s);
 }
 
-QString DatabaseCommands::chooseSource() {
-    QString chosen = desktop().dialogs().fileDialog({.folder = session_.applicationFolder,
-                                                     .filterText = u"Database Files (*.mdb)"_s,
-                                                     .filterPattern = u"*.mdb"_s,
-                                                     .title = u"Database to Restore"_s});
-    session_.gsDatabaseName = files::nameOf(chosen);
-    session_.gsDatabasePath = chosen;
-    return chosen;
-}
-
 void DatabaseCommands::restore() {
-    const QString chosen = chooseSource();
-    if (chosen.isEmpty()) return refuseNoName(u"No database name was selected to restore."_s);
+    const QString chosen = chooseRestoreSource(desktop(), session_);
+    if (chosen.isEmpty()) {
+        tellNoRestoreSource(desktop());
+        host_.selectWholeName();
+        return;
+    }
     desktop().setPointer(Pointer::Hourglass);
     const QString companion = data::companionFolder(chosen);
     Sizes expected{.attachments = folderKilobytesIfAny(companion)};
-    if (!files::fileExists(chosen)) {
-        desktop().notice(chosen + u" does not exist.  No database was opened."_s, u"File Does Not Exist"_s,
-                         Icon::Information);
-        return;
-    }
+    if (!restoreSourceExists(desktop(), chosen)) return;
     expected.database = fileKilobytes(chosen);
     if (!closeWindows()) return;
     // Taking the old attachments away must not take the backup's.
@@ -146,8 +135,8 @@ void DatabaseCommands::restore() {
     const Sizes copied{fileKilobytes(session_.gsDatabasePath), folderKilobytes(attachments())};
     desktop().setPointer(Pointer::Default);
     if (copied == expected) {
-        desktop().notice(u"Your database, "_s + files::nameOf(chosen) + u", has been restored as \r\n"_s + liveName +
-                             u", and is ready for use."_s,
+        desktop().notice(u"Your database, "_s + files::nameOf(chosen) + u", has been restored as \r\n"_s +
+                             session::Session::liveDatabaseName() + u", and is ready for use."_s,
                          u"Database Restored"_s, Icon::Information);
     } else {
         tellIncomplete();
@@ -166,8 +155,7 @@ void DatabaseCommands::copyAttachments(const QString& source) {
 // Replacing the live file ------------------------------------------------------------------------------------------
 
 bool DatabaseCommands::closeWindows() {
-    session_.gsDatabaseName = liveName;
-    session_.gsDatabasePath = session_.path(liveName);
+    session_.useLiveDatabase();
     desktop().unloadAll([this](const platform::Form& form) { return &form != &host_; });
     // Who won't give up what he has typed doesn't want another file under it.
     const bool closed = desktop().count() == 1;
@@ -218,7 +206,12 @@ bool DatabaseCommands::confirmBackup(const Sizes& sizes) {
 
 void DatabaseCommands::backup() {
     const QString target = chooseTarget();
-    if (target.isEmpty()) return refuseNoName(u"No database name was selected for the backup database."_s);
+    if (target.isEmpty()) {
+        desktop().notice(u"No database name was selected for the backup database."_s, u"No Database Name"_s,
+                         Icon::Information);
+        host_.selectWholeName();
+        return;
+    }
     const QString companion = data::companionFolder(target);
     Sizes expected{.attachments = folderKilobytesIfAny(attachments())};
     const QString source = session_.gsDatabasePath;
@@ -253,11 +246,6 @@ void DatabaseCommands::saveAttachments(const QString& target) {
 }
 
 // Refusals ---------------------------------------------------------------------------------------------------------
-
-void DatabaseCommands::refuseNoName(const QString& text) {
-    desktop().notice(text, u"No Database Name"_s, Icon::Information);
-    host_.selectWholeName();
-}
 
 void DatabaseCommands::tellIncomplete() {
     desktop().notice(

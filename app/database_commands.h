@@ -47,8 +47,6 @@ private:
     [[nodiscard]] bool confirmFreshStart();
     void restore();
     [[nodiscard]] bool confirmRestore();
-    /// Full name of the file to restore, which becomes the session's database at once; empty for none.
-    [[nodiscard]] QString chooseSource();
     void backup();
     [[nodiscard]] QString chooseTarget();
     [[nodiscard]] bool confirmBackup(const Sizes& sizes);
@@ -63,7 +61,6 @@ private:
     void replaceLive(const QString& source);
     void openLive();
 
-    void refuseNoName(const QString& text);
     void tellIncomplete();
     [[nodiscard]] platform::Desktop& desktop() const;
     [[nodiscard]] QString attachments() const;

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "app/mdi_host.h"
+#include "app/restore_source.h"
 #include "app/splash_window.h"
 #include "data/database_files.h"
 #include "platform/base/files.h"
@@ -48,10 +49,11 @@ void Kinbook::start() {
     const int seconds = session_->definition.giSplashSeconds;
     desktop_->wait(seconds != 0 ? seconds : usualSplashSeconds);
 
-    data::discardUnfinishedRestore(session_->path(u"FamilyInfo.mdb"_s), session_->path(u"Attachments"_s));
+    const QString live = session_->path(session::Session::liveDatabaseName());
+    data::discardUnfinishedRestore(live, session_->path(u"Attachments"_s));
     session_->gConnection.setCursorLocation(data::CursorLocation::Client);
     try {
-        session_->gConnection.open(session_->path(u"FamilyInfo.mdb"_s));
+        session_->gConnection.open(live);
     } catch (const platform::RuntimeError& error) {
         if (error.number() != cannotOpenDatabase) throw;
         if (!restoreMissingDatabase()) {
@@ -59,8 +61,7 @@ void Kinbook::start() {
             return;
         }
     }
-    session_->gsDatabaseName = u"FamilyInfo.mdb"_s;
-    session_->gsDatabasePath = session_->path(session_->gsDatabaseName);
+    session_->useLiveDatabase();
     desktop_->load(std::make_unique<MDIHost>(*desktop_, *session_)).show();
     unloadSplash();
 }
@@ -104,38 +105,27 @@ bool Kinbook::restoreMissingDatabase() {
         "continuing this restore function.\r\n\r\nDo you want to continue?"_s,
         u"Restore Database Confirmation"_s);
     if (!goesOn) return false;
-    const platform::FileRequest request{.folder = session_->applicationFolder,
-                                        .filterText = u"Database Files (*.mdb)"_s,
-                                        .filterPattern = u"*.mdb"_s,
-                                        .title = u"Database to Restore"_s};
     // The dialog belongs to the splash window, which is loaded again for it but not shown.
     [[maybe_unused]] const SplashWindow& holder = splash();
-    const QString chosen = desktop_->dialogs().fileDialog(request);
-    session_->gsDatabasePath = chosen;
-    session_->gsDatabaseName = platform::files::nameOf(chosen);
+    const QString chosen = chooseRestoreSource(*desktop_, *session_);
     if (chosen.isEmpty()) {
-        desktop_->notice(u"No database name was selected to restore."_s, u"No Database Name"_s, Icon::Information);
+        tellNoRestoreSource(*desktop_);
         return false;
     }
-    if (!platform::files::fileExists(chosen)) {
-        desktop_->notice(chosen + u" does not exist.  No database was opened."_s, u"File Does Not Exist"_s,
-                         Icon::Information);
-        return false;
-    }
+    if (!restoreSourceExists(*desktop_, chosen)) return false;
     replaceDatabase(chosen);
     return true;
 }
 
 void Kinbook::replaceDatabase(const QString& chosen) {
     const QString chosenName = session_->gsDatabaseName;
-    session_->gsDatabaseName = u"FamilyInfo.mdb"_s;
-    session_->gsDatabasePath = session_->path(session_->gsDatabaseName);
+    session_->useLiveDatabase();
     if (session_->gConnection.isOpen()) session_->gConnection.close();
     desktop_->unloadAll([](const platform::Form& form) { return form.name() != MDIHost::formName(); });
     data::replaceDatabase(chosen, session_->gsDatabasePath);
     session_->gConnection.setCursorLocation(data::CursorLocation::Client);
     session_->gConnection.open(session_->gsDatabasePath);
-    desktop_->notice(u"Your database, "_s + chosenName + u", has been restored as "_s + u"FamilyInfo.mdb"_s +
+    desktop_->notice(u"Your database, "_s + chosenName + u", has been restored as "_s + session_->gsDatabaseName +
                      u", and is ready for use."_s);
 }
 

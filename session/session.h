@@ -47,6 +47,10 @@ struct Session {
     QString gvAttachKey;
     bool gbHelpOpened = false;
 
+    /// Name of the family's database file in the application folder.
+    [[nodiscard]] static QString liveDatabaseName();
+    /// The family's database file is the session's from here on; it isn't opened by that.
+    void useLiveDatabase();
     /// A path in the application folder.
     [[nodiscard]] QString path(const QString& name) const;
 };
