@@ -76,7 +76,7 @@ bool DatabaseCommands::confirmFreshStart() {
             u"No changes were made to your existing database.  It is recommended that you backup your existing "
             "database by using the Backup function before starting fresh unless you know that your existing database "
             "is worthless."_s,
-            u"No Changes Made"_s, Icon::Information);
+            u"No Changes Made"_s);
     }
     return goesOn;
 }
@@ -85,7 +85,7 @@ void DatabaseCommands::startFresh() {
     desktop().setPointer(Pointer::Hourglass);
     const QString source = session_.path(u"FamilyInfo_Empty.mdb"_s);
     if (!files::fileExists(source)) {
-        desktop().notice(source + u" does not exist."_s, u"File Not Found"_s, Icon::Information);
+        desktop().notice(source + u" does not exist."_s, u"File Not Found"_s);
         return;
     }
     if (!closeWindows()) return;
@@ -137,7 +137,7 @@ void DatabaseCommands::restore() {
     if (copied == expected) {
         desktop().notice(u"Your database, "_s + files::nameOf(chosen) + u", has been restored as \r\n"_s +
                              session::Session::liveDatabaseName() + u", and is ready for use."_s,
-                         u"Database Restored"_s, Icon::Information);
+                         u"Database Restored"_s);
     } else {
         tellIncomplete();
     }
@@ -200,15 +200,14 @@ bool DatabaseCommands::confirmBackup(const Sizes& sizes) {
             u" kilobytes of space on your backup medium.  The backup will not be successful if you do "
             "not have sufficient space.\r\n\r\nDo you want to continue?"_s,
         u"Backup Database Size Requirements"_s);
-    if (!goesOn) desktop().notice(u"No data was saved."_s, u"No Backup"_s, Icon::Information);
+    if (!goesOn) desktop().notice(u"No data was saved."_s, u"No Backup"_s);
     return goesOn;
 }
 
 void DatabaseCommands::backup() {
     const QString target = chooseTarget();
     if (target.isEmpty()) {
-        desktop().notice(u"No database name was selected for the backup database."_s, u"No Database Name"_s,
-                         Icon::Information);
+        desktop().notice(u"No database name was selected for the backup database."_s, u"No Database Name"_s);
         host_.selectWholeName();
         return;
     }
@@ -216,7 +215,7 @@ void DatabaseCommands::backup() {
     Sizes expected{.attachments = folderKilobytesIfAny(attachments())};
     const QString source = session_.gsDatabasePath;
     if (!files::fileExists(source)) {
-        desktop().notice(u"The original database does not exist."_s, u"No Source Database"_s, Icon::Information);
+        desktop().notice(u"The original database does not exist."_s, u"No Source Database"_s);
         return;
     }
     expected.database = fileKilobytes(source);
@@ -234,7 +233,7 @@ void DatabaseCommands::backup() {
     desktop().notice(u"Your backup database is:  "_s + target + u"\r\nIt contains "_s + numberText(copied.database) +
                          u" kilobytes.\r\n\r\nYour attachments are contained in: "_s + companion + u"\r\nThere are "_s +
                          numberText(copied.attachments) + u" kilobytes of attachments. "_s,
-                     u"Backup Database Information"_s, Icon::Information);
+                     u"Backup Database Information"_s);
 }
 
 void DatabaseCommands::saveAttachments(const QString& target) {

@@ -46,7 +46,7 @@ bool Dispatch::tooManyWindows() const {
         u"You have ten data windows open. You will soon exhaust your computer's resources.  Please close some data "
         "windows by clicking on the Close button at the lower right corner of the data window or the Cancel button "
         "at the bottom of the screen."_s,
-        u"Too Many Data Windows Open"_s, platform::Icon::Information);
+        u"Too Many Data Windows Open"_s);
     return true;
 }
 
@@ -73,7 +73,7 @@ void Dispatch::openPins() {
         host_.desktop().notice(
             u"No family member has been selected.  The PIN And Password screen is tied \r\n"
             "to specific family members.  Please select a family member."_s,
-            u"No Family Member Selected"_s, platform::Icon::Information);
+            u"No Family Member Selected"_s);
         return;
     }
     auto& login = touchDialog<security::LoginPin>();
@@ -86,7 +86,7 @@ void Dispatch::openPins() {
 bool Dispatch::changePinPassword() {
     if (host_.desktop().find(pinList)) {
         host_.desktop().notice(u"You must close the PINs and Passwords screen before you change the password."_s,
-                               u"Close PINs and Passwords Screen"_s, platform::Icon::Information);
+                               u"Close PINs and Passwords Screen"_s);
         return false;
     }
     touchDialog<security::ChangePinPassword>().showModal();

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTextBlock>
 #include <QToolBar>
@@ -34,7 +35,8 @@ HelpViewer::HelpViewer(QString file)
     : file_(std::move(file)),
       contents_(new QTreeWidget(this)),
       page_(new QTextBrowser(this)),
-      search_(new QLineEdit(this)) {
+      search_(new QLineEdit(this)),
+      split_(new QSplitter(this)) {
     setWindowTitle(u"Kinbook Help"_s);
     setWindowFlags(Qt::Window);
     // The program ends with its own windows; this one doesn't keep it.
@@ -81,18 +83,17 @@ void HelpViewer::layOut() {
     notFound_->setVisible(false);
 
     contents_->setHeaderHidden(true);
+    contents_->header()->setStretchLastSection(false);
     page_->setOpenLinks(true);
     page_->document()->setDocumentMargin(16);
-    auto* split = new QSplitter(this);
-    split->addWidget(contents_);
-    split->addWidget(page_);
-    split->setStretchFactor(1, 1);
-    split->setSizes({240, 620});
+    split_->addWidget(contents_);
+    split_->addWidget(page_);
+    split_->setStretchFactor(1, 1);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 4, 4);
     column->addWidget(bar);
-    column->addWidget(split, 1);
-    resize(880, 640);
+    column->addWidget(split_, 1);
+    resize(960, 680);
 }
 
 void HelpViewer::open() {
@@ -129,6 +130,10 @@ void HelpViewer::showContents() {
         if (level == 1) chapter = item;
     }
     contents_->expandToDepth(0);
+    const int besideText = 2 * contents_->frameWidth() + contents_->verticalScrollBar()->sizeHint().width();
+    contents_->resizeColumnToContents(0);
+    const int wide = contents_->columnWidth(0) + besideText;
+    split_->setSizes({wide, width() - wide});
     contents_->setCurrentItem(contents_->topLevelItem(0));
 }
 

@@ -5,6 +5,7 @@
 
 class QAction;
 class QLineEdit;
+class QSplitter;
 class QTreeWidget;
 
 namespace app {
@@ -31,6 +32,7 @@ private:
     QTreeWidget* contents_;
     QTextBrowser* page_;
     QLineEdit* search_;
+    QSplitter* split_;
     QAction* notFound_ = nullptr;
 };
 

@@ -13,7 +13,6 @@
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
-using platform::Icon;
 
 namespace app {
 
@@ -41,7 +40,7 @@ void Kinbook::start() {
     if (!getSplashValues()) {
         desktop_->notice(
             u"Values are missing for the Splash screen.  They should be contained in the SplashDef file."_s,
-            u"Missing Splash Screen Values"_s, Icon::Information);
+            u"Missing Splash Screen Values"_s);
         return;
     }
     splash().show();
@@ -69,7 +68,7 @@ void Kinbook::start() {
 bool Kinbook::getSplashValues() {
     const QString path = session_->path(u"SplashDef.txt"_s);
     if (!platform::files::fileExists(path)) {
-        desktop_->notice(path + u" does not exist."_s, u"No PDF File"_s, Icon::Information);
+        desktop_->notice(path + u" does not exist."_s, u"No PDF File"_s);
         return false;
     }
     std::optional<session::Definition> definition;
@@ -79,7 +78,7 @@ bool Kinbook::getSplashValues() {
         return false;
     }
     if (!definition) {
-        desktop_->notice(u"Error in Splash Screen Definition File."_s, u"Splash Screen Error"_s, Icon::Information);
+        desktop_->notice(u"Error in Splash Screen Definition File."_s, u"Splash Screen Error"_s);
         return false;
     }
     session_->definition = *definition;

@@ -28,7 +28,6 @@
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
-using platform::Icon;
 
 namespace app {
 
@@ -206,7 +205,7 @@ void MDIHost::refuseSelection() {
             "Family Member button at the upper left hand corner of the screen.  You will then have no trouble "
             "entering the information for this new family member.\r\n\r\n"
             "Go for it...."_s,
-        u"No Matching Family Member"_s, Icon::Information);
+        u"No Matching Family Member"_s);
     panel_->cbPerson().selectAll();
 }
 
@@ -220,7 +219,7 @@ void MDIHost::cmdAddNew_Click() {
         if (selectedName().isEmpty() && usual) {
             desktop().notice(
                 u"You must have an Individual or Whole Family selected before you can add another family member."_s,
-                u"Missing Selection"_s, Icon::Information);
+                u"Missing Selection"_s);
             return;
         }
         tvTree().setEnabled(false);
@@ -279,7 +278,9 @@ void MDIHost::openChild(const QString& window, const QString& table, const sessi
     }
     if (platform::Form* open = desktop().find(window)) {
         if (!open->unload()) return;
+        // It may have stood in an add.
         enableTree(true);
+        enableAddMember(true);
     }
     auto* child = static_cast<screens::ChildScreen*>(touch(window));
     child->setParentRow(request);

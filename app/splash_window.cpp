@@ -80,11 +80,11 @@ void SplashWindow::setCaptions(const session::Session& session) {
 
     const int nameSize = qBound(1, static_cast<int>(platform::val(words.gsNameFontSize)), 96);
     setLabelFont(*lblCompanyName, nameSize, true);
+    lblPhone->setText(words.gsPhone);
     // A full logo carries the name already.
     if (!imgFullLogo->isHidden()) return;
     lblCompanyName->setText(words.gsCompanyName);
     lblSlogan->setText(words.gsSlogan);
-    lblPhone->setText(words.gsPhone);
 }
 
 void SplashWindow::layOut() {

@@ -125,11 +125,9 @@ void AttachDialog::cmdAdd_Click() {
     desktop().attempt(u"Error in Add Process"_s, [this] {
         const auto source = desktop().dialogs().chooseFile({.folder = session_.applicationFolder});
         if (!source) {
-            desktop().notice(u"Process has been canceled.  No attachment was added."_s, u"Process Canceled"_s,
-                             Icon::Information);
+            desktop().notice(u"Process has been canceled.  No attachment was added."_s, u"Process Canceled"_s);
         } else if (source->isEmpty()) {
-            desktop().notice(u"No filename was entered. No attachment was added."_s, u"No Filename"_s,
-                             Icon::Information);
+            desktop().notice(u"No filename was entered. No attachment was added."_s, u"No Filename"_s);
         } else {
             addFile(*source);
         }
@@ -182,8 +180,7 @@ void AttachDialog::cmdCopy_Click() {
                                [this](const RuntimeError& error) {
                                    const bool denied = error.number() == permissionDenied;
                                    const QString advice = denied ? u"File may be read only."_s : QString();
-                                   desktop().notice(error.report() + advice, u"Error in Copy Process"_s,
-                                                    Icon::Information);
+                                   desktop().notice(error.report() + advice, u"Error in Copy Process"_s);
                                });
 }
 

@@ -78,6 +78,10 @@ void EditDialog::clear() {
         setText(field.name, {});
 }
 
+void EditDialog::initScreen() {
+    if (!form_.selected.isEmpty()) pointAt(form_.selected);
+}
+
 void EditDialog::pointAt(const QString& field) {
     const Input& found = input(field);
     if (found.combo) {

@@ -32,8 +32,8 @@ public:
     [[nodiscard]] QString text(const QString& field) const;
     void setText(const QString& field, const QString& text);
     void clear();
-    /// Gets the dialog ready to be shown.
-    virtual void initScreen() {}
+    /// Gets the dialog ready to be shown for an edit.
+    void initScreen();
 
 protected:
     /// Tells what is wrong with what was typed; false keeps the dialog open.

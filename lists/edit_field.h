@@ -30,6 +30,7 @@ struct EditForm {
     QString name;
     QString caption;
     std::vector<EditField> fields;
+    QString selected{};  ///< the input that Edit comes up in, its text selected; empty: the first, nothing selected
 };
 
 }  // namespace lists

@@ -28,7 +28,8 @@ const ListDefinition familyList{
                .gridColumn = 3,
                .stored = u"SocSecNum"_s,
                .ampersands = Ampersands::SingleInDialog,
-               .enabled = false}}},
+               .enabled = false}},
+             txtSequence},
     .editsOnly = true,
     .closesTree = true,
 };

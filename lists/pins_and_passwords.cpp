@@ -29,7 +29,8 @@ const ListDefinition pinList{
               {.name = u"txtPINPass"_s,
                .label = u"PIN or Password:"_s,
                .gridColumn = 4,
-               .ampersands = Ampersands::DoubledInTable}}},
+               .ampersands = Ampersands::DoubledInTable}},
+             txtSequence},
     .closesTree = true,
 };
 

@@ -14,10 +14,6 @@ SequencedDialog::SequencedDialog(platform::Desktop& desktop, const EditForm& for
       sequence_(std::move(sequence)),
       required_(std::move(required)) {}
 
-void SequencedDialog::initScreen() {
-    if (!required_) pointAt(txtSequence);
-}
-
 bool SequencedDialog::accepts() {
     if (!platform::isNumeric(text(txtSequence))) {
         desktop().notice(u"The Sequence field does not contain a valid number."_s, u"Invalid Number Format"_s);

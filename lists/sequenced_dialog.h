@@ -29,9 +29,6 @@ public:
     SequencedDialog(platform::Desktop& desktop, const EditForm& form, data::Connection& connection, Sequence sequence,
                     std::optional<RequiredText> required = {});
 
-    /// The dialog comes up with the number selected, where nothing else can be entered.
-    void initScreen() override;
-
 protected:
     /// The number is one, at most one past the largest; the required text is there.
     [[nodiscard]] bool accepts() override;

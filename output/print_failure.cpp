@@ -17,7 +17,7 @@ void attemptPrint(platform::Desktop& desktop, const QString& title, const std::f
             return;
         }
         desktop.notice(u"No printer is configured for this computer so you will not be able to print anything."_s,
-                       u"No Printer"_s, platform::Icon::Information);
+                       u"No Printer"_s);
     }
 }
 

@@ -43,7 +43,7 @@ void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
             desktop.notice(
                 u"SplashDef.txt is a protected file.  You are not allowed to overwrite it.  Select a different "
                 "filename and you will be able to save your file and proceed."_s,
-                u"Protected File"_s, platform::Icon::Information);
+                u"Protected File"_s);
             return;
         }
         if (name.isEmpty()) {
@@ -63,7 +63,7 @@ void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const Re
         const QString name = desktop.dialogs().fileDialog(request.asksForText ? textFileRequest(request.folder)
                                                                               : saveRequest(request.folder));
         if (name.isEmpty()) {
-            desktop.notice(request.noFileText, request.noFileTitle, platform::Icon::Information);
+            desktop.notice(request.noFileText, request.noFileTitle);
             return;
         }
         platform::files::TextWriter file(name);

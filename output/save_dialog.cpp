@@ -19,7 +19,7 @@ platform::FileRequest textFileRequest(const QString& folder) {
 }
 
 void tellNoFileName(platform::Desktop& desktop) {
-    desktop.notice(u"No filename was specified.  No file was saved."_s, u"No Filename"_s, platform::Icon::Information);
+    desktop.notice(u"No filename was specified.  No file was saved."_s, u"No Filename"_s);
 }
 
 }  // namespace output

@@ -54,7 +54,8 @@ void ChildScreen::showOwner() {
     QString name;
     if (txtOwnerID_.isNumeric()) {
         lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
-        name = rsLookup().value(u"LegalName"_s).toString();
+        // The owner may have been deleted while the parent stood open.
+        if (!rsLookup().eof()) name = rsLookup().value(u"LegalName"_s).toString();
     }
     boxes().text(nameBox).setText(name);
 }

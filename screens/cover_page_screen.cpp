@@ -17,8 +17,7 @@ void CoverPageScreen::ShowMe() {
         bindBoxes();
         if (rows().eof()) {
             setButtons(false);
-            desktop().notice(u"No cover page information was found."_s, u"No Cover Page Info"_s,
-                             platform::Icon::Information);
+            desktop().notice(u"No cover page information was found."_s, u"No Cover Page Info"_s);
             cmdAdd_Click();
         } else {
             rows().moveFirst();

@@ -125,10 +125,6 @@ void FieldBoxes::bindCombos(platform::RecordSource* rows) {
         combo.binding->setSource(rows);
 }
 
-void FieldBoxes::bindFirstCombo(platform::RecordSource* rows) {
-    if (!combos_.empty()) combos_.front().binding->setSource(rows);
-}
-
 void FieldBoxes::writeCombos(platform::RecordSource& rows) const {
     for (const Combo& combo : combos_)
         rows.setValue(combo.column.column, combo.box->text());

@@ -65,8 +65,6 @@ public:
     void bind(platform::RecordSource* rows);
     void bindDates(platform::RecordSource* rows);
     void bindCombos(platform::RecordSource* rows);
-    /// Binds the first combo alone, as the end of an add does.
-    void bindFirstCombo(platform::RecordSource* rows);
     /// Sets each combo's column to its text.
     void writeCombos(platform::RecordSource& rows) const;
     /// Sets each date box's column to its text, or to a null if it is empty, and leaves the box bound. A text that is

@@ -16,7 +16,7 @@ void showInvalidDate(platform::Desktop& desktop, const QString& label) {
         u"The %1 field has an error in it.  The date needs to have a month, day, and year.  The month can be spelled "
         "out or abbreviated or entered as a number.\r\n\r\n"
         "Before you Cancel or Save, you must either enter the date correctly or leave the %1 field blank."_s.arg(name),
-        u"Invalid "_s + name, platform::Icon::Information);
+        u"Invalid "_s + name);
 }
 
 void showInvalidNumber(platform::Desktop& desktop, const QString& label) {
@@ -26,7 +26,7 @@ void showInvalidNumber(platform::Desktop& desktop, const QString& label) {
         "special characters.\r\n\r\n"
         "Before you Cancel or Save, you must either enter the number correctly or leave the %1 field blank."_s.arg(
             name),
-        u"Invalid "_s + name, platform::Icon::Information);
+        u"Invalid "_s + name);
 }
 
 bool passes(platform::Desktop& desktop, platform::TextControl& box, Check check, const QString& label) {

@@ -73,7 +73,7 @@ bool PersonScreen::readyToSave() {
         desktop().notice(
             u"No legal name has been entered.  We cannot add a family member without a name.  Just enter the name in "
             "the Legal Name box and click the Save button and we can press on."_s,
-            u"No Legal Name"_s, platform::Icon::Information);
+            u"No Legal Name"_s);
         return false;
     }
     return true;
@@ -187,7 +187,7 @@ bool PersonScreen::sexIsValid() {
     if (sex == u"m"_s) box.setText(u"M"_s);
     if (sex == u"f"_s) box.setText(u"F"_s);
     if (box.text() == u"M"_s || box.text() == u"F"_s) return true;
-    desktop().notice(u"Invalid entry in the Sex field."_s, u"Invalid Entry"_s, platform::Icon::Information);
+    desktop().notice(u"Invalid entry in the Sex field."_s, u"Invalid Entry"_s);
     box.selectAll();
     return false;
 }
@@ -200,7 +200,7 @@ bool PersonScreen::socialSecurityIsValid() {
         "that there are no spaces between a hyphen and a number or between numbers within a group.\r\n\r\n"
         "Before you Save or Cancel, you must enter the social security number correctly or delete the invalid entry."_s
             .arg(boxes().label(socialSecurityBox)),
-        u"Invalid Social Security Number"_s, platform::Icon::Information);
+        u"Invalid Social Security Number"_s);
     box.selectAll();
     return false;
 }

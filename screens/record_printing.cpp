@@ -49,7 +49,7 @@ void RecordScreen::mSaveAll_Click() {
         return;
     }
     output::saveAll(
-        desktop(), saveAllRequest(), [this](const std::function<void()>& visit) { walkAll(visit); },
+        desktop(), saveAllRequest(), [this](const std::function<void()>& visit) { walkAllUnseen(visit); },
         [this] { return printable(); });
 }
 
@@ -61,14 +61,6 @@ output::SaveAllRequest RecordScreen::saveAllRequest() {
 
 void RecordScreen::walkAll(const std::function<void()>& visit) {
     const data::Connection::ReadHold hold(session().gConnection);
-    walking_ = true;
-    boxes_.holdDisplay();
-    boxes_.bindDates(&rows_);
-    const auto end = qScopeGuard([this] {
-        walking_ = false;
-        boxes_.bindDates(nullptr);
-        boxes_.showHeld();
-    });
     bLastRecord_ = false;
     cmdFirst_Click();
     bool goesOn = true;
@@ -77,8 +69,21 @@ void RecordScreen::walkAll(const std::function<void()>& visit) {
         // A screen without rows never comes to its last one, nor does one whose rows can't be read any more.
         goesOn = cmdNext_Click() && !bLastRecord_ && rows_.recordCount() > 0;
     }
-    walking_ = false;
     cmdFirst_Click();
+}
+
+void RecordScreen::walkAllUnseen(const std::function<void()>& visit) {
+    walking_ = true;
+    boxes_.holdDisplay();
+    boxes_.bindDates(&rows_);
+    const auto end = qScopeGuard([this] {
+        walking_ = false;
+        boxes_.bindDates(nullptr);
+        boxes_.showHeld();
+        // A walk that failed half-way leaves the screen at the record that it had come to.
+        setNumAttachments();
+    });
+    walkAll(visit);
 }
 
 }  // namespace screens

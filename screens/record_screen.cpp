@@ -99,6 +99,7 @@ session::WindowCommands RecordScreen::commands() {
     commands.printAll = handler([this] { mPrintAll_Click(); });
     commands.save = handler([this] { mSave_Click(); });
     commands.saveAll = handler([this] { mSaveAll_Click(); });
+    commands.saveAllHint = definition_.saveAllHint;
     for (const ChildOffer& child : definition_.children) {
         const auto& [name, icon] = childKeys[static_cast<std::size_t>(child.kind)];
         commands.children.push_back(
@@ -246,8 +247,7 @@ QString RecordScreen::requiredName() const {
 
 bool RecordScreen::readyToSave() {
     if (!requiredName().isEmpty()) return true;
-    desktop().notice(definition_.refusal.opening + QString(definition_.saveEnding), definition_.refusal.title,
-                     platform::Icon::Information);
+    desktop().notice(definition_.refusal.opening + QString(definition_.saveEnding), definition_.refusal.title);
     return false;
 }
 
@@ -257,7 +257,7 @@ void RecordScreen::prepareSave() {
 
 bool RecordScreen::finishAdd() {
     rows_.moveLast();
-    boxes_.bindFirstCombo(&rows_);
+    boxes_.bindCombos(&rows_);
     rows_.requery();
     bChange = false;
     if (rows_.eof()) {

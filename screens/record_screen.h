@@ -130,7 +130,7 @@ protected:
     [[nodiscard]] HiddenBox& txtID() const { return *txtID_; }
     void placeOnTop(QWidget& row);
     [[nodiscard]] bool isBrowsing() const { return !bEditing_ && !bAdding_; }
-    /// All records are being put out, one after the other; nobody sees them.
+    /// All records are being saved, one after the other; nobody sees them.
     [[nodiscard]] bool walking() const { return walking_; }
 
     [[nodiscard]] data::Recordset& rows() { return rows_; }
@@ -151,6 +151,8 @@ private:
     bool move(const QString& errorTitle, void (RecordScreen::*step)());
     /// Shows each record from the first through the last and visits it there, then goes back to the first.
     void walkAll(const std::function<void()>& visit);
+    /// The same without drawing what is visited: only its texts are wanted.
+    void walkAllUnseen(const std::function<void()>& visit);
 
     const ScreenDefinition& definition_;
     data::Recordset rows_;

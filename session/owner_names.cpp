@@ -36,7 +36,7 @@ void showNoMatch(platform::Desktop& desktop, const QString& name) {
             "corner of the screen.  You will then have no trouble entering the rest of the information for this new "
             "family member.\r\n\r\n"
             "Go for it...."_s,
-        u"No Matching Family Member"_s, platform::Icon::Information);
+        u"No Matching Family Member"_s);
 }
 
 }  // namespace
@@ -57,7 +57,8 @@ void fillWithNames(platform::Desktop& desktop, data::Connection& connection, pla
 bool validOwnerName(platform::Desktop& desktop, data::Connection& connection, const QString& name) {
     bool found = false;
     eachName(u"Select LegalName from Person"_s, connection, [&](const QString& member) {
-        found = member == name;
+        // A member without a name is nobody's match, not even of an empty text.
+        found = !member.isNull() && member == name;
         return !found;
     });
     if (!found) showNoMatch(desktop, name);

@@ -24,14 +24,14 @@ void showScreenChanges(platform::Desktop& desktop) {
         u"Changes have been made to this screen.  \r\n"
         "You must click on Edit and then either Cancel \r\n"
         "or Save before you leave this screen."_s,
-        u"Screen Changes"_s, platform::Icon::Information);
+        u"Screen Changes"_s);
 }
 
 void showInvalidLogin(platform::Desktop& desktop) {
     desktop.notice(
         u"You cannot add, edit, or delete information because you have not logged in with the proper password.\r\n\r\n"
         "You must go to the Security category and select Login to log in properly."_s,
-        u"Invalid Login"_s, platform::Icon::Information);
+        u"Invalid Login"_s);
 }
 
 void showNoDataNoLogin(platform::Desktop& desktop) {
@@ -40,7 +40,7 @@ void showNoDataNoLogin(platform::Desktop& desktop) {
         "information because you have not logged in with the proper password.  Because of this, you are not allowed "
         "access to this screen.\r\n\r\n"
         "You must go to the Security category and select Login to log in properly."_s,
-        u"Invalid Login"_s, platform::Icon::Information);
+        u"Invalid Login"_s);
 }
 
 }  // namespace session

@@ -47,8 +47,7 @@ WindowMenus::WindowMenus(QWidget& form, const WindowCommands& commands) : toolba
     if (commands.hasAttachments)
         addKey(u"tbAttach"_s, u"mail-attachment"_s, u"View/save attachments"_s, commands.attachments);
     addKey(u"tbSave"_s, u"document-save"_s, u"SaveToFile"_s, commands.save);
-    if (commands.hasAllRecords)
-        addKey(u"tbSaveAll"_s, u"document-save-all"_s, QLatin1StringView(commands.saveAllHint), commands.saveAll);
+    if (commands.hasAllRecords) addKey(u"tbSaveAll"_s, u"document-save-all"_s, commands.saveAllHint, commands.saveAll);
     if (!commands.children.empty()) addChildren(commands.children);
 }
 

@@ -29,8 +29,7 @@ struct WindowCommands {
     std::vector<ChildCommand> children{};
     bool hasAttachments = true;
     bool hasAllRecords = true;
-    /// Tooltip of the toolbar's last key, which differs on the Person screen.
-    const char* saveAllHint = "Save all records to file";
+    QLatin1StringView saveAllHint{};  ///< tooltip of the key that saves all records
 };
 
 /// The menus and the toolbar of a data window; a key of the toolbar and its menu entry set off the same routine.

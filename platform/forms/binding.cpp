@@ -31,15 +31,18 @@ void Binding::show() {
     const ColumnKind kind = source_->columnKind(column_);
     // Without a row a check box is clear; grey is for a row that doesn't say.
     const QVariant nothing = kind == ColumnKind::YesNo ? QVariant(false) : QVariant();
-    control_.showValue(source_->hasCurrentRow() ? source_->value(column_) : nothing, kind, format_);
+    held_ = source_->hasCurrentRow() ? source_->value(column_) : nothing;
+    control_.showValue(held_, kind, format_);
     shown_ = control_.content();
 }
 
 void Binding::handOver() {
-    if (readsOnly_ || control_.content() == shown_) return;
     const QVariant content = control_.content();
+    const bool isAltered = content != shown_;
+    // What a write was refused with is still pending in the row: a box put back as it was takes that back.
+    if (readsOnly_ || (!isAltered && !handedOver_)) return;
     const QScopedValueRollback handing(handing_, true);
-    source_->setValue(column_, content);
+    source_->setValue(column_, isAltered ? content : held_);
     handedOver_ = true;
 }
 

@@ -37,7 +37,8 @@ private:
     QString format_;
     bool readsOnly_;
     QPointer<RecordSource> source_;
-    QVariant shown_;
+    QVariant held_;   ///< what the row held when it was last shown
+    QVariant shown_;  ///< what the control made of that
     bool handing_ = false;
     bool handedOver_ = false;
 };

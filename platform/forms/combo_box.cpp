@@ -56,7 +56,9 @@ void ComboBox::showHeld() {
 void ComboBox::setListIndex(int index) {
     if (count() == 0 && index == 0) return;
     if (index < -1 || index >= count()) throw RuntimeError(380);
-    if (index == listIndex_) return;
+    // A text that is no choice goes, though it has no entry to give up.
+    const bool isOther = index != listIndex_;
+    if (!isOther && index >= 0) return;
     {
         const QSignalBlocker quiet(this);
         listIndex_ = index;
@@ -64,7 +66,7 @@ void ComboBox::setListIndex(int index) {
         setEditText(index < 0 ? QString() : itemText(index));
         lineEdit()->setCursorPosition(0);
     }
-    click();
+    if (isOther) click();
 }
 
 void ComboBox::addItem(const QString& text) {

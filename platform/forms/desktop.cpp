@@ -72,6 +72,10 @@ void Desktop::retire(Form& form) {
     if (forms_.empty()) Q_EMIT emptied();
 }
 
+void Desktop::notice(const QString& text) {
+    notice(text, {}, Icon::None);
+}
+
 void Desktop::notice(const QString& text, const QString& title, Icon icon) {
     dialogs_->messageBox(text, icon, title, Buttons::Ok);
 }

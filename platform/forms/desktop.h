@@ -54,8 +54,10 @@ public:
     [[nodiscard]] MdiFrame* host() const { return host_; }
     void setHost(MdiFrame* host) { host_ = host; }
 
-    /// Shows a notice and waits for it to be read.
-    void notice(const QString& text, const QString& title = {}, Icon icon = Icon::None);
+    /// Shows a plain box, without an icon and under the program's own title, and waits for it to be read.
+    void notice(const QString& text);
+    /// Shows a notice, a refusal or, with its icon, a failure, and waits for it to be read.
+    void notice(const QString& text, const QString& title, Icon icon = Icon::Information);
     /// Asks a question; true for Yes.
     [[nodiscard]] bool ask(const QString& text, const QString& title);
     /// Runs a routine that has an error title: a failure in it ends it and is shown under the title. True if it ran

@@ -1,6 +1,7 @@
 #include "platform/forms/focus_guard.h"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -59,6 +60,10 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
             if (form->keyPreview()) desktop_.run([&] { form->Form_KeyUp(keyCode(key), shiftState(key)); });
             return false;
         }
+        case QEvent::InputMethod:
+            if (receiver == QApplication::focusWidget())
+                textComposed(*static_cast<QWidget*>(receiver), static_cast<QInputMethodEvent&>(*event));
+            return false;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
             return receiver->isWindowType() && mousePressed(receiver, static_cast<QMouseEvent&>(*event));
@@ -85,6 +90,15 @@ bool FocusGuard::keyPressed(Form& form, QKeyEvent& event) {
         if (gone()) return true;
     }
     return false;
+}
+
+void FocusGuard::textComposed(QWidget& receiver, const QInputMethodEvent& event) {
+    Form* form = Form::of(&receiver);
+    const QPointer<QWidget> window = form ? &form->window() : nullptr;
+    for (const QChar character : event.commitString()) {
+        if (!window || !form->isLoaded() || !form->keyPreview()) return;
+        desktop_.run([&] { form->Form_KeyPress(character.unicode()); });
+    }
 }
 
 bool FocusGuard::mousePressed(QObject* receiver, QMouseEvent& event) {

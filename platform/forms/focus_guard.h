@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class QInputMethodEvent;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -26,6 +27,8 @@ public:
 
 private:
     bool keyPressed(Form& form, QKeyEvent& event);
+    /// Dead keys and input methods bring a text without its keys: each character counts as typed.
+    void textComposed(QWidget& receiver, const QInputMethodEvent& event);
     bool mousePressed(QObject* receiver, QMouseEvent& event);
     bool accelerator(QObject* receiver);
     /// True if the focus may go from the form's active control to the given one.

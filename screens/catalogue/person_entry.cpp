@@ -23,6 +23,7 @@ constexpr ScreenDefinition entry{
     .title = "Birth Information"_L1,
     .attachmentPrefix = "Kbk_"_L1,
     .addCaption = "&Add New Family Member"_L1,
+    .saveAllHint = "Save all records to a file"_L1,
     .reportsLoadFailure = true,
     .combos = combos,
     .dates = dates,

@@ -99,6 +99,7 @@ struct ScreenDefinition {
     Refusal refusal = noFamilyMember;
     QLatin1StringView saveEnding{};
     QLatin1StringView deleteNoun{};  ///< after "Are you sure you want to delete this "
+    QLatin1StringView saveAllHint = QLatin1StringView("Save all records to file");
     bool reportsLoadFailure = false;
 
     std::optional<SharedRows> shared{};

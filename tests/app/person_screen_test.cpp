@@ -205,6 +205,15 @@ TEST_F(PersonScreen, CloseEndsTheWorkspace) {
     EXPECT_EQ(forms(), QStringList{u"MDIHost"_s});
     EXPECT_EQ(user.text(u"MDIHost.cbPerson"_s), QString());
     EXPECT_EQ(user.state()["focus"_L1].toString(), u"cbPerson"_s);
+    // Also when the name had been put there by a refusal, and not by a pick.
+    user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+    user.type(u"x"_s);
+    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
+    user.click(u"cmdEdit"_s);
+    user.click(u"cmdCancel"_s);
+    user.click(u"cmdClose"_s);
+    EXPECT_EQ(user.text(u"MDIHost.cbPerson"_s), QString());
 }
 
 }  // namespace

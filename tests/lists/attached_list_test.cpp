@@ -63,10 +63,12 @@ TEST_F(AttachedList, ATreatmentNeedsAPatientADoctorAndGoodDates) {
     user.fill(u"txtStartDate"_s, u"soon"_s);
     user.click(u"cmdOK"_s);
     EXPECT_EQ(boxText(), u"The Start Date field does not contain a valid date."_s);
+    EXPECT_EQ(boxIcon(), u"information"_s);
     user.answer(u"OK"_s);
     user.fill(u"txtStartDate"_s, u"5/13/2001"_s);
     user.click(u"cmdOK"_s);
     EXPECT_TRUE(boxText().startsWith(u"No doctors have been entered"_s));
+    EXPECT_EQ(boxIcon(), u"none"_s);
     user.answer(u"OK"_s);
     addDoctors();
     user.fill(u"cbDoctorName"_s, u"hale"_s);

@@ -143,6 +143,19 @@ TEST_F(RecordOutput, AScreenWithAnOwnerAddsNoEndingToTheName) {
     EXPECT_LT(text.indexOf(u" - Cabin\r\n"_s), text.indexOf(u" - Flat\r\n"_s));
 }
 
+TEST_F(RecordOutput, ASaveThatFailsHalfWayLeavesTheScreenWhereItStopped) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s});
+    exec(u"UPDATE Person SET BirthCity = '\u0141\u00F3d\u017A' WHERE ID = 2"_s);
+    user.click(u"cmdNext"_s);
+    exec(u"INSERT INTO Attachments (BugNum) VALUES ('%1')"_s.arg(user.session()["gvAttachKey"_L1].toString()));
+    user.click(u"cmdFirst"_s);
+    save(u"tbSaveAll"_s, u"all"_s);
+    EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
+    EXPECT_EQ(status(), u"Record: 2 of 3"_s);
+    EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
+    EXPECT_EQ(user.text(u"lblAttachments"_s), u"Attachments:  1"_s);
+}
+
 TEST_F(RecordOutput, TellsWhyAFileCanNotBeWritten) {
     startWith({u"Ann Larkin"_s});
     QDir(path({})).mkdir(u"folder"_s);

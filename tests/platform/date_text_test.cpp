@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "platform/base/clock.h"
 #include "tests/platform/error_number.h"
 
@@ -197,15 +199,13 @@ TEST(DateText, DatesTurnIntoText) {
 TEST(Clock, ReadsTheComputersTime) {
     const QDateTime before = QDateTime::currentDateTime();
     const QDate today = systemClock().today();
-    const double seconds = systemClock().secondsSinceMidnight();
+    // In whole milliseconds again, since a quotient by 1000 may lie a hair below them.
+    const auto sinceMidnight = std::llround(systemClock().secondsSinceMidnight() * 1000);
     const QDateTime after = QDateTime::currentDateTime();
     EXPECT_TRUE(today >= before.date() && today <= after.date());
-    const bool sameDay = before.date() == after.date();
-    if (sameDay) {
-        EXPECT_GE(seconds * 1000, before.time().msecsSinceStartOfDay());
-    }
-    if (sameDay) {
-        EXPECT_LE(seconds * 1000, after.time().msecsSinceStartOfDay());
+    if (before.date() == after.date()) {
+        EXPECT_GE(sinceMidnight, before.time().msecsSinceStartOfDay());
+        EXPECT_LE(sinceMidnight, after.time().msecsSinceStartOfDay());
     }
 }
 

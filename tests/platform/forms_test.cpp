@@ -129,6 +129,8 @@ TEST_F(FormsTest, TheFormSeesKeysByTheirCodes) {
         EXPECT_EQ(seen.count(u"Press"_s), events.count(u"Press"_s)) << key.toStdString();
     }
     static_cast<void>(log.news());
+    user.compose(u"\u00E9l"_s);
+    EXPECT_EQ(log.news(), u"Press 233;Press 108;"_s);
     user.key(u"Tab"_s);
     EXPECT_EQ(log.news(), QString()) << "a Tab that moves the focus is no key of the form";
 }

@@ -99,6 +99,15 @@ TEST_F(ChildScreen, AReadOnlySessionSeesChildrenOnlyWhereThereAreSome) {
     EXPECT_FALSE(forms().contains(u"frmImprovements"_s));
 }
 
+TEST_F(ChildScreen, ASiteWhoseOwnerHasGoneStillShowsItsChildren) {
+    startWithSites();
+    openNode(u"Home"_s);
+    exec(u"DELETE FROM Person"_s);
+    user.tool(u"tbInventory"_s);
+    EXPECT_EQ(activeWindow(), u"frmInventory"_s);
+    EXPECT_EQ(user.text(u"txtFields(0)"_s), QString());
+}
+
 TEST_F(ChildScreen, ASiteWithoutARowHasNoChildren) {
     startWithSites();
     exec(u"DELETE FROM HomeOwned WHERE ID = 2"_s);

@@ -135,6 +135,32 @@ TEST_F(OwnedScreen, ARefusedWriteKeepsTheStateAndCanBeRepeated) {
     EXPECT_EQ(status(), u"Record: 1 of 1"_s);
 }
 
+TEST_F(OwnedScreen, WhatWasTakenBackAfterARefusalIsNotWritten) {
+    openFor({u"Ann Larkin"_s}, u"Ann Larkin"_s, u"Home"_s);
+    save(2, u"Oak House"_s);
+    exec(u"CREATE TRIGGER refuse BEFORE UPDATE ON HomeOwned BEGIN SELECT RAISE(ABORT, 'no'); END"_s);
+    user.click(u"cmdEdit"_s);
+    save(2, u"Elm House"_s);
+    EXPECT_EQ(dismissBox(), u"Update Error"_s);
+    exec(u"DROP TRIGGER refuse"_s);
+    save(2, u"Oak House"_s);
+    EXPECT_EQ(cell(u"SELECT Description FROM HomeOwned"_s), u"Oak House"_s);
+
+    exec(u"CREATE TRIGGER refuse BEFORE INSERT ON HomeOwned BEGIN SELECT RAISE(ABORT, 'no'); END"_s);
+    user.click(u"cmdAdd"_s);
+    user.fill(u"txtFields(8)"_s, u"99"_s);
+    user.fill(u"txtFields(9)"_s, u"6/1/2002"_s);
+    save(2, u"Elm House"_s);
+    EXPECT_EQ(dismissBox(), u"Update Error"_s);
+    exec(u"DROP TRIGGER refuse"_s);
+    user.fill(u"txtFields(8)"_s, u""_s);
+    user.fill(u"txtFields(9)"_s, u""_s);
+    save(2, u""_s);
+    EXPECT_EQ(cell(u"SELECT Coalesce(Description, '') || Coalesce(PurchasePrice, '') || Coalesce(DatePurchased, '') "
+                   "FROM HomeOwned WHERE ID = 2"_s),
+              QString());
+}
+
 TEST_F(OwnedScreen, OnlyAMembersVeryNameLeavesTheOwnerCombo) {
     openFor({u"Ann Larkin"_s, u"Bob Larkin"_s}, u"Ann Larkin"_s, u"Taxes"_s);
     user.fill(u"cbFields(0)"_s, u"bob larkin"_s);
@@ -182,6 +208,10 @@ TEST_F(OwnedScreen, NothingIsSavedWithoutAnOwner) {
     EXPECT_EQ(dismissBox(), u"No Family Member"_s);
     EXPECT_EQ(status(), u"Add record"_s);
     EXPECT_EQ(cell(u"SELECT Count(*) FROM Education"_s), u"0"_s);
+    // That member's missing name is not the empty one.
+    user.click(u"cbFields(0)"_s);
+    user.key(u"Tab"_s);
+    EXPECT_EQ(dismissBox(), u"No Matching Family Member"_s);
 }
 
 TEST_F(OwnedScreen, AMoveBeyondAnEndStaysOnTheRow) {
@@ -275,6 +305,19 @@ TEST_F(OwnedScreen, TheStatusOfAMarriageIsNoState) {
     user.pick(u"cbFields(1)"_s, u"Divorced"_s);
     save(1, u"Cal"_s);
     EXPECT_EQ(cell(u"SELECT Status||State||MarriedTo FROM Marriage"_s), u"Divorced--Cal"_s);
+}
+
+TEST_F(OwnedScreen, BothCombosFollowTheRecordBehindAFirstAdd) {
+    openFor({u"Ann Larkin"_s}, u"Ann Larkin"_s, u"Marriage"_s);
+    user.pick(u"cbFields(2)"_s, u"Utah"_s);
+    save(1, u"Cal"_s);
+    user.click(u"cmdAdd"_s);
+    user.pick(u"cbFields(2)"_s, u"Ohio"_s);
+    save(1, u"Dan"_s);
+    EXPECT_EQ(user.text(u"cbFields(2)"_s), u"Utah"_s);
+    user.click(u"cmdEdit"_s);
+    user.click(u"cmdUpdate"_s);
+    EXPECT_EQ(cell(u"SELECT group_concat(State) FROM Marriage"_s), u"Utah,Ohio"_s);
 }
 
 TEST_F(OwnedScreen, ARentCannotBeLeftEmpty) {

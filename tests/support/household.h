@@ -28,6 +28,7 @@ protected:
     /// Title of the open box; empty if none is open.
     [[nodiscard]] QString boxTitle() { return user.dialog()[QLatin1StringView("title")].toString(); }
     [[nodiscard]] QString boxText() { return user.dialog()[QLatin1StringView("text")].toString(); }
+    [[nodiscard]] QString boxIcon() { return user.dialog()[QLatin1StringView("icon")].toString(); }
     /// Title of the open box, which is then answered with OK.
     QString dismissBox();
     [[nodiscard]] QString status() { return user.text(QStringLiteral("lblStatus")); }

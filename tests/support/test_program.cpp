@@ -161,7 +161,7 @@ private:
         if (box.text().isEmpty()) return true;
         write(u"Validate"_s);
         if (box.text() != u"bad"_s) return true;
-        desktop().notice(u"That is bad."_s, u"Check"_s, platform::Icon::Information);
+        desktop().notice(u"That is bad."_s, u"Check"_s);
         return false;
     }
 

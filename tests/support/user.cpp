@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QInputMethodEvent>
 #include <QJsonArray>
 #include <QLineEdit>
 #include <QMenu>
@@ -176,6 +177,14 @@ void User::type(const QString& text) {
 
 void User::key(const QString& name) {
     stroke(keyNamed(name));
+}
+
+void User::compose(const QString& text) {
+    gui_.act([text] {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+    });
 }
 
 bool User::openList(const QString& combo, const QString& entry) {

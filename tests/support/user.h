@@ -39,6 +39,8 @@ public:
     void fill(const QString& control, const QString& text);
     void type(const QString& text);
     void key(const QString& name);
+    /// Brings a text without its keys, as dead keys and input methods do.
+    void compose(const QString& text);
     /// Chooses an entry of a combo from its list.
     void pick(const QString& combo, const QString& entry);
     void node(const QString& key);
