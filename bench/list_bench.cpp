@@ -111,8 +111,8 @@ void openTheLog() {
     const double opening = best([&] { program.close(program.open(u"frmMedicalLog"_s)); });
     const double listing = best([&] {
         SQLite::Statement list(*program.raw,
-                               "SELECT MedicalLog.ID FROM MedicalLog LEFT JOIN Person ON Person.ID = PersonID "
-                               "LEFT JOIN Doctors ON Doctors.ID = MedicalID");
+                               "SELECT MedicalLog.ID FROM Doctors RIGHT JOIN (Person RIGHT JOIN MedicalLog "
+                               "ON Person.ID = MedicalLog.PersonID) ON Doctors.ID = MedicalLog.MedicalID");
         while (list.executeStep())
             list.getColumn(0).getInt64();
     });

@@ -1,6 +1,7 @@
 #include "data/sql_dialect.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "data/provider_error.h"
 #include "data/sql_tokens.h"
@@ -88,6 +89,44 @@ std::vector<Change> changesFor(const std::vector<SqlToken>& tokens) {
     return changes;
 }
 
+/// Token behind the table, or behind the joins in parentheses, at `from`.
+size_t behindOperand(const std::vector<SqlToken>& tokens, size_t from) {
+    int depth = 0;
+    for (size_t i = from; i < tokens.size(); ++i) {
+        if (tokens[i].isSymbol(u'(')) ++depth;
+        if (tokens[i].isSymbol(u')')) --depth;
+        if (depth == 0) return i + 1;
+    }
+    return tokens.size();
+}
+
+/// The word RIGHT of the last join `A RIGHT JOIN B ON` whose A is the first table of its FROM or parenthesis.
+std::optional<size_t> lastRightJoin(const std::vector<SqlToken>& tokens) {
+    for (size_t i = tokens.size(); i-- > 2;) {
+        if (!tokens[i].isWord(u"right") || i + 3 >= tokens.size() || !tokens[i + 1].isWord(u"join")) continue;
+        const bool isFirst = tokens[i - 2].isWord(u"from") || tokens[i - 2].isSymbol(u'(');
+        const size_t behind = behindOperand(tokens, i + 2);
+        if (isFirst && tokens[i - 1].isIdentifier() && behind < tokens.size() && tokens[behind].isWord(u"on")) return i;
+    }
+    return {};
+}
+
+/// `A RIGHT JOIN B` becomes `B LEFT JOIN A`, the inner one before the outer. Of a right join SQLite works out all rows
+/// before it gives the first, in an order of its own; of a left join it gives them as B holds them.
+QString withLeftJoins(QString statement) {
+    for (;;) {
+        const auto tokens = sqlTokens(statement);
+        const auto right = lastRightJoin(tokens);
+        if (!right) return statement;
+        const auto& first = tokens[*right - 1];
+        const auto kept = tokens[*right + 2].begin;
+        const auto end = tokens[behindOperand(tokens, *right + 2) - 1].end;
+        const QString turned =
+            statement.mid(kept, end - kept) + u" LEFT JOIN "_s + statement.mid(first.begin, first.end - first.begin);
+        statement.replace(first.begin, end - first.begin, turned);
+    }
+}
+
 }  // namespace
 
 QString toSqlite(const QString& statement) {
@@ -100,7 +139,9 @@ QString toSqlite(const QString& statement) {
     QString turned = statement;
     for (const auto& change : changes)
         turned.replace(change.begin, change.end - change.begin, change.text);
-    return turned;
+    const bool mayJoin =
+        tokens.size() > 1 && !tokens[1].isSymbol(u'*') && turned.contains(u"right"_s, Qt::CaseInsensitive);
+    return mayJoin ? withLeftJoins(turned) : turned;
 }
 
 }  // namespace data

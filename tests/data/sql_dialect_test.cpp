@@ -27,6 +27,10 @@ TEST(Dialect, TurnsForeignSpellingsOutsideQuotes) {
         {"Select [true], \"false\" from T where c = 'it''s true'",
          "Select [true], \"false\" from T where c = 'it''s true'"},
         {"Select a from T -- true", "Select a from T -- true"},
+        {"Select C.a From A Right Join (B Right Join C On B.ID = C.b) On A.ID = C.c Where C.a = 1;",
+         "Select C.a From (C LEFT JOIN B On B.ID = C.b) LEFT JOIN A On A.ID = C.c Where C.a = 1;"},
+        {"Select x.a From A as x Right Join B On x.ID = B.a", "Select x.a From A as x Right Join B On x.ID = B.a"},
+        {"Select * From A Right Join B On A.ID = B.a", "Select * From A Right Join B On A.ID = B.a"},
         {"select * from Person Order by Seq, ID", "select * from Person Order by Seq, ID"},
     };
     for (const auto& [foreign, ours] : spellings)
