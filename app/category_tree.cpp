@@ -37,6 +37,7 @@ void CategoryTree::build() {
 }
 
 void CategoryTree::setAllImages() {
+    const data::Connection::ReadHold hold(session_.gConnection);
     for (int i = 1; i <= view_.nodeCount(); ++i)
         setImage(i);
 }

@@ -1,5 +1,7 @@
 #include "data/connection.h"
 
+#include <sqlite3.h>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -116,11 +118,14 @@ std::vector<QString> Connection::tableNames() const {
 
 // Reading at length ------------------------------------------------------------------------------------------------
 
-Connection::ReadHold::ReadHold(Connection& connection) : connection_(connection.handle()) {
-    connection_.run({}, [](SQLite::Database& file) { file.exec("BEGIN"); });
+Connection::ReadHold::ReadHold(Connection& connection)
+    : connection_(connection.handle()),
+      holds_(connection.isOpen() && sqlite3_get_autocommit(connection_.database->getHandle()) != 0) {
+    if (holds_) connection_.run({}, [](SQLite::Database& file) { file.exec("BEGIN"); });
 }
 
 Connection::ReadHold::~ReadHold() {
+    if (!holds_) return;
     try {
         connection_.database->exec("COMMIT");
     } catch (const SQLite::Exception&) {

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] std::vector<QString> tableNames() const;
 
     /// Keeps the file as it stands for the reads of its lifetime, so that many of them need not ask for it one by one.
-    /// Nothing may be written meanwhile.
+    /// Nothing may be written meanwhile. Inside another one, or on a closed connection, it does nothing.
     class ReadHold;
 
     struct Private;
@@ -53,6 +53,7 @@ public:
 
 private:
     Private& connection_;
+    bool holds_;
 };
 
 }  // namespace data
