@@ -73,6 +73,7 @@ TEST_F(PinList, SecretsArePlainInTheFileOnlyWhileTheListIsOpen) {
     user.select(u"grdDataGrid"_s, 0);
     user.click(u"cmdEdit"_s);
     EXPECT_EQ(user.text(u"txtUsername"_s), u"me & you"_s);
+    EXPECT_EQ(user.control(u"txtSequence"_s)["selLength"_L1].toInt(), 1);
     user.fill(u"txtSequence"_s, u"2"_s);
     user.click(u"cmdOK"_s);
     user.click(u"cmdClose"_s);
