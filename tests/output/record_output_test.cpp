@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
-#include <sys/mount.h>
 
 #include <QDir>
 #include <QFile>
-#include <QScopeGuard>
 
+#include "tests/data/hostile_disk.h"
 #include "tests/support/household.h"
 
 using namespace Qt::StringLiterals;
@@ -178,16 +177,12 @@ TEST_F(RecordOutput, TellsWhyAFileCanNotBeWritten) {
 }
 
 TEST_F(RecordOutput, AFullDiskEndsTheSave) {
-    QDir(path({})).mkdir(u"disk"_s);
-    const QByteArray disk = QFile::encodeName(path(u"disk"_s));
-    if (::mount("none", disk.constData(), "tmpfs", 0, "size=4096k") != 0) GTEST_SKIP() << "may not mount";
-    const auto unmounted = qScopeGuard([&] { ::umount(disk.constData()); });
-    QFile filler(path(u"disk/filler"_s));
-    ASSERT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    while (filler.write(QByteArray(4096, 'x')) == 4096)
-        continue;
     startWith({u"Ann Larkin"_s});
-    save(u"tbSaveAll"_s, u"disk/all.txt"_s);
+    exec(u"UPDATE Person SET Comment = '%1'"_s.arg(QString(100'000, u'x')));
+    SmallDisk disk;
+    disk.fill();
+    user.tool(u"tbSaveAll"_s);
+    user.choose(disk.folder() + u"/all.txt"_s);
     EXPECT_EQ(boxText(), u"61 - Disk full"_s);
     EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
     EXPECT_EQ(boxTitle(), u""_s);
