@@ -6,14 +6,14 @@
 #include <QFileInfo>
 #include <QUrl>
 #include <QtEndian>
-#include <array>
-#include <filesystem>
-#include <system_error>
+#include <cerrno>
+#include <cstdio>
 
 #include "data/provider_error.h"
 #include "data/tables.h"
 #include "platform/base/conversions.h"
 #include "platform/base/file_errors.h"
+#include "platform/base/file_identity.h"
 #include "platform/base/file_replacement.h"
 #include "platform/base/files.h"
 #include "platform/base/folder_entries.h"
@@ -36,10 +36,6 @@ constexpr int fileVersion = 0;
 
 [[noreturn]] void refuse(const QString& path, const QString& reason) {
     throw providerError(ProviderError::Failed, u"'%1' can't be used: %2"_s.arg(path, reason));
-}
-
-std::filesystem::path native(const QString& path) {
-    return std::filesystem::weakly_canonical(QFile::encodeName(path).toStdString());
 }
 
 /// The first bytes of every database file, which tell its kind and its length.
@@ -121,9 +117,8 @@ public:
     [[nodiscard]] const QString& path() const { return path_; }
 
     void takePlace() const {
-        std::error_code error;
-        std::filesystem::rename(native(path_), native(live_), error);
-        if (error) files::throwSystemError(error.value(), 76);
+        if (::rename(QFile::encodeName(path_).constData(), QFile::encodeName(live_).constData()) != 0)
+            files::throwSystemError(errno, 76);
         files::syncFolder(files::parentOf(live_));
     }
 
@@ -148,16 +143,11 @@ double kilobytes(qint64 bytes) {
 }
 
 bool isSameFile(const QString& path, const QString& other) {
-    std::error_code missing;
-    return std::filesystem::equivalent(QFile::encodeName(path).toStdString(), QFile::encodeName(other).toStdString(),
-                                       missing);
+    return files::isSameFile(path, other);
 }
 
 void requireApart(const QString& folder, const QString& other) {
-    const auto first = native(folder);
-    const auto second = native(other);
-    const auto [a, b] = std::mismatch(first.begin(), first.end(), second.begin(), second.end());
-    if (a == first.end() || b == second.end()) throw RuntimeError(permissionDenied);
+    if (files::isWithin(folder, other) || files::isWithin(other, folder)) throw RuntimeError(permissionDenied);
 }
 
 void checkDatabase(const QString& path) {

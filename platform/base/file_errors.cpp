@@ -6,26 +6,30 @@
 
 namespace platform::files {
 
-void throwSystemError(int systemError, int missing) {
+int errorNumberOf(int systemError, int missing) {
     switch (systemError) {
         case ENOSPC:
         case EDQUOT:
         case EFBIG:
-            throw RuntimeError(61);
+            return 61;
         case EACCES:
         case EPERM:
         case EROFS:
         case EBUSY:
         case ETXTBSY:
-            throw RuntimeError(70);
+            return 70;
         case EIO:
-            throw RuntimeError(57);
+            return 57;
         case ENOENT:
         case ENOTDIR:
-            throw RuntimeError(missing);
+            return missing;
         default:
-            throw RuntimeError(75);
+            return 75;
     }
+}
+
+void throwSystemError(int systemError, int missing) {
+    throw RuntimeError(errorNumberOf(systemError, missing));
 }
 
 }  // namespace platform::files

@@ -12,6 +12,7 @@ QString standingWords(int number) {
     static const std::map<int, QString> words{
         {5, u"Invalid procedure call or argument"_s},
         {6, u"Overflow"_s},
+        {7, u"Out of memory"_s},
         {9, u"Subscript out of range"_s},
         {13, u"Type mismatch"_s},
         {53, u"File not found"_s},

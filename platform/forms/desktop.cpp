@@ -6,9 +6,11 @@
 #include <QThread>
 #include <QWidget>
 #include <algorithm>
+#include <exception>
 
 #include "platform/base/registered_program.h"
 #include "platform/base/runtime_error.h"
+#include "platform/base/unexpected_error.h"
 #include "platform/forms/focus_guard.h"
 #include "platform/forms/form.h"
 
@@ -43,7 +45,7 @@ void Desktop::take(std::unique_ptr<Form> form) {
     loaded.loaded_ = true;
     try {
         loaded.Form_Load();
-    } catch (const RuntimeError&) {
+    } catch (...) {
         if (loaded.loaded_) retire(loaded);
         throw;
     }
@@ -92,8 +94,9 @@ bool Desktop::attempt(const std::function<void()>& routine, const std::function<
     try {
         routine();
         return true;
-    } catch (const RuntimeError& error) {
-        failed(error);
+    } catch (const std::exception& failure) {
+        // Also what nobody foresaw ends its routine alone and not the session.
+        failed(asRuntimeError(failure));
         return false;
     }
 }
@@ -109,7 +112,7 @@ void Desktop::run(const std::function<void()>& handler) {
 void Desktop::passOver(const std::function<void()>& step) {
     try {
         step();
-    } catch (const RuntimeError&) {
+    } catch (const std::exception&) {
         return;
     }
 }

@@ -60,12 +60,13 @@ public:
     void notice(const QString& text, const QString& title, Icon icon = Icon::Information);
     /// Asks a question; true for Yes.
     [[nodiscard]] bool ask(const QString& text, const QString& title);
-    /// Runs a routine that has an error title: a failure in it ends it and is shown under the title. True if it ran
-    /// whole.
+    /// Runs a routine that has an error title: a failure in it, of whatever kind, ends it and is shown under the title.
+    /// True if it ran whole.
     bool attempt(const QString& title, const std::function<void()>& routine);
     /// The same for a routine that tells of its failures in words of its own.
     static bool attempt(const std::function<void()>& routine, const std::function<void(const RuntimeError&)>& failed);
-    /// Runs what an event set off; a failure that no routine handled is shown under the program's own title.
+    /// Runs what an event set off; a failure that no routine handled, of whatever kind, is shown under the program's
+    /// own title, and the session goes on.
     void run(const std::function<void()>& handler);
 
     /// Runs a step whose failure doesn't matter to the ones behind it.

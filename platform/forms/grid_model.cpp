@@ -2,6 +2,7 @@
 
 #include "platform/base/display_format.h"
 #include "platform/base/record_source.h"
+#include "platform/forms/desktop.h"
 
 namespace platform {
 
@@ -37,7 +38,9 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignTop);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
-    const QString text = texts(index.row())[index.column()];
+    // Drawing can't fail: a row that can't be read just now stays empty, and is read again when it is drawn anew.
+    QString text;
+    Desktop::passOver([&] { text = texts(index.row())[index.column()]; });
     return role == Qt::ToolTipRole && text.isEmpty() ? QVariant() : text;
 }
 

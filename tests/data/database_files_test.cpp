@@ -106,6 +106,23 @@ TEST_F(DatabaseFiles, FoldersThatHoldEachOtherAreNotApart) {
         EXPECT_EQ(errorOf([&] { data::requireApart(path(apart), live); }), QString()) << apart.toStdString();
 }
 
+TEST_F(DatabaseFiles, FoldersThatCannotBeFollowedAreRefused) {
+    QDir(folder_.path()).mkpath(u"closed"_s);
+    QFile::link(u"loop"_s, path(u"loop"_s));
+    const auto outcome = [&](const QString& folder) {
+        return errorOf([&] { data::requireApart(path(folder), path(u"Attachments"_s)); });
+    };
+    EXPECT_EQ(outcome(u"loop/x"_s), u"75 - Path/File access error"_s);
+    EXPECT_EQ(outcome(QString(248, u'n') + u"Attachments"_s), u"75 - Path/File access error"_s);
+    const QByteArray closed = path(u"closed"_s).toLocal8Bit();
+    ASSERT_EQ(chmod(closed.constData(), 0), 0);
+    {
+        const OrdinaryUser user(folder_.path(), path(u"none"_s), false);
+        EXPECT_EQ(outcome(u"closed/x"_s), u"70 - Permission denied"_s);
+    }
+    chmod(closed.constData(), 0700);
+}
+
 TEST_F(DatabaseFiles, AFileThatIsNotAWholeDatabaseIsRefusedInWordsThatSayWhy) {
     const QByteArray whole = bytesOf(makeDatabase(u"whole.mdb"_s));
     EXPECT_EQ(errorOf([&] { data::checkDatabase(path(u"whole.mdb"_s)); }), QString());

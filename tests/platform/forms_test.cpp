@@ -174,6 +174,15 @@ TEST_F(FormsTest, AFailureThatNoRoutineHandlesIsShown) {
     EXPECT_EQ(user.dialog()[u"title"_s].toString(), u"Kinbook"_s);
 }
 
+TEST_F(FormsTest, AFailureThatNobodyForesawIsShownAndTheSessionGoesOn) {
+    user.menu(u"mThrow"_s);
+    EXPECT_EQ(user.dialog()[u"text"_s].toString(), u"51 - Internal error (nobody foresaw it)"_s);
+    EXPECT_EQ(user.dialog()[u"icon"_s].toString(), u"critical"_s);
+    user.answer(u"OK"_s);
+    user.click(u"cmdSave"_s);
+    EXPECT_EQ(log.news(), u"Save;"_s);
+}
+
 TEST_F(FormsTest, AComboClicksForEachChoiceOfTheUser) {
     user.pick(u"cbFields(0)"_s, u"Ann"_s);
     user.key(u"Down"_s);

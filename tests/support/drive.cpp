@@ -8,6 +8,7 @@
 #include <string>
 #include <thread>
 
+#include "tests/support/death.h"
 #include "tests/support/headless.h"
 #include "tests/support/line_protocol.h"
 #include "tests/support/user.h"
@@ -27,8 +28,7 @@ void playLines(const MakeProgram& program) {
     User user(program, hostSize());
     LineProtocol protocol(user);
     for (std::string line; std::getline(std::cin, line);) {
-        const QByteArray answer = protocol.answer(QByteArray::fromStdString(line));
-        std::cout << answer.constData() << std::endl;
+        writeLine(protocol.answer(QByteArray::fromStdString(line)));
     }
     _exit(0);
 }
@@ -41,6 +41,8 @@ int drive(int count, char** words, const std::function<MakeProgram(const QString
         return 2;
     }
     goHeadless();
+    watchExceptions();
+    watchSignals();
     QApplication application(count, words);
     const MakeProgram make = program(QString::fromLocal8Bit(words[1]));
     std::thread(playLines, make).detach();

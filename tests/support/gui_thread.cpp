@@ -12,6 +12,7 @@
 #include <mutex>
 #include <vector>
 
+#include "tests/support/death.h"
 #include "tests/support/refused.h"
 
 using namespace Qt::StringLiterals;
@@ -63,7 +64,11 @@ public:
         if (task->waitsForIdle) running_.push_back(QThread::currentThread()->loopLevel());
         try {
             task->work();
-        } catch (...) {
+        } catch (const Refused&) {
+            task->failure = std::current_exception();
+        } catch (const std::exception& failure) {
+            // What an event threw has gone through the toolkit's event loop, which the real program doesn't survive.
+            if (task->waitsForIdle) die(QString::fromUtf8(failure.what()));
             task->failure = std::current_exception();
         }
         if (task->waitsForIdle) running_.pop_back();

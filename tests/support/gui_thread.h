@@ -20,8 +20,9 @@ public:
     /// Whether the gesture leaves a key held down, for which a button may wait.
     enum class Keys { Up, Held };
 
-    /// Runs a gesture and returns when the program waits for the next one. What the gesture throws before that comes
-    /// out here. Throws Refused when the program is not idle after two minutes.
+    /// Runs a gesture and returns when the program waits for the next one. A refusal of the gesture comes out here; any
+    /// other exception would have ended the real program, and ends this process by die(). Throws Refused when the
+    /// program is not idle after two minutes.
     void act(std::function<void()> gesture, Keys keys = Keys::Up);
     /// Runs something that sets off no event, and returns when it is done.
     void look(std::function<void()> reading);

@@ -9,6 +9,7 @@
 #include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <stdexcept>
 
 #include "platform/base/runtime_error.h"
 #include "platform/forms/check_box.h"
@@ -227,6 +228,9 @@ private:
         QMenu* file = platform::makeMenu(*this, u"mFile"_s, u"&File"_s);
         platform::addEntry(*file, u"mNote"_s, u"&Note"_s, handler([this] { write(u"mNote"_s); }));
         platform::addEntry(*file, u"mOff"_s, u"Off"_s, {})->setEnabled(false);
+        platform::addEntry(*file, u"mThrow"_s, u"Throw"_s,
+                           handler([] { throw std::runtime_error("nobody foresaw it"); }));
+        platform::addEntry(*file, u"mDie"_s, u"Die"_s, [] { throw std::runtime_error("past every net"); });
         platform::addEntry(*file, u"mClose"_s, u"C&lose"_s, handler([this] { unload(); }));
         addMenu(file);
     }

@@ -12,7 +12,7 @@ namespace support {
 /// in it without one, 2 has many lines, 3 is locked), cbFields(0) (locked: cbFields(1)), chkFields(0), buttons that
 /// open each kind of dialog, toolbar keys tbPrint and tbAttach (disabled), and the menu mFile. lblLog shows its events.
 /// cmdModal opens "frmDialog" with txtAccount, the grid grdDataGrid (40 rows, its ID hidden) and the list lvFiles,
-/// which has a context menu.
+/// which has a context menu. mThrow ends in an exception that is no RuntimeError, mDie in one past Desktop::run.
 [[nodiscard]] MakeProgram testProgram();
 
 /// The events that frmTest wrote down since the last call, each followed by a semicolon.

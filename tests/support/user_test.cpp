@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QProcess>
+#include <csignal>
 
 #include "tests/support/line_protocol.h"
 #include "tests/support/print.h"
@@ -173,6 +176,41 @@ TEST_F(UserTest, ReadsControls) {
     for (const auto& name : {u"txtFields(3)"_s, u"cmdHidden"_s, u"Toolbar1"_s, u"tbPrint"_s, u"mFile"_s, u"mNote"_s}) {
         EXPECT_EQ(names.count(name), 1) << name.toStdString();
     }
+}
+
+TEST_F(UserTest, TheCloseBoxOfADialog) {
+    const auto error = [this] { return say(u"dismiss"_s)[u"error"_s].toString(); };
+    EXPECT_EQ(error(), u"neither a dialog nor a message box is open"_s);
+    say(u"click cmdAsk"_s);
+    EXPECT_EQ(error(), u"MessageBox \"Asking\" has no close box"_s);
+    say(u"answer Yes"_s);
+    EXPECT_TRUE(say(u"dismiss"_s)[u"dialog"_s].isNull()) << "the box of one button";
+    say(u"click cmdFile"_s);
+    say(u"dismiss"_s);
+    say(u"click cmdInput"_s);
+    say(u"dismiss"_s);
+    say(u"click cmdModal"_s);
+    say(u"dismiss"_s);
+    EXPECT_EQ(log.news(), u"Yes;File ;Input ;Unloaded;"_s);
+}
+
+TEST_F(UserTest, WhatTheProgramWouldNotSurviveEndsTheProcess) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    constexpr int died = 70;
+    EXPECT_EXIT(say(u"menu mDie"_s), testing::ExitedWithCode(died), "");
+}
+
+TEST(Drive, EndsWithALineThatTellsWhatKilledIt) {
+    QProcess drive;
+    drive.start(QStringLiteral(KINBOOK_DRIVE), {QDir::tempPath()});
+    drive.write("state\n");
+    ASSERT_TRUE(drive.waitForStarted() && drive.waitForReadyRead());
+    ASSERT_EQ(kill(static_cast<pid_t>(drive.processId()), SIGABRT), 0);
+    ASSERT_TRUE(drive.waitForFinished());
+    EXPECT_EQ(drive.exitCode(), 70);
+    const QByteArray last = drive.readAllStandardOutput().trimmed().split('\n').last();
+    EXPECT_EQ(QJsonDocument::fromJson(last).object(),
+              (QJsonObject{{u"ok"_s, false}, {u"error"_s, u"died: signal 06"_s}}));
 }
 
 TEST_F(UserTest, TheProgramCanBePlayedAgain) {

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <exception>
+
+#include "platform/base/runtime_error.h"
+
+namespace platform {
+
+/// Any exception as an error that can be shown: a RuntimeError as it is, what the operating system said by its number,
+/// 7 where the memory is full, and 51 with the exception's own words for what nobody foresaw.
+[[nodiscard]] RuntimeError asRuntimeError(const std::exception& failure);
+
+}  // namespace platform
