@@ -18,10 +18,12 @@ namespace {
 
 constexpr int longestText = 1024;
 
-/// A box whose question must be answered by a button: Esc and the close box stand for no answer.
+/// A box whose question must be answered by a button: it has no close box, and Esc stands for no answer.
 class Box : public QMessageBox {
 public:
-    explicit Box(bool mustAnswer) : QMessageBox(QApplication::activeWindow()), mustAnswer_(mustAnswer) {}
+    explicit Box(bool mustAnswer) : QMessageBox(QApplication::activeWindow()), mustAnswer_(mustAnswer) {
+        setWindowFlag(Qt::WindowCloseButtonHint, !mustAnswer);
+    }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {

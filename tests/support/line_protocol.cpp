@@ -35,7 +35,7 @@ int rowOf(const QString& word) {
     return row;
 }
 
-constexpr std::array<Gesture, 19> gestures{{
+constexpr std::array<Gesture, 20> gestures{{
     {"start"_L1, 0, [](User& user, const QStringList&) { user.start(); }},
     {"click"_L1, 1, [](User& user, const QStringList& words) { user.click(words[0]); }},
     {"fill"_L1, 2, [](User& user, const QStringList& words) { user.fill(words[0], words[1]); }},
@@ -52,6 +52,7 @@ constexpr std::array<Gesture, 19> gestures{{
     {"choose"_L1, 1, [](User& user, const QStringList& words) { user.choose(words[0]); }},
     {"enter"_L1, 1, [](User& user, const QStringList& words) { user.enter(words[0]); }},
     {"cancel"_L1, 0, [](User& user, const QStringList&) { user.cancel(); }},
+    {"dismiss"_L1, 0, [](User& user, const QStringList&) { user.dismiss(); }},
     {"select"_L1, 2, [](User& user, const QStringList& words) { user.select(words[0], rowOf(words[1])); }},
     {"close"_L1, 0, [](User& user, const QStringList&) { user.close(); }},
     {"state"_L1, 0, [](User&, const QStringList&) {}},

@@ -317,6 +317,17 @@ void User::cancel() {
     });
 }
 
+void User::dismiss() {
+    gui_.act([] {
+        const QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog) throw Refused(u"neither a dialog nor a message box is open"_s);
+        if (!dialog->windowFlags().testFlag(Qt::WindowCloseButtonHint)) {
+            throw Refused(u"%1 \"%2\" has no close box"_s.arg(dialog->objectName(), dialog->windowTitle()));
+        }
+        dialog->windowHandle()->close();
+    });
+}
+
 void User::close() {
     gui_.act([this] {
         platform::MdiFrame* host = program_ ? program_->desktop().host() : nullptr;

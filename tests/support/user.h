@@ -59,6 +59,8 @@ public:
     void enter(const QString& text);
     /// Cancels the file dialog or input box.
     void cancel();
+    /// The close box of the topmost dialog or message box.
+    void dismiss();
     /// What is printed from now on goes to this PDF file; with "none" there is no printer, as at the beginning.
     void setPrinter(const QString& file);
     /// The close box of the host window.
