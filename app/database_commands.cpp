@@ -8,6 +8,7 @@
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
+#include "session/book_files.h"
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
@@ -221,8 +222,7 @@ void DatabaseCommands::backup() {
     expected.database = fileKilobytes(source);
     if (!confirmBackup(expected)) return;
     desktop().setPointer(Pointer::Hourglass);
-    // The source need not be the live file, which must not be overwritten all the same.
-    if (data::isSameFile(target, session_.gConnection.path())) throw RuntimeError(70);
+    session::BookFiles{session_.applicationFolder}.refuse(target);
     data::requireApart(companion, attachments());
     files::discardUnfinished(files::folderOf(target));
     files::copyFile(source, target);

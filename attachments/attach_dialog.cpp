@@ -11,6 +11,7 @@
 #include "platform/forms/desktop.h"
 #include "platform/forms/list_view.h"
 #include "platform/forms/menus.h"
+#include "session/book_files.h"
 #include "session/refusals.h"
 #include "session/session.h"
 
@@ -161,7 +162,7 @@ void AttachDialog::viewFile() {
             u"Invalid Path"_s);
         return;
     }
-    if (!isThere(path)) return;
+    if (!isThere()) return;
     desktop().openFile(path);
     lvAttach_->setFocus();
 }
@@ -186,13 +187,17 @@ void AttachDialog::cmdCopy_Click() {
 
 void AttachDialog::copySelected() {
     const QString path = selectedPath();
-    if (!isThere(path)) return;
+    if (!isThere()) return;
     const QString chosen = desktop().dialogs().fileDialog({.mode = platform::FileRequest::Mode::Save,
                                                            .folder = session_.applicationFolder,
                                                            .title = u"Save "_s + path + u" As"_s,
                                                            .fileName = selectedName()});
     if (chosen.isEmpty()) return;
+    session::BookFiles{session_.applicationFolder}.refuse(chosen);
+    const bool replaces = files::fileExists(chosen);
     files::copyFile(path, chosen);
+    // The stored file is read-only, and a new copy with it; a file of the user's that it replaces was his to write.
+    if (replaces) files::setReadOnly(chosen, false);
     lvAttach_->setFocus();
 }
 
@@ -240,9 +245,9 @@ bool AttachDialog::hasSelection(const QString& text, const QString& title) {
     return lvAttach_->count() > 0;
 }
 
-bool AttachDialog::isThere(const QString& path) {
-    if (files::fileExists(path)) return true;
-    desktop().notice(path + u" does not exist."_s, u"File Not Found"_s);
+bool AttachDialog::isThere() {
+    if (store_.isStored(selectedName())) return true;
+    desktop().notice(selectedPath() + u" does not exist."_s, u"File Not Found"_s);
     return false;
 }
 

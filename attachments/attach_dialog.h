@@ -52,8 +52,8 @@ private:
     [[nodiscard]] bool mayChange();
     /// False, after telling so, when there is nothing to act on.
     [[nodiscard]] bool hasSelection(const QString& text, const QString& title = QStringLiteral("No Attachment"));
-    /// False, after telling so, when the stored file is gone.
-    [[nodiscard]] bool isThere(const QString& path);
+    /// False, after telling so, when the selected file isn't among the stored ones.
+    [[nodiscard]] bool isThere();
     [[nodiscard]] QString selectedName() const;
     [[nodiscard]] QString selectedPath() const;
 

@@ -1,6 +1,9 @@
 #include "attachments/attachment_store.h"
 
+#include <exception>
+
 #include "data/connection.h"
+#include "data/provider_error.h"
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 
@@ -12,6 +15,12 @@ namespace attachments {
 namespace {
 constexpr int extensionWithDot = 4;
 constexpr int extension = 3;
+
+/// A stored name of ours bears no apostrophe; in a foreign one it must not end the text and reach other rows.
+QString inStatement(QString name) {
+    return name.replace(u'\'', u"''"_s);
+}
+
 }  // namespace
 
 QString lastCharacters(const QString& name, int count) {
@@ -63,8 +72,8 @@ Attachment AttachmentStore::storeFile(const QString& source) {
                       .seqNum = highest + 1};
     try {
         files::setReadOnly(folder_ + name);
-    } catch (const platform::RuntimeError&) {
-        deleteStoredFile(name);
+    } catch (...) {
+        discard(name);
         throw;
     }
     return stored;
@@ -84,8 +93,12 @@ QString AttachmentStore::freeName(int number, const QString& source) {
     return nameFor(number);
 }
 
+int AttachmentStore::rowsNaming(const QString& fileName) {
+    return number(u"SELECT Count(*) as ctr from Attachments Where FileName = '"_s + fileName + u"'"_s);
+}
+
 bool AttachmentStore::isTaken(const QString& name) {
-    if (number(u"SELECT Count(*) as ctr from Attachments Where FileName = '"_s + name + u"'"_s) > 0) return true;
+    if (rowsNaming(name) > 0) return true;
     // A file without a row was left behind by a record of that key.
     return files::fileExists(folder_ + name);
 }
@@ -93,24 +106,49 @@ bool AttachmentStore::isTaken(const QString& name) {
 void AttachmentStore::addRow(const Attachment& attachment) {
     try {
         files::flush(folder_ + attachment.fileName);
+        insertRow(attachment);
+    } catch (...) {
         rows_.release();
-        rows_.open(u"SELECT * from Attachments Where 1=2"_s, connection_, data::CursorType::Keyset,
-                   data::LockType::Pessimistic);
-        rows_.addNew();
-        rows_.setValue(u"fileName"_s, attachment.fileName);
-        rows_.setValue(u"filePath"_s, folder_);
-        rows_.setValue(u"FileType"_s, attachment.fileType);
-        rows_.setValue(u"fileDesc"_s, attachment.fileDesc);
-        rows_.setValue(u"OldFileName"_s, attachment.oldFileName);
-        rows_.setValue(u"BugNum"_s, key_);
-        rows_.setValue(u"SeqNum"_s, attachment.seqNum);
-        rows_.update();
-        rows_.close();
-    } catch (const platform::RuntimeError&) {
-        rows_.release();
-        // Without its row nobody would find the file again.
-        deleteStoredFile(attachment.fileName);
+        const std::optional<bool> added = hasRow(attachment.fileName);
+        if (added.value_or(false)) return;
+        // Without its row nobody would find the file again; a row without its file would be worse.
+        if (added) discard(attachment.fileName);
         throw;
+    }
+}
+
+void AttachmentStore::insertRow(const Attachment& attachment) {
+    rows_.release();
+    rows_.open(u"SELECT * from Attachments Where 1=2"_s, connection_, data::CursorType::Keyset,
+               data::LockType::Pessimistic);
+    rows_.addNew();
+    rows_.setValue(u"fileName"_s, attachment.fileName);
+    rows_.setValue(u"filePath"_s, folder_);
+    rows_.setValue(u"FileType"_s, attachment.fileType);
+    rows_.setValue(u"fileDesc"_s, attachment.fileDesc);
+    rows_.setValue(u"OldFileName"_s, attachment.oldFileName);
+    rows_.setValue(u"BugNum"_s, key_);
+    rows_.setValue(u"SeqNum"_s, attachment.seqNum);
+    rows_.update();
+    rows_.close();
+}
+
+std::optional<bool> AttachmentStore::hasRow(const QString& fileName) {
+    try {
+        return rowsNaming(fileName) > 0;
+    } catch (const platform::RuntimeError& failure) {
+        rows_.release();
+        if (failure.number() == static_cast<int>(data::ProviderError::MissingTable)) return false;
+        return std::nullopt;
+    }
+}
+
+void AttachmentStore::discard(const QString& fileName) const noexcept {
+    try {
+        deleteStoredFile(fileName);
+    } catch (const std::exception&) {
+        // What went wrong before is told, and not this.
+        return;
     }
 }
 
@@ -118,18 +156,23 @@ void AttachmentStore::addRow(const Attachment& attachment) {
 
 void AttachmentStore::remove(const QString& fileName) {
     deleteStoredFile(fileName);
-    execute(u"Delete *from Attachments Where FileName = '"_s + fileName + u"'"_s);
+    execute(u"Delete *from Attachments Where FileName = '"_s + inStatement(fileName) + u"'"_s);
+}
+
+bool AttachmentStore::isStored(const QString& fileName) const {
+    return !fileName.contains(files::separator()) && files::isPlainFile(folder_ + fileName);
 }
 
 void AttachmentStore::deleteStoredFile(const QString& fileName) const {
+    if (!isStored(fileName)) return;
     const QString path = folder_ + fileName;
-    if (!files::fileExists(path)) return;
     if (files::isReadOnly(path)) files::setReadOnly(path, false);
     files::deleteFile(path, false);
 }
 
 void AttachmentStore::setDescription(const QString& fileName, const QString& description) {
-    execute(u"Update Attachments Set fileDesc = '"_s + description + u"' Where fileName = '"_s + fileName + u"'"_s);
+    execute(u"Update Attachments Set fileDesc = '"_s + description + u"' Where fileName = '"_s + inStatement(fileName) +
+            u"'"_s);
 }
 
 // Statements -------------------------------------------------------------------------------------------------------

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "data/recordset.h"
@@ -33,9 +34,13 @@ public:
     /// A failure leaves no file under that name. The copy is not yet on the disk for certain: addRow() sees to it.
     /// Errors as platform::files::copyFile() and the provider's.
     [[nodiscard]] Attachment storeFile(const QString& source);
-    /// Waits until a stored file is on the disk and adds its row; when that fails the stored file is deleted again.
+    /// Waits until a stored file is on the disk and adds its row; when that fails the stored file is deleted again. A
+    /// row that is in the database in spite of a failure counts as added.
     void addRow(const Attachment& attachment);
-    /// Deletes a stored file, which may be gone already, and then its row.
+    /// True for the name of a plain file that lies in the folder. The names come from a database file, which may be
+    /// anybody's: one that leads elsewhere, by a separator, by ".." or by a link, is no stored file.
+    [[nodiscard]] bool isStored(const QString& fileName) const;
+    /// Deletes a stored file, which may be gone already, and then its row. No file goes that isn't a stored one.
     void remove(const QString& fileName);
     /// An apostrophe in the description ends the statement's text early, and the provider refuses it.
     void setDescription(const QString& fileName, const QString& description);
@@ -47,8 +52,14 @@ private:
     /// Highest SeqNum of the record's rows; 0 without any.
     [[nodiscard]] int highestSeqNum();
     [[nodiscard]] QString freeName(int number, const QString& source);
+    [[nodiscard]] int rowsNaming(const QString& fileName);
     [[nodiscard]] bool isTaken(const QString& name);
     void deleteStoredFile(const QString& fileName) const;
+    void insertRow(const Attachment& attachment);
+    /// Whether a row names the file; unknown where the database can't be asked.
+    [[nodiscard]] std::optional<bool> hasRow(const QString& fileName);
+    /// Deletes a file that has got no row, as far as that can be done.
+    void discard(const QString& fileName) const noexcept;
 
     data::Connection& connection_;
     QString folder_;

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "data/connection_private.h"
+#include "data/engine_files.h"
 #include "data/recordset.h"
 
 using namespace Qt::StringLiterals;
@@ -53,7 +54,8 @@ void checkWhole(SQLite::Database& database, const QString& path) {
 std::unique_ptr<SQLite::Database> openDatabase(const QString& path) {
     try {
         const auto file = QFileInfo(path).absoluteFilePath().toStdString();
-        auto database = std::make_unique<SQLite::Database>(file, SQLite::OPEN_READWRITE, busyMilliseconds);
+        auto database =
+            std::make_unique<SQLite::Database>(file, SQLite::OPEN_READWRITE, busyMilliseconds, engineFiles());
         configure(*database);
         checkWhole(*database, path);
         return database;

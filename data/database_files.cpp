@@ -119,7 +119,7 @@ public:
     void takePlace() const {
         if (::rename(QFile::encodeName(path_).constData(), QFile::encodeName(live_).constData()) != 0)
             files::throwSystemError(errno, 76);
-        files::syncFolder(files::parentOf(live_));
+        files::settleFolder(files::parentOf(live_));
     }
 
 private:

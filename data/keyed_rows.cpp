@@ -184,6 +184,12 @@ void KeyedRows::followKey(int row, const StoredChanges& changes) {
             keys_[static_cast<size_t>(row)] = value.toLongLong();
 }
 
+void KeyedRows::fillInKey(int row, StoredRow& values) const {
+    for (size_t column = 0; column < tableColumns_.size(); ++column)
+        if (table_.columns[static_cast<size_t>(tableColumns_[column])].isRowId)
+            values[column] = keys_[static_cast<size_t>(row)];
+}
+
 void KeyedRows::remove(int row) {
     const QString statement = u"DELETE FROM %1 WHERE rowid = ?"_s.arg(quotedName(table_.name));
     if (write(statement, {keys_[static_cast<size_t>(row)]}) == 0) throw providerError(ProviderError::RowChanged);

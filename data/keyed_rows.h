@@ -38,6 +38,8 @@ public:
     /// Writes changes over the values read before. Throws RuntimeError -2147217864 when the row has gone or one of the
     /// changed columns no longer holds its old value.
     void update(int row, const StoredChanges& changes, const StoredRow& old);
+    /// Puts a row's number in the file into its values.
+    void fillInKey(int row, StoredRow& values) const;
     /// Throws RuntimeError -2147217864 when the row has gone already.
     void remove(int row);
 

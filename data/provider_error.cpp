@@ -40,7 +40,7 @@ QString standingWords(ProviderError number) {
 }
 
 RuntimeError fullDisk() {
-    return providerError(ProviderError::Failed, u"There is not enough space on the disk. Nothing was changed."_s);
+    return providerError(ProviderError::Failed, u"There is not enough space on the disk."_s);
 }
 
 RuntimeError readOnly() {

@@ -70,6 +70,7 @@ struct Recordset::Private {
     void advanceStream();
     void restartStream();
     void write();
+    void readNewRow();
     void forget();
 };
 
@@ -187,8 +188,17 @@ void Recordset::Private::write() {
     const bool isNew = mode == EditMode::Add;
     pending.clear();
     mode = EditMode::None;
-    // The file fills in the counter and the defaults of a new row.
-    if (isNew) current = writable->read(position.row());
+    if (isNew) readNewRow();
+}
+
+/// The file fills in the counter and the defaults of a new row. It is in the file by now: a failure to read it again is
+/// none to tell, or it would be added a second time.
+void Recordset::Private::readNewRow() {
+    try {
+        current = writable->read(position.row());
+    } catch (const RuntimeError&) {
+        writable->fillInKey(position.row(), *current);
+    }
 }
 
 void Recordset::Private::forget() {

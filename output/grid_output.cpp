@@ -6,6 +6,7 @@
 #include "platform/base/clock.h"
 #include "platform/base/text_writer.h"
 #include "platform/forms/desktop.h"
+#include "session/book_files.h"
 
 namespace output {
 
@@ -25,6 +26,7 @@ void saveGrid(platform::Desktop& desktop, const QString& applicationFolder,
         tellNoFileName(desktop);
         return;
     }
+    session::BookFiles{applicationFolder}.refuse(name);
     const QString document = gridDocument(grid(), platform::systemClock().today());
     platform::files::TextWriter file(name);
     file.writeLine(document);

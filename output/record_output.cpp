@@ -10,6 +10,7 @@
 #include "platform/forms/desktop.h"
 #include "platform/print/print_device.h"
 #include "platform/print/printer.h"
+#include "session/book_files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +51,7 @@ void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
             tellNoFileName(desktop);
             return;
         }
+        session::BookFiles{applicationFolder}.refuse(name);
         const QString document = createFileDoc(screen());
         platform::files::TextWriter file(name);
         file.writeLine(document);
@@ -66,6 +68,7 @@ void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const Re
             desktop.notice(request.noFileText, request.noFileTitle);
             return;
         }
+        session::BookFiles{request.folder}.refuse(name);
         platform::files::TextWriter file(name);
         walk([&] { file.writeLine(createFileDoc(screen()) + u"\r\n\r\n"_s); });
         file.close();

@@ -18,13 +18,13 @@ void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen);
 [[nodiscard]] QString createFileDoc(const PrintableScreen& screen);
 
 /// Asks for a file and writes the record into it, over an existing one without a question. The definition file's name
-/// is refused in any folder. Failures are shown.
+/// is refused in any folder, and so is every file that holds the book. Failures are shown.
 void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
               const std::function<PrintableScreen()>& screen);
 
 /// How a screen asks where all its records go.
 struct SaveAllRequest {
-    QString folder;            ///< where the dialog starts
+    QString folder;            ///< the application folder, in which the dialog starts
     bool asksForText = false;  ///< text files alone are offered, and their ending is added
     QString noFileTitle;
     QString noFileText;
@@ -34,7 +34,7 @@ struct SaveAllRequest {
 using RecordWalk = std::function<void(const std::function<void()>& visit)>;
 
 /// Asks for a file and writes the records of the walk into it, each on its way, with two empty lines behind it.
-/// A failure is shown and leaves the file as far as it was written.
+/// A file that holds the book is refused. A failure is shown and leaves the file as far as it was written.
 void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const RecordWalk& walk,
              const std::function<PrintableScreen()>& screen);
 

@@ -86,4 +86,12 @@ void syncFolder(const QString& folder) {
     if (error != 0 && error != EINVAL) throwSystemError(error, 76);
 }
 
+void settleFolder(const QString& folder) noexcept {
+    try {
+        syncFolder(folder);
+    } catch (const RuntimeError&) {
+        return;
+    }
+}
+
 }  // namespace platform::files

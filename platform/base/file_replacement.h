@@ -40,5 +40,7 @@ void discardUnfinished(const QString& folder);
 
 /// Makes the names in a folder last through a power cut.
 void syncFolder(const QString& folder);
+/// The same behind a change that is done and can't be taken back: its failure is none of the change's and isn't told.
+void settleFolder(const QString& folder) noexcept;
 
 }  // namespace platform::files

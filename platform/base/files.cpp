@@ -54,6 +54,13 @@ bool folderExists(const QString& path) {
     return QFileInfo(path).isDir();
 }
 
+bool isPlainFile(const QString& path) {
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status {};
+    // A name with a null in it would be cut there.
+    return !name.contains('\0') && ::lstat(name.constData(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 qint64 fileSize(const QString& path) {
     return statusOf(path).st_size;
 }

@@ -22,6 +22,8 @@ using CopyProgress = std::function<void(qint64 copied, qint64 total)>;
 /// False for a folder, and for "".
 [[nodiscard]] bool fileExists(const QString& path);
 [[nodiscard]] bool folderExists(const QString& path);
+/// True for a file that lies there itself: no link, no folder, no device.
+[[nodiscard]] bool isPlainFile(const QString& path);
 
 /// Bytes; error 53 for a missing file.
 [[nodiscard]] qint64 fileSize(const QString& path);

@@ -37,7 +37,7 @@ void writeTextFile(const QString& path, const QString& text) {
     if (replaces) file.setMode(old.st_mode & 0777);
     file.write(bytes);
     file.place();
-    syncFolder(file.folder());
+    settleFolder(file.folder());
 }
 
 }  // namespace platform::files

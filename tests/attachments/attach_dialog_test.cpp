@@ -152,6 +152,29 @@ TEST_F(DialogTest, CopiesOutAndRefusesAReadOnlyTarget) {
     EXPECT_TRUE(user.dialog()[u"kind"_s] == u"form"_s);
 }
 
+TEST_F(DialogTest, CopyNeverTakesTheBooksPlaceAndLeavesAFileOfTheUsersWritable) {
+    user.start();
+    attach(u"a.txt"_s, {});
+    attach(u"b.txt"_s, {});
+    const QByteArray book = ApplicationFolder::contentOf(folder.database());
+    const QString otherName = folder.path() + u"/other.txt"_s;
+    QFile::link(folder.database(), otherName);
+    for (const QString& target : {folder.database(), folder.path() + u"/Attachments/../FamilyInfo.mdb"_s, otherName,
+                                  folder.path() + u"/FamilyInfo_Empty.mdb"_s, folder.stored(u"Hom_3_17_2.txt"_s)}) {
+        user.click(u"cmdCopy"_s);
+        user.choose(target);
+        EXPECT_EQ(told(), u"Error in Copy Process: 70 - Permission deniedFile may be read only."_s)
+            << target.toStdString();
+    }
+    EXPECT_EQ(ApplicationFolder::contentOf(folder.database()), book);
+    EXPECT_FALSE(QFile::exists(folder.path() + u"/FamilyInfo_Empty.mdb"_s));
+    const QString his = folder.source(u"his.txt"_s, "older");
+    user.click(u"cmdCopy"_s);
+    user.choose(his);
+    EXPECT_EQ(ApplicationFolder::contentOf(his), "content");
+    EXPECT_FALSE(platform::files::isReadOnly(his));
+}
+
 TEST_F(DialogTest, DeletesAfterAYes) {
     user.start();
     attach(u"a.txt"_s, {});

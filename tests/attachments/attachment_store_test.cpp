@@ -1,5 +1,6 @@
 #include "attachments/attachment_store.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -30,6 +31,9 @@ protected:
         for (const Attachment& row : store.attachments())
             found.append(u"%1 %2"_s.arg(row.fileName).arg(row.seqNum));
         return found;
+    }
+    void exec(const QString& statement) const {
+        SQLite::Database(folder.database().toStdString(), SQLite::OPEN_READWRITE).exec(statement.toStdString());
     }
     static int errorOf(const std::function<void()>& operation) {
         try {
@@ -142,6 +146,33 @@ TEST_F(StoreTest, TellsOfAFullDisk) {
     const auto all = QDir::Files | QDir::Hidden;
     EXPECT_EQ(QDir(disk.folder() + u"/Attachments"_s).entryList(all), QStringList(u"Hom_3_17_0.txt"_s));
     EXPECT_EQ(names(), QStringList(u"Hom_3_17_0.txt 1"_s));
+}
+
+TEST_F(StoreTest, TouchesNoFileThatANameFromElsewhereLeadsTo) {
+    attach(folder.source(u"a.txt"_s));
+    const QString outside = folder.source(u"outside.txt"_s);
+    QFile::link(outside, folder.stored(u"link.txt"_s));
+    QDir().mkpath(folder.stored(u"sub"_s));
+    QFile::copy(outside, folder.stored(u"sub/inner.txt"_s));
+    EXPECT_FALSE(store.isStored(u"Hom_3_17_0.txt"_s + QChar(0) + u"x"_s));
+    const QStringList strange{u"../FamilyInfo.mdb"_s, u".."_s,         outside,           u"link.txt"_s, u"sub"_s,
+                              u"sub/inner.txt"_s,     u"x' or ''='"_s, QString(300, u'n')};
+    for (const QString& name : strange) {
+        EXPECT_FALSE(store.isStored(name)) << name.toStdString();
+        exec(u"INSERT INTO Attachments (FileName, BugNum, SeqNum) VALUES ('%1', 'Hom_3_17', 9)"_s.arg(
+            QString(name).replace(u'\'', u"''"_s)));
+    }
+    EXPECT_EQ(names().size(), 1 + strange.size());
+    for (const QString& name : strange) {
+        const auto before = names().size();
+        store.remove(name);
+        EXPECT_EQ(names().size(), before - 1) << name.toStdString();
+    }
+    EXPECT_TRUE(QFile::exists(outside));
+    EXPECT_TRUE(QFile::exists(folder.database()));
+    EXPECT_EQ(folder.storedNames(), (QStringList{u"Hom_3_17_0.txt"_s, u"link.txt"_s, u"sub"_s}));
+    EXPECT_TRUE(QFile::exists(folder.stored(u"sub/inner.txt"_s)));
+    EXPECT_TRUE(names().contains(u"Hom_3_17_0.txt 1"_s));
 }
 
 TEST_F(StoreTest, RemovesTheRowOfAFileThatIsGone) {

@@ -121,7 +121,7 @@ TEST(FullDisk, KeepsTheFileWholeAndThePendingRow) {
     disk.fill();
     QString words;
     EXPECT_EQ(errorOf([&] { rows.update(); }, &words), -2147467259);
-    EXPECT_EQ(words, u"There is not enough space on the disk. Nothing was changed."_s);
+    EXPECT_EQ(words, u"There is not enough space on the disk."_s);
     EXPECT_EQ(rows.editMode(), data::EditMode::InProgress);
     Connection again;
     again.open(path);

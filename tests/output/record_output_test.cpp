@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -37,6 +38,45 @@ protected:
         return texts;
     }
 };
+
+TEST_F(RecordOutput, NeverTakesThePlaceOfTheBook) {
+    startWith({u"Ann Larkin"_s});
+    const QString before = cell(u"SELECT COUNT(*) || LegalName FROM Person"_s);
+    QDir(path({})).mkpath(u"Attachments"_s);
+    writeFile(u"Attachments/deed.pdf"_s, "deed");
+    writeFile(u"FamilyInfo_Empty.mdb"_s, "empty");
+    ASSERT_EQ(link(path(u"Attachments/deed.pdf"_s).toLocal8Bit().constData(),
+                   path(u"another name.txt"_s).toLocal8Bit().constData()),
+              0);
+    const QStringList ours{u"FamilyInfo.mdb"_s,         u"./Attachments/../FamilyInfo.mdb"_s,
+                           u"FamilyInfo.mdb-journal"_s, u"FamilyInfo_Empty.mdb"_s,
+                           u"Attachments/deed.pdf"_s,   u"another name.txt"_s};
+    for (const QString& target : ours) {
+        save(u"tbSave"_s, target);
+        EXPECT_EQ(boxText(), u"70 - Permission denied"_s) << target.toStdString();
+        EXPECT_EQ(dismissBox(), u"SaveFile Error"_s);
+        save(u"tbSaveAll"_s, target);
+        EXPECT_EQ(boxText(), u"70 - Permission denied"_s) << target.toStdString();
+        EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
+    }
+    save(u"tbSaveAll"_s, u"SplashDef.txt"_s);
+    EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
+    save(u"tbSave"_s, u"SplashDef.txt"_s);
+    EXPECT_EQ(dismissBox(), u"Protected File"_s);
+    user.menu(u"mBackup"_s);
+    user.choose(path(u"FamilyInfo_Empty.mdb"_s));
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
+    EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
+    openNode(u"AssetLiquidation"_s);
+    save(u"tbSave"_s, u"FamilyInfo.mdb"_s);
+    EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
+    EXPECT_EQ(dismissBox(), u"Kinbook"_s);
+    EXPECT_EQ(cell(u"SELECT COUNT(*) || LegalName FROM Person"_s), before);
+    EXPECT_EQ(saved(u"Attachments/deed.pdf"_s), u"deed"_s);
+    EXPECT_EQ(saved(u"FamilyInfo_Empty.mdb"_s), u"empty"_s);
+    EXPECT_FALSE(QFile::exists(path(u"FamilyInfo.mdb-journal"_s)));
+}
 
 TEST_F(RecordOutput, PrintsTheRecordOnScreen) {
     startWith({u"Ann Larkin"_s, u"Bob Larkin"_s});
