@@ -7,20 +7,14 @@
 #include "lists/medical_log.h"
 #include "lists/pins_and_passwords.h"
 #include "lists/who_gets_what.h"
-#include "screens/ag_site_screen.h"
-#include "screens/alimony_screen.h"
 #include "screens/catalogue/catalogue.h"
 #include "screens/child_screen.h"
 #include "screens/cover_page_screen.h"
-#include "screens/education_screen.h"
-#include "screens/home_insurance_screen.h"
-#include "screens/homes_rented_screen.h"
-#include "screens/organizations_screen.h"
 #include "screens/owned_screen.h"
 #include "screens/person_screen.h"
 #include "screens/reference_screen.h"
 #include "screens/shared_table_screen.h"
-#include "screens/stocks_screen.h"
+#include "screens/special_screens.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,7 +45,6 @@ constexpr OwnClass ownClasses[] = {
     {"frmCoverPage"_L1, make<screens::CoverPageScreen>},
     {"frmDoctors"_L1, make<screens::ReferenceScreen>},
     {"frmEducation"_L1, make<screens::EducationScreen>},
-    {"frmHomeInsurance"_L1, make<screens::HomeInsuranceScreen>},
     {"frmHomesRented"_L1, make<screens::HomesRentedScreen>},
     {"frmImprovements"_L1, make<screens::ChildScreen>},
     {"frmInventory"_L1, make<screens::ChildScreen>},

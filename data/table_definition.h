@@ -29,7 +29,10 @@ struct Column {
     Initially initially = Initially::Null;
 
     [[nodiscard]] constexpr bool isStored() const { return !name.isEmpty(); }
-    [[nodiscard]] constexpr bool isState() const { return shownIn == ShownIn::StateCombo; }
+    /// What the column goes by where a window names it.
+    [[nodiscard]] constexpr QLatin1StringView key() const { return isStored() ? name : label; }
+    /// A rate is in percent.
+    [[nodiscard]] bool isRate() const { return format == QLatin1StringView("0.000"); }
 };
 
 /// Which key columns a table has before its others: none, the counter ID, ID with PersonID, ID with PersonID and
@@ -39,7 +42,6 @@ enum class Keys { None, Counter, Owner, OwnerAndDoctor, Parent };
 
 struct Table {
     QLatin1StringView name{};
-    QLatin1StringView caption{};
     Keys keys = Keys::Counter;
     std::span<const Column> columns{};
 };

@@ -37,11 +37,11 @@ void CoverPageScreen::cmdClose_Click() {
 
 void CoverPageScreen::printRecord() {
     output::attemptPrint(desktop(), u"Print Error"_s, [this] {
-        const CoverPage page{.heading1 = boxes().text(0).text(),
-                             .subHeading1 = boxes().text(1).text(),
-                             .heading2 = boxes().text(2).text(),
-                             .subHeading2 = boxes().text(3).text(),
-                             .date = boxes().text(4).text()};
+        const CoverPage page{.heading1 = boxes().text("Heading1"_L1).text(),
+                             .subHeading1 = boxes().text("SubHeading1"_L1).text(),
+                             .heading2 = boxes().text("Heading2"_L1).text(),
+                             .subHeading2 = boxes().text("SubHeading2"_L1).text(),
+                             .date = boxes().text("Date"_L1).text()};
         printCoverPage(page, session().definition);
     });
 }

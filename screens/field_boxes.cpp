@@ -2,32 +2,46 @@
 
 #include <QLabel>
 #include <algorithm>
+#include <stdexcept>
 
 #include "platform/base/date_text.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/memo_box.h"
 #include "platform/forms/text_box.h"
-#include "screens/catalogue/shown_columns.h"
+#include "screens/catalogue/screen_fields.h"
 
 using namespace Qt::StringLiterals;
 using platform::indexedName;
 
 namespace screens {
 
+namespace {
+
+bool isDate(const FieldBoxes::Text& text) {
+    return text.column && text.column->kind == data::FieldKind::Date;
+}
+
+bool isInCombo(const FieldBoxes::Text& text) {
+    return text.column && text.column->shownIn != data::ShownIn::Box;
+}
+
+}  // namespace
+
 FieldBoxes::FieldBoxes(QWidget& form, const ScreenDefinition& definition, OwnerBox owner)
-    : definition_(definition), columns_(shownColumns(definition)) {
+    : definition_(definition), fields_(screenFields(definition)) {
     if (owner != OwnerBox::None) makeOwner(form, owner);
-    int index = definition.firstBox;
-    for (const data::Column& column : columns_) {
+    int index = definition.firstField();
+    for (const data::Column& column : fields_) {
         if (column.kind == data::FieldKind::YesNo) {
             makeCheck(form, column);
         } else {
             makeText(form, index++, column);
         }
     }
-    for (const ComboColumn& column : definition.combos)
-        makeCombo(form, column);
+    for (const auto& [box, text] : texts_) {
+        if (isInCombo(text)) makeCombo(form, box);
+    }
 }
 
 FieldBoxes::~FieldBoxes() = default;
@@ -65,7 +79,7 @@ void FieldBoxes::makeText(QWidget& form, int index, const data::Column& column) 
     box->widget().setToolTip(column.hint);
     Text& text = addText(form, index, box, column.label);
     text.column = &column;
-    if (column.isStored() && column.shownIn == data::ShownIn::Box) {
+    if (column.isStored() && !isInCombo(text)) {
         text.binding = std::make_unique<platform::Binding>(*box, column.name, column.format);
     }
 }
@@ -79,14 +93,15 @@ void FieldBoxes::makeCheck(QWidget& form, const data::Column& column) {
     checks_.push_back(std::move(check));
 }
 
-void FieldBoxes::makeCombo(QWidget& form, const ComboColumn& column) {
-    Combo combo{new platform::ComboBox(&form), column, nullptr};
-    combo.box->setName(column.combo < 0 ? u"cbFields"_s : indexedName(u"cbFields"_s, column.combo));
-    combo.box->setAccessibleName(label(column.shadow));
-    combo.binding = std::make_unique<platform::Binding>(*combo.box, column.column, QString(), true);
-    const Text& shadow = texts_.at(column.shadow);
-    shadow.box->widget().hide();
-    shadow.label->setBuddy(combo.box);
+void FieldBoxes::makeCombo(QWidget& form, int shadow) {
+    const Text& text = texts_.at(shadow);
+    Combo combo{new platform::ComboBox(&form), shadow, text.column, nullptr};
+    const int index = definition_.firstField() + static_cast<int>(combos_.size());
+    combo.box->setName(definition_.soleCombo ? u"cbFields"_s : indexedName(u"cbFields"_s, index));
+    combo.box->setAccessibleName(text.label->text());
+    combo.binding = std::make_unique<platform::Binding>(*combo.box, text.column->name, QString(), true);
+    text.box->widget().hide();
+    text.label->setBuddy(combo.box);
     combos_.push_back(std::move(combo));
 }
 
@@ -94,21 +109,31 @@ QString FieldBoxes::label(int index) const {
     return texts_.at(index).label->text();
 }
 
+int FieldBoxes::indexOf(QLatin1StringView column) const {
+    const auto found = std::ranges::find_if(
+        texts_, [&](const auto& each) { return each.second.column && each.second.column->name == column; });
+    if (found == texts_.end()) throw std::out_of_range("no box for " + column.toString().toStdString());
+    return found->first;
+}
+
 platform::ComboBox* FieldBoxes::comboOver(int box) const {
     if (box == 0 && owner_) return owner_;
-    const auto found = std::ranges::find_if(combos_, [&](const Combo& combo) { return combo.column.shadow == box; });
+    const auto found = std::ranges::find(combos_, box, &Combo::shadow);
     return found == combos_.end() ? nullptr : found->box;
 }
 
-bool FieldBoxes::isDate(int box) const {
-    return std::ranges::any_of(definition_.dates, [&](const DateColumn& date) { return date.box == box; });
+std::optional<data::FieldKind> FieldBoxes::checkedKind(int box) const {
+    const data::Column* column = texts_.at(box).column;
+    if (!column || column->key() == definition_.unchecked) return {};
+    const bool isChecked = column->kind == data::FieldKind::Date || column->kind == data::FieldKind::Number;
+    return isChecked ? std::optional(column->kind) : std::nullopt;
 }
 
 void FieldBoxes::bind(platform::RecordSource* rows) {
     for (const auto& [index, text] : texts_) {
         if (!text.binding) continue;
         text.binding->setSource(rows);
-        if (isDate(index)) text.binding->setSource(nullptr);
+        if (isDate(text)) text.binding->setSource(nullptr);
     }
     for (const Check& check : checks_) {
         if (check.binding) check.binding->setSource(rows);
@@ -116,8 +141,9 @@ void FieldBoxes::bind(platform::RecordSource* rows) {
 }
 
 void FieldBoxes::bindDates(platform::RecordSource* rows) {
-    for (const DateColumn& date : definition_.dates)
-        texts_.at(date.box).binding->setSource(rows);
+    for (const auto& [index, text] : texts_) {
+        if (isDate(text)) text.binding->setSource(rows);
+    }
 }
 
 void FieldBoxes::bindCombos(platform::RecordSource* rows) {
@@ -127,28 +153,28 @@ void FieldBoxes::bindCombos(platform::RecordSource* rows) {
 
 void FieldBoxes::writeCombos(platform::RecordSource& rows) const {
     for (const Combo& combo : combos_)
-        rows.setValue(combo.column.column, combo.box->text());
+        rows.setValue(combo.column->name, combo.box->text());
 }
 
 void FieldBoxes::writeDates(platform::RecordSource& rows) const {
-    for (const DateColumn& date : definition_.dates) {
-        const Text& text = texts_.at(date.box);
+    for (const auto& [index, text] : texts_) {
+        if (!isDate(text)) continue;
         // Binding shows what the row holds, so the typed text is kept first.
         const QString typed = text.box->text();
         text.binding->setSource(&rows);
         if (platform::isDate(typed)) {
-            rows.setValue(date.column, typed);
+            rows.setValue(text.column->name, typed);
             // Until it is stored the date stands as typed; a refused save gives it back like this.
             text.box->setText(typed);
         } else if (typed.isEmpty()) {
-            rows.setValue(date.column, QVariant());
+            rows.setValue(text.column->name, QVariant());
         }
     }
 }
 
 void FieldBoxes::fillCombos(const QStringList& states) {
     for (const Combo& combo : combos_) {
-        if (texts_.at(combo.column.shadow).column->shownIn == data::ShownIn::StatusCombo) {
+        if (combo.column->shownIn == data::ShownIn::StatusCombo) {
             for (const QLatin1StringView item : definition_.statusItems)
                 combo.box->addItem(item);
         } else {
@@ -196,7 +222,7 @@ void FieldBoxes::showHeld() {
 
 void FieldBoxes::copyShadows() {
     for (const Combo& combo : combos_) {
-        platform::TextControl& shadow = text(combo.column.shadow);
+        platform::TextControl& shadow = text(combo.shadow);
         if (shadow.text() != combo.box->text()) shadow.setText(combo.box->text());
     }
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "data/table_definition.h"
@@ -39,9 +40,12 @@ public:
         platform::CheckBox* box = nullptr;
         std::unique_ptr<platform::Binding> binding;
     };
+    /// A combo whose text goes into a column by hand on save; its hidden shadow box carries the text to the output. The
+    /// owner's combo isn't one: it has no column.
     struct Combo {
         platform::ComboBox* box = nullptr;
-        ComboColumn column{};
+        int shadow = 0;  ///< index in txtFields
+        const data::Column* column = nullptr;
         std::unique_ptr<platform::Binding> binding;
     };
 
@@ -50,6 +54,9 @@ public:
 
     /// txtFields(index); throws std::out_of_range.
     [[nodiscard]] platform::TextControl& text(int index) const { return *texts_.at(index).box; }
+    /// The box of a column, or its index in txtFields. Throws std::out_of_range for a column without a box.
+    [[nodiscard]] platform::TextControl& text(QLatin1StringView column) const { return text(indexOf(column)); }
+    [[nodiscard]] int indexOf(QLatin1StringView column) const;
     [[nodiscard]] const std::map<int, Text>& texts() const { return texts_; }
     [[nodiscard]] const std::vector<Check>& checks() const { return checks_; }
     [[nodiscard]] const std::vector<Combo>& combos() const { return combos_; }
@@ -59,7 +66,8 @@ public:
     [[nodiscard]] QString label(int index) const;
     /// The combo whose shadow is the box; nullptr for a box of its own.
     [[nodiscard]] platform::ComboBox* comboOver(int box) const;
-    [[nodiscard]] bool isDate(int box) const;
+    /// What the box must hold when the focus leaves it, besides nothing at all: a date or a number; none for any text.
+    [[nodiscard]] std::optional<data::FieldKind> checkedKind(int box) const;
 
     /// Binds every box and check box but the date boxes; the combos wait for bindCombos.
     void bind(platform::RecordSource* rows);
@@ -88,10 +96,10 @@ private:
     void makeText(QWidget& form, int index, const data::Column& column);
     void makeOwner(QWidget& form, OwnerBox owner);
     void makeCheck(QWidget& form, const data::Column& column);
-    void makeCombo(QWidget& form, const ComboColumn& column);
+    void makeCombo(QWidget& form, int shadow);
 
     const ScreenDefinition& definition_;
-    std::vector<data::Column> columns_;
+    std::vector<data::Column> fields_;
     platform::ComboBox* owner_ = nullptr;
     std::map<int, Text> texts_;
     std::vector<Check> checks_;

@@ -1,10 +1,10 @@
 #include "screens/field_checks.h"
 
+#include "data/table_definition.h"
 #include "platform/base/conversions.h"
 #include "platform/base/date_text.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
-#include "screens/catalogue/screen_definition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,10 +29,10 @@ void showInvalidNumber(platform::Desktop& desktop, const QString& label) {
         u"Invalid "_s + name);
 }
 
-bool passes(platform::Desktop& desktop, platform::TextControl& box, Check check, const QString& label) {
+bool passes(platform::Desktop& desktop, platform::TextControl& box, data::FieldKind kind, const QString& label) {
     const QString text = box.text();
     if (text.isEmpty()) return true;
-    if (check == Check::Date) {
+    if (kind == data::FieldKind::Date) {
         if (platform::isDate(text)) return true;
         showInvalidDate(desktop, label);
     } else {

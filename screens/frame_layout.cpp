@@ -4,12 +4,13 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <utility>
 
 #include "data/table_definition.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/text_control.h"
-#include "screens/catalogue/screen_definition.h"
+#include "screens/catalogue/screen_fields.h"
 #include "screens/field_boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -124,15 +125,16 @@ private:
 void layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& definition, const FieldBoxes& boxes,
                   QLabel& attachments) {
     bool stretches = false;
-    for (const Frame& frame : definition.frames) {
+    QLabel* count = &attachments;
+    for (const FilledFrame& frame : filledFrames(definition)) {
         auto* box = new QGroupBox(QString(frame.caption).replace(u'&', u"&&"_s), &page);
         box->setObjectName(platform::indexedName(u"frFrame"_s, frame.index));
         Grid grid(*box, boxes);
         for (const auto& [i, text] : boxes.texts()) {
             if (!frame.boxes.holds(i)) continue;
             grid.add(i, text, frame.boxes.count() == 1);
-            if (i == definition.rateBox) grid.addPercentSign(text.box->widget());
-            if (&frame == &definition.frames.front() && i == frame.boxes.first) grid.addAttachments(attachments);
+            if (text.column && text.column->isRate()) grid.addPercentSign(text.box->widget());
+            if (QLabel* label = std::exchange(count, nullptr)) grid.addAttachments(*label);
         }
         if (frame.checks.count() > 0) grid.addChecks(frame.checks);
         column.addWidget(box, grid.stretches() ? 1 : 0);

@@ -17,7 +17,6 @@ namespace screens {
 
 namespace {
 constexpr int ownerShadow = 0;
-constexpr int siteDescription = 2;
 }  // namespace
 
 OwnedScreen::OwnedScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
@@ -30,11 +29,16 @@ OwnedScreen::OwnedScreen(platform::Desktop& desktop, session::Session& session, 
 // Load -------------------------------------------------------------------------------------------------------------
 
 void OwnedScreen::Form_Load() {
+    if (definition().readsWhenShown) return;
     if (definition().reportsLoadFailure) {
         desktop().attempt(u"Form Load Error"_s, [this] { loadRows(); });
     } else {
         loadRows();
     }
+}
+
+void OwnedScreen::ShowMe() {
+    if (definition().readsWhenShown && !rows().isOpen()) loadRows();
 }
 
 QString OwnedScreen::selectStatement() const {
@@ -183,37 +187,20 @@ void OwnedScreen::goLast() {
 
 void OwnedScreen::goNext() {
     if (!rows().eof()) rows().moveNext();
-    // Behind the last row there is no owner to look up.
-    if (rows().eof() && !txtOwnerID_.isNumeric()) {
+    if (rows().eof()) {
         rows().moveLast();
         updateName();
         setLastRecord();
         return;
     }
     updateName();
-    if (rows().eof() && rows().recordCount() > 0) {
-        desktop().beep();
-        setLastRecord();
-        rows().moveLast();
-        updateName();
-    }
     setAttachKey();
 }
 
 void OwnedScreen::goPrevious() {
     if (!rows().bof()) rows().movePrevious();
-    if (rows().bof() && !txtOwnerID_.isNumeric()) {
-        rows().moveFirst();
-        updateName();
-        setAttachKey();
-        return;
-    }
+    if (rows().bof()) rows().moveFirst();
     updateName();
-    if (rows().bof() && rows().recordCount() > 0) {
-        desktop().beep();
-        rows().moveFirst();
-        updateName();
-    }
     setAttachKey();
 }
 
@@ -230,7 +217,7 @@ bool OwnedScreen::validatesCombos() {
 
 void OwnedScreen::showChild(ChildKind kind) {
     const auto child = std::ranges::find(definition().children, kind, &ChildOffer::kind);
-    const QString description = boxes().text(siteDescription).text();
+    const QString description = boxes().text("Description"_L1).text();
     const session::ChildRequest request{.title = child->title + description,
                                         .location = description,
                                         .typeID = definition().parentType,

@@ -16,6 +16,8 @@ public:
                 const ScreenDefinition& definition);
 
     void Form_Load() override;
+    /// Reads the rows of a window that reads them only now, the first time: one that shows some keeps them.
+    void ShowMe() override;
 
 protected:
     /// Reads the rows of the selected member, or of the whole family, and shows the first. Without rows it begins an
@@ -37,6 +39,7 @@ protected:
     void finishCancel() override;
     void deleteRecord() override;
     void goFirst() override;
+    // A move beyond an end stays on the row and, unlike those of a screen without an owner, makes no sound.
     void goPrevious() override;
     void goNext() override;
     void goLast() override;

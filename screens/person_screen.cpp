@@ -17,9 +17,9 @@ using namespace Qt::StringLiterals;
 namespace screens {
 
 namespace {
-constexpr int nameBox = 0;
-constexpr int sexBox = 2;
-constexpr int socialSecurityBox = 7;
+constexpr auto legalNameColumn = "LegalName"_L1;
+constexpr auto sexColumn = "Sex"_L1;
+constexpr auto socialSecurityColumn = "SocSecNum"_L1;
 constexpr int socialSecurityLength = 11;
 }  // namespace
 
@@ -27,7 +27,7 @@ PersonScreen::PersonScreen(platform::Desktop& desktop, session::Session& session
     : RecordScreen(desktop, session, workspace, personEntry()) {}
 
 QString PersonScreen::legalName() const {
-    return boxes().text(nameBox).text();
+    return boxes().text(legalNameColumn).text();
 }
 
 // Load -------------------------------------------------------------------------------------------------------------
@@ -65,7 +65,7 @@ void PersonScreen::Form_Load() {
 void PersonScreen::beginAdd() {
     RecordScreen::beginAdd();
     // While the screen loads nothing can take the focus; it falls on the name box when the window comes up.
-    if (boxes().text(nameBox).widget().isVisible()) boxes().text(nameBox).widget().setFocus();
+    if (boxes().text(legalNameColumn).widget().isVisible()) boxes().text(legalNameColumn).widget().setFocus();
 }
 
 bool PersonScreen::readyToSave() {
@@ -170,9 +170,9 @@ void PersonScreen::cmdClose_Click() {
 bool PersonScreen::validates(int box) {
     bool valid = true;
     desktop().attempt(u"txtFieldsValidate Error"_s, [&] {
-        if (box == sexBox) {
+        if (box == boxes().indexOf(sexColumn)) {
             valid = sexIsValid();
-        } else if (box == socialSecurityBox) {
+        } else if (box == boxes().indexOf(socialSecurityColumn)) {
             valid = socialSecurityIsValid();
         } else {
             valid = RecordScreen::validates(box);
@@ -182,7 +182,7 @@ bool PersonScreen::validates(int box) {
 }
 
 bool PersonScreen::sexIsValid() {
-    platform::TextControl& box = boxes().text(sexBox);
+    platform::TextControl& box = boxes().text(sexColumn);
     const QString sex = box.text();
     if (sex == u"m"_s) box.setText(u"M"_s);
     if (sex == u"f"_s) box.setText(u"F"_s);
@@ -193,20 +193,20 @@ bool PersonScreen::sexIsValid() {
 }
 
 bool PersonScreen::socialSecurityIsValid() {
-    platform::TextControl& box = boxes().text(socialSecurityBox);
+    platform::TextControl& box = boxes().text(socialSecurityColumn);
     if (box.text().isEmpty() || box.text().size() == socialSecurityLength) return true;
     desktop().notice(
         u"The %1 field has an error in it.  Check to see that all the numbers are there in the proper grouping and "
         "that there are no spaces between a hyphen and a number or between numbers within a group.\r\n\r\n"
         "Before you Save or Cancel, you must enter the social security number correctly or delete the invalid entry."_s
-            .arg(boxes().label(socialSecurityBox)),
+            .arg(boxes().label(boxes().indexOf(socialSecurityColumn))),
         u"Invalid Social Security Number"_s);
     box.selectAll();
     return false;
 }
 
 void PersonScreen::Form_KeyUp(int keyCode, int /*shift*/) {
-    platform::TextControl& box = boxes().text(socialSecurityBox);
+    platform::TextControl& box = boxes().text(socialSecurityColumn);
     if (activeControl() != &box || keyCode == platform::key::del || keyCode == platform::key::backspace) return;
     desktop().attempt(u"txtFields_KeyUp Error"_s, [&] {
         const qsizetype length = box.text().size();

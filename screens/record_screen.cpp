@@ -417,10 +417,8 @@ void RecordScreen::Form_KeyDown(int keyCode, int shift) {
 // Checks and aids --------------------------------------------------------------------------------------------------
 
 bool RecordScreen::validates(int box) {
-    for (const FieldCheck& check : definition_.checks) {
-        if (check.box == box) return passes(desktop(), boxes_.text(box), check.check, boxes_.label(box));
-    }
-    return true;
+    const std::optional<data::FieldKind> kind = boxes_.checkedKind(box);
+    return !kind || passes(desktop(), boxes_.text(box), *kind, boxes_.label(box));
 }
 
 // What the screen shows of its state -------------------------------------------------------------------------------

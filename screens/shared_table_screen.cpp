@@ -10,10 +10,6 @@ SharedTableScreen::SharedTableScreen(platform::Desktop& desktop, session::Sessio
                                      session::Workspace& workspace, const ScreenDefinition& definition)
     : OwnedScreen(desktop, session, workspace, definition), txtType_(*this, u"txtType"_s, u"Type"_s) {}
 
-void SharedTableScreen::ShowMe() {
-    if (!rows().isOpen()) loadRows();
-}
-
 QString SharedTableScreen::selectStatement() const {
     if (!definition().shared->filters) return OwnedScreen::selectStatement();
     const QString table = definition().table;

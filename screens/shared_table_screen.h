@@ -14,10 +14,6 @@ public:
     SharedTableScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
                       const ScreenDefinition& definition);
 
-    void Form_Load() override {}
-    /// Reads the rows, the first time; a window that shows some keeps them.
-    void ShowMe() override;
-
 protected:
     [[nodiscard]] QString selectStatement() const override;
     [[nodiscard]] QString titleText() const override;

@@ -81,10 +81,10 @@ constexpr Column moneyMarkets[] = {
 };
 
 constexpr Table tables[] = {
-    {"CheckingAccounts"_L1, "Checking Accounts"_L1,       Keys::Owner, checkingAccounts},
-    {"SavingsAccounts"_L1,  "Savings Accounts"_L1,        Keys::Owner, savingsAccounts},
-    {"CDs"_L1,              "Certificates of Deposit"_L1, Keys::Owner, cds},
-    {"MoneyMarkets"_L1,     "Money Markets"_L1,           Keys::Owner, moneyMarkets},
+    {"CheckingAccounts"_L1, Keys::Owner, checkingAccounts},
+    {"SavingsAccounts"_L1,  Keys::Owner, savingsAccounts},
+    {"CDs"_L1,              Keys::Owner, cds},
+    {"MoneyMarkets"_L1,     Keys::Owner, moneyMarkets},
 };
 
 // clang-format on

@@ -157,13 +157,13 @@ constexpr Column safetyDeposit[] = {
 };
 
 constexpr Table tables[] = {
-    {"Parents"_L1,       "Parents"_L1,           Keys::Owner, parents},
-    {"Marriage"_L1,      "Marriage"_L1,          Keys::Owner, marriage},
-    {"Organizations"_L1, "Organizations"_L1,     Keys::Owner, organizations},
-    {"Memberships"_L1,   "Memberships"_L1,       Keys::Owner, memberships},
-    {"Funeral"_L1,       "Funeral"_L1,           Keys::Owner, funeral},
-    {"LegalInfo"_L1,     "Legal Information"_L1, Keys::Owner, legalInfo},
-    {"SafetyDeposit"_L1, "Safe Deposit Box"_L1,  Keys::Owner, safetyDeposit},
+    {"Parents"_L1,       Keys::Owner, parents},
+    {"Marriage"_L1,      Keys::Owner, marriage},
+    {"Organizations"_L1, Keys::Owner, organizations},
+    {"Memberships"_L1,   Keys::Owner, memberships},
+    {"Funeral"_L1,       Keys::Owner, funeral},
+    {"LegalInfo"_L1,     Keys::Owner, legalInfo},
+    {"SafetyDeposit"_L1, Keys::Owner, safetyDeposit},
 };
 
 // clang-format on

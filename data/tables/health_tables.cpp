@@ -62,9 +62,9 @@ constexpr Column medicalLog[] = {
 };
 
 constexpr Table tables[] = {
-    {"ShotRecords"_L1, "Shot Records and Medical History"_L1, Keys::Owner,          shotRecords},
-    {"Doctors"_L1,     "Doctors"_L1,                          Keys::Counter,        doctors},
-    {"MedicalLog"_L1,  "Medical Log"_L1,                      Keys::OwnerAndDoctor, medicalLog},
+    {"ShotRecords"_L1, Keys::Owner,          shotRecords},
+    {"Doctors"_L1,     Keys::Counter,        doctors},
+    {"MedicalLog"_L1,  Keys::OwnerAndDoctor, medicalLog},
 };
 
 // clang-format on

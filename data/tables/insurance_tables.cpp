@@ -146,14 +146,14 @@ constexpr Column otherInsurance[] = {
 };
 
 constexpr Table tables[] = {
-    {"MedicalInsurance"_L1,      "Medical Insurance"_L1,      Keys::Owner, medicalInsurance},
-    {"LifeInsurance"_L1,         "Life Insurance"_L1,         Keys::Owner, lifeInsurance},
-    {"AutoInsurance"_L1,         "Auto Insurance"_L1,         Keys::Owner, autoInsurance},
-    {"HomeInsurance"_L1,         "Home Owner's Insurance"_L1, Keys::Owner, homeInsurance},
-    {"DisabilityInsurance"_L1,   "Disability Insurance"_L1,   Keys::Owner, disabilityInsurance},
-    {"UmbrellaInsurance"_L1,     "Umbrella Insurance"_L1,     Keys::Owner, umbrellaInsurance},
-    {"SupplementalInsurance"_L1, "Supplemental Insurance"_L1, Keys::Owner, supplementalInsurance},
-    {"OtherInsurance"_L1,        "Other Insurance"_L1,        Keys::Owner, otherInsurance},
+    {"MedicalInsurance"_L1,      Keys::Owner, medicalInsurance},
+    {"LifeInsurance"_L1,         Keys::Owner, lifeInsurance},
+    {"AutoInsurance"_L1,         Keys::Owner, autoInsurance},
+    {"HomeInsurance"_L1,         Keys::Owner, homeInsurance},
+    {"DisabilityInsurance"_L1,   Keys::Owner, disabilityInsurance},
+    {"UmbrellaInsurance"_L1,     Keys::Owner, umbrellaInsurance},
+    {"SupplementalInsurance"_L1, Keys::Owner, supplementalInsurance},
+    {"OtherInsurance"_L1,        Keys::Owner, otherInsurance},
 };
 
 // clang-format on

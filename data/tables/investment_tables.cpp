@@ -145,15 +145,15 @@ constexpr Column otherSecurities[] = {
 };
 
 constexpr Table tables[] = {
-    {"InvestmentStrategy"_L1, "Investment Strategy"_L1, Keys::Owner, investmentStrategy},
-    {"BrokerageAccount"_L1,   "Brokerage Accounts"_L1,  Keys::Owner, brokerageAccount},
-    {"Stocks"_L1,             "Stocks"_L1,              Keys::Owner, stocks},
-    {"Annuities"_L1,          "Annuities"_L1,           Keys::Owner, annuities},
-    {"Bonds"_L1,              "Bonds"_L1,               Keys::Owner, bonds},
-    {"MutualFunds"_L1,        "Mutual Funds"_L1,        Keys::Owner, mutualFunds},
-    {"SavingsBonds"_L1,       "Savings Bonds"_L1,       Keys::Owner, savingsBonds},
-    {"TreasuryNotes"_L1,      "Treasury Notes"_L1,      Keys::Owner, treasuryNotes},
-    {"OtherSecurities"_L1,    "Other Investments"_L1,   Keys::Owner, otherSecurities},
+    {"InvestmentStrategy"_L1, Keys::Owner, investmentStrategy},
+    {"BrokerageAccount"_L1,   Keys::Owner, brokerageAccount},
+    {"Stocks"_L1,             Keys::Owner, stocks},
+    {"Annuities"_L1,          Keys::Owner, annuities},
+    {"Bonds"_L1,              Keys::Owner, bonds},
+    {"MutualFunds"_L1,        Keys::Owner, mutualFunds},
+    {"SavingsBonds"_L1,       Keys::Owner, savingsBonds},
+    {"TreasuryNotes"_L1,      Keys::Owner, treasuryNotes},
+    {"OtherSecurities"_L1,    Keys::Owner, otherSecurities},
 };
 
 // clang-format on

@@ -69,9 +69,9 @@ constexpr Column creditCards[] = {
 };
 
 constexpr Table tables[] = {
-    {"Obligations"_L1,         "Loans"_L1,        Keys::Owner, obligations},
-    {"AlimonyChildSupport"_L1, "Alimony"_L1,      Keys::Owner, alimonyChildSupport},
-    {"CreditCards"_L1,         "Credit Cards"_L1, Keys::Owner, creditCards},
+    {"Obligations"_L1,         Keys::Owner, obligations},
+    {"AlimonyChildSupport"_L1, Keys::Owner, alimonyChildSupport},
+    {"CreditCards"_L1,         Keys::Owner, creditCards},
 };
 
 // clang-format on

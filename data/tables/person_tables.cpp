@@ -129,13 +129,13 @@ constexpr Column residences[] = {
 };
 
 constexpr Table tables[] = {
-    {"Person"_L1,              "Persons"_L1,                   Keys::Counter, person},
-    {"Education"_L1,           "Education"_L1,                 Keys::Owner,   education},
-    {"Employers"_L1,           "Employment"_L1,                Keys::Owner,   employers},
-    {"MilitaryService"_L1,     "Military"_L1,                  Keys::Owner,   militaryService},
-    {"Passports"_L1,           "Citizenship and Passports"_L1, Keys::Owner,   passports},
-    {"ReligiousPreference"_L1, "Religious Preference"_L1,      Keys::Owner,   religiousPreference},
-    {"Residences"_L1,          "Residences"_L1,                Keys::Owner,   residences},
+    {"Person"_L1,              Keys::Counter, person},
+    {"Education"_L1,           Keys::Owner,   education},
+    {"Employers"_L1,           Keys::Owner,   employers},
+    {"MilitaryService"_L1,     Keys::Owner,   militaryService},
+    {"Passports"_L1,           Keys::Owner,   passports},
+    {"ReligiousPreference"_L1, Keys::Owner,   religiousPreference},
+    {"Residences"_L1,          Keys::Owner,   residences},
 };
 
 // clang-format on

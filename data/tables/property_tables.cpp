@@ -115,13 +115,13 @@ constexpr Column otherProperty[] = {
 };
 
 constexpr Table tables[] = {
-    {"Inventory"_L1,     "Inventory"_L1,             Keys::Parent, inventory},
-    {"Improvements"_L1,  "Improvements"_L1,          Keys::Parent, improvements},
-    {"Outbuildings"_L1,  "Outbuildings"_L1,          Keys::Parent, outbuildings},
-    {"Antiques"_L1,      "Antiques"_L1,              Keys::Owner,  antiques},
-    {"Collectibles"_L1,  "Antiques/Collectibles"_L1, Keys::Owner,  collectibles},
-    {"Vehicles"_L1,      "Vehicles"_L1,              Keys::Owner,  vehicles},
-    {"OtherProperty"_L1, "Other Property"_L1,        Keys::Owner,  otherProperty},
+    {"Inventory"_L1,     Keys::Parent, inventory},
+    {"Improvements"_L1,  Keys::Parent, improvements},
+    {"Outbuildings"_L1,  Keys::Parent, outbuildings},
+    {"Antiques"_L1,      Keys::Owner,  antiques},
+    {"Collectibles"_L1,  Keys::Owner,  collectibles},
+    {"Vehicles"_L1,      Keys::Owner,  vehicles},
+    {"OtherProperty"_L1, Keys::Owner,  otherProperty},
 };
 
 // clang-format on

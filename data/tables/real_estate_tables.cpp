@@ -163,13 +163,13 @@ constexpr Column otherRealEstate[] = {
 };
 
 constexpr Table tables[] = {
-    {"HomeOwned"_L1,             "Homes Owned"_L1,              Keys::Owner, homeOwned},
-    {"HomeRented"_L1,            "Rent"_L1,                     Keys::Owner, homeRented},
-    {"BusinessRealEstate"_L1,    "Business Site"_L1,            Keys::Owner, businessRealEstate},
-    {"AgRealEstate"_L1,          "Agricultural Real Estate"_L1, Keys::Owner, agRealEstate},
-    {"RentalRealEstate"_L1,      "Rental Real Estate"_L1,       Keys::Owner, rentalRealEstate},
-    {"UndevelopedRealEstate"_L1, "Undeveloped Real Estate"_L1,  Keys::Owner, undevelopedRealEstate},
-    {"OtherRealEstate"_L1,       "Other Real Estate"_L1,        Keys::Owner, otherRealEstate},
+    {"HomeOwned"_L1,             Keys::Owner, homeOwned},
+    {"HomeRented"_L1,            Keys::Owner, homeRented},
+    {"BusinessRealEstate"_L1,    Keys::Owner, businessRealEstate},
+    {"AgRealEstate"_L1,          Keys::Owner, agRealEstate},
+    {"RentalRealEstate"_L1,      Keys::Owner, rentalRealEstate},
+    {"UndevelopedRealEstate"_L1, Keys::Owner, undevelopedRealEstate},
+    {"OtherRealEstate"_L1,       Keys::Owner, otherRealEstate},
 };
 
 // clang-format on

@@ -49,10 +49,10 @@ constexpr Column assetLiquidation[] = {
 };
 
 constexpr Table tables[] = {
-    {"Contacts"_L1,         "Contacts"_L1,          Keys::Counter, contacts},
-    {"CoverPage"_L1,        "Cover Page"_L1,        Keys::Counter, coverPage},
-    {"WhoGetsWhat"_L1,      "Who Gets What"_L1,     Keys::Counter, whoGetsWhat},
-    {"AssetLiquidation"_L1, "Asset Liquidation"_L1, Keys::Counter, assetLiquidation},
+    {"Contacts"_L1,         Keys::Counter, contacts},
+    {"CoverPage"_L1,        Keys::Counter, coverPage},
+    {"WhoGetsWhat"_L1,      Keys::Counter, whoGetsWhat},
+    {"AssetLiquidation"_L1, Keys::Counter, assetLiquidation},
 };
 
 // clang-format on

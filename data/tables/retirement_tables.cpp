@@ -57,9 +57,9 @@ constexpr Column taxes[] = {
 };
 
 constexpr Table tables[] = {
-    {"RetirementAccounts"_L1, "Retirement Accounts"_L1, Keys::Owner, retirementAccounts},
-    {"SocialSecurity"_L1,     "Social Security"_L1,     Keys::Owner, socialSecurity},
-    {"Taxes"_L1,              "Taxes"_L1,               Keys::Owner, taxes},
+    {"RetirementAccounts"_L1, Keys::Owner, retirementAccounts},
+    {"SocialSecurity"_L1,     Keys::Owner, socialSecurity},
+    {"Taxes"_L1,              Keys::Owner, taxes},
 };
 
 // clang-format on

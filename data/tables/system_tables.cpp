@@ -37,9 +37,9 @@ constexpr Column luStates[] = {
 };
 
 constexpr Table tables[] = {
-    {"PIN_Password"_L1, "PINs And Passwords"_L1,  Keys::Owner, pinPassword},
-    {"Attachments"_L1,  "Kinbook Attachments"_L1, Keys::None,  attachments},
-    {"LUStates"_L1,     {},                       Keys::None,  luStates},
+    {"PIN_Password"_L1, Keys::Owner, pinPassword},
+    {"Attachments"_L1,  Keys::None,  attachments},
+    {"LUStates"_L1,     Keys::None,  luStates},
 };
 
 // clang-format on

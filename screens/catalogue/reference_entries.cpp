@@ -12,15 +12,13 @@ constexpr Refusal noDoctorName{"No Doctor Name"_L1, "No doctor name has been ent
 constexpr Refusal noContactName{"No Contact Name"_L1, "No contact name has been entered.  No "_L1};
 constexpr Refusal noMainHeading{"No Main Heading"_L1, "No main heading has been entered.  No "_L1};
 
-constexpr ComboColumn doctorsCombos[] = {{0, "State"_L1, 5}};
 constexpr Frame doctorsFrames[] = {
-    {0, "Doctor Information"_L1, {0, 9}, {}},
-    {1, "Comment"_L1, {10, 10}, {}},
+    {"Doctor Information"_L1, "Name"_L1},
+    {"Comment"_L1, "Comment"_L1},
 };
 constexpr ScreenDefinition doctors{
     .name = "frmDoctors"_L1,
     .table = "Doctors"_L1,
-    .recordset = "adoDocsRS"_L1,
     .title = "Doctors"_L1,
     .attachmentPrefix = "Doc_"_L1,
     .addCaption = "&Add New Doctor"_L1,
@@ -29,20 +27,16 @@ constexpr ScreenDefinition doctors{
     .deleteNoun = "doctor?"_L1,
     .query = "SELECT * from Doctors Order by Name"_L1,
     .selectorQuery = "Select Name from Doctors order by Name"_L1,
-    .combos = doctorsCombos,
     .frames = doctorsFrames,
-    .firstBox = 0,
 };
 
-constexpr ComboColumn contactsCombos[] = {{0, "State"_L1, 4}};
 constexpr Frame contactsFrames[] = {
-    {0, "Contact Information"_L1, {0, 11}, {}},
-    {1, "Comment"_L1, {12, 12}, {}},
+    {"Contact Information"_L1, "Name"_L1},
+    {"Comment"_L1, "Comment"_L1},
 };
 constexpr ScreenDefinition contacts{
     .name = "frmContacts"_L1,
     .table = "Contacts"_L1,
-    .recordset = "adoContactsRS"_L1,
     .title = "Contacts"_L1,
     .attachmentPrefix = "Con_"_L1,
     .addCaption = "&Add New Contact"_L1,
@@ -51,16 +45,13 @@ constexpr ScreenDefinition contacts{
     .deleteNoun = "contact?"_L1,
     .query = "SELECT * from Contacts Order by Name"_L1,
     .selectorQuery = "Select Name from Contacts order by Name"_L1,
-    .combos = contactsCombos,
     .frames = contactsFrames,
-    .firstBox = 0,
 };
 
-constexpr Frame coverPageFrames[] = {{0, "Cover Page Information"_L1, {0, 4}, {}}};
+constexpr Frame coverPageFrames[] = {{"Cover Page Information"_L1, "Heading1"_L1}};
 constexpr ScreenDefinition coverPage{
     .name = "frmCoverPage"_L1,
     .table = "CoverPage"_L1,
-    .recordset = "adoCoverPageRS"_L1,
     .title = "Cover Page"_L1,
     .addCaption = "&Add New Cover Page"_L1,
     .refusal = noMainHeading,
@@ -68,7 +59,6 @@ constexpr ScreenDefinition coverPage{
     .deleteNoun = "cover page information?"_L1,
     .query = "Select * from CoverPage"_L1,
     .frames = coverPageFrames,
-    .firstBox = 0,
 };
 
 constexpr ScreenDefinition entries[] = {

@@ -6,43 +6,15 @@
 
 namespace screens {
 
-/// What a text box must hold when the focus leaves it, besides nothing at all.
-enum class Check { Number, Date };
-
-struct FieldCheck {
-    int box;  ///< index in txtFields
-    Check check;
-};
-
-/// A combo whose text goes into a column by hand on save; its hidden shadow box carries the text to the output. The
-/// owner's combo isn't one: it has no column.
-struct ComboColumn {
-    int combo;  ///< index in cbFields; -1 where the screen has one combo that is no array
-    QLatin1StringView column;
-    int shadow;  ///< index in txtFields
-};
-
-/// A date box, bound only for moments and written by hand on save.
-struct DateColumn {
-    int box;  ///< index in txtFields
-    QLatin1StringView column;
-};
-
-/// Some neighbours in a control array, by index, both ends included; empty when `last` is before `first`.
-struct Range {
-    int first = 0;
-    int last = -1;
-    [[nodiscard]] constexpr bool holds(int index) const { return index >= first && index <= last; }
-    [[nodiscard]] constexpr int count() const { return last < first ? 0 : last - first + 1; }
-};
-
 /// A group of controls. The frames of an entry stand in the order in which they are shown, so that reading down is
-/// reading by index; their own index in frFrame can be another one.
+/// reading by index. A frame begins with the fields it names, goes on to those that the next one names, and holds none
+/// of a kind that it doesn't name; the first holds the owner too. A field goes by the name of its column, or by its
+/// label where nothing stores it.
 struct Frame {
-    int index;  ///< in frFrame
     QLatin1StringView caption;
-    Range boxes;   ///< in txtFields; 0 is the owner
-    Range checks;  ///< in chkFields
+    QLatin1StringView firstBox{};
+    QLatin1StringView firstCheck{};
+    std::optional<int> index{};  ///< in frFrame; none: as it is shown
 };
 
 /// Why a save is refused while the owner, or the name that a row goes by, is empty. The message is the opening and the
@@ -84,13 +56,11 @@ struct SharedRows {
     bool filters;            ///< shows the rows of its type alone; otherwise those of every type
 };
 
-/// Everything in which one record screen differs from the next as data. Labels, lengths, formats and hints of its
-/// boxes stand in the definition of its table; shownColumns() joins the two.
+/// Everything in which one record screen differs from the next as data, and its table doesn't say. What its boxes are,
+/// with labels, lengths, formats and hints, stands in the definition of the table; screenFields() joins the two.
 struct ScreenDefinition {
     QLatin1StringView name;
     QLatin1StringView table;
-    QLatin1StringView recordset{};
-    QLatin1StringView caption{};           ///< before the load gives the title; empty: the table's
     QLatin1StringView title{};             ///< ahead of the selected name; whole where there is none to follow
     QLatin1StringView attachmentPrefix{};  ///< empty: no attachments
     QLatin1StringView addCaption;
@@ -101,6 +71,7 @@ struct ScreenDefinition {
     QLatin1StringView deleteNoun{};  ///< after "Are you sure you want to delete this "
     QLatin1StringView saveAllHint = QLatin1StringView("Save all records to file");
     bool reportsLoadFailure = false;
+    bool readsWhenShown = false;  ///< reads its rows when the window comes up, not while it loads
 
     std::optional<SharedRows> shared{};
     std::span<const Override> overrides{};
@@ -110,17 +81,16 @@ struct ScreenDefinition {
     QLatin1StringView queryOrder{};     ///< behind a child screen's condition
     QLatin1StringView selectorQuery{};  ///< the names in cbSelect; empty where there is none
 
-    std::span<const ComboColumn> combos{};
     std::span<const QLatin1StringView> statusItems{};  ///< of the combo over a status column
-    std::span<const DateColumn> dates{};
-    std::span<const FieldCheck> checks{};
-    std::optional<int> rateBox{};  ///< the box with a percent sign behind it
+    bool soleCombo = false;                            ///< its one combo is cbFields, without an index
+    QLatin1StringView unchecked{};                     ///< a number or date whose box takes any text
     std::span<const Frame> frames;
 
     int parentType = 0;  ///< TypeID in the child tables of the rows that hang on this screen's
     std::span<const ChildOffer> children{};
 
-    int firstBox = 1;  ///< index of the table's first box in txtFields; 0 where no owner stands before it
+    /// Index of the table's first box in txtFields, and of its first combo in cbFields: the owner's stand before them.
+    [[nodiscard]] constexpr int firstField() const { return ownerLabel.isEmpty() ? 0 : 1; }
 };
 
 }  // namespace screens

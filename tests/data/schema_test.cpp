@@ -112,9 +112,8 @@ TEST(Tables, KeepTheFieldsThatLookLikeMistakes) {
     EXPECT_EQ(columnOf(u"HomeInsurance", u"ExpirationDate").kind, Date);
     EXPECT_EQ(columnOf(u"Stocks", u"StockType").hint, "Publicly Traded,  Private"_L1);
     EXPECT_EQ(columnOf(u"ShotRecords", u"Rubella").label, "Rubella "_L1);
-    EXPECT_FALSE(columnOf(u"Marriage", u"Status").isState());
     EXPECT_EQ(columnOf(u"Marriage", u"Status").shownIn, data::ShownIn::StatusCombo);
-    EXPECT_TRUE(columnOf(u"Vehicles", u"RegState").isState());
+    EXPECT_EQ(columnOf(u"Vehicles", u"RegState").shownIn, data::ShownIn::StateCombo);
     EXPECT_EQ(columnOf(u"Person", u"Seq").shownIn, data::ShownIn::Nowhere);
     EXPECT_EQ(columnOf(u"Obligations", u"Type").shownIn, data::ShownIn::Nowhere);
     EXPECT_EQ(columnOf(u"HomeOwned", u"Type").shownIn, data::ShownIn::Box);

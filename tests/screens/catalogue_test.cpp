@@ -8,7 +8,7 @@
 
 #include "data/tables.h"
 #include "screens/catalogue/person_entry.h"
-#include "screens/catalogue/shown_columns.h"
+#include "screens/catalogue/screen_fields.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,8 +21,6 @@ void PrintTo(const ScreenDefinition& screen, std::ostream* out) {
 
 namespace {
 
-constexpr int mostControls = 64;
-
 std::vector<ScreenDefinition> allScreens() {
     std::vector<ScreenDefinition> all{personEntry()};
     for (const auto group : {ownedScreens(), referenceScreens(), childScreens()}) {
@@ -31,33 +29,10 @@ std::vector<ScreenDefinition> allScreens() {
     return all;
 }
 
-/// One screen's numbered fields, as a window numbers them.
-struct Fields {
-    std::map<int, data::Column> boxes;
-    std::vector<data::Column> checks;
-
-    explicit Fields(const ScreenDefinition& screen) {
-        int next = screen.firstBox;
-        for (const data::Column& column : shownColumns(screen)) {
-            if (column.kind == data::FieldKind::YesNo) {
-                checks.push_back(column);
-            } else {
-                boxes.emplace(next++, column);
-            }
-        }
-    }
-};
-
 class Catalogue : public testing::TestWithParam<ScreenDefinition> {
 protected:
     const ScreenDefinition& screen_ = GetParam();
-    Fields fields_{screen_};
-
-    [[nodiscard]] data::Column box(int index) const {
-        const auto found = fields_.boxes.find(index);
-        return found == fields_.boxes.end() ? data::Column{} : found->second;
-    }
-    [[nodiscard]] bool hasOwner() const { return screen_.firstBox == 1; }
+    std::vector<data::Column> fields_ = screenFields(screen_);
 };
 
 std::string nameOf(const testing::TestParamInfo<ScreenDefinition>& info) {
@@ -68,68 +43,28 @@ std::string nameOf(const testing::TestParamInfo<ScreenDefinition>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Screens, Catalogue, testing::ValuesIn(allScreens()), nameOf);
 
-TEST_P(Catalogue, EveryFieldHasItsLabel) {
-    EXPECT_EQ(hasOwner(), !screen_.ownerLabel.isEmpty());
-    for (const data::Column& column : shownColumns(screen_)) {
-        EXPECT_FALSE(column.label.isEmpty()) << QString(column.name).toStdString();
-    }
-}
-
-TEST_P(Catalogue, DatesAndCombosAreWrittenIntoTheColumnOfTheirBox) {
-    for (const DateColumn& date : screen_.dates) {
-        EXPECT_EQ(box(date.box).name, date.column);
-        EXPECT_EQ(box(date.box).kind, data::FieldKind::Date);
-    }
-    int dates = 0;
-    int combos = 0;
-    for (const auto& [index, column] : fields_.boxes) {
-        dates += column.kind == data::FieldKind::Date;
-        combos += column.shownIn != data::ShownIn::Box;
-    }
-    EXPECT_EQ(dates, static_cast<int>(screen_.dates.size()));
-    EXPECT_EQ(combos, static_cast<int>(screen_.combos.size()));
-    for (const ComboColumn& combo : screen_.combos) {
-        EXPECT_EQ(box(combo.shadow).name, combo.column);
-        EXPECT_NE(box(combo.shadow).shownIn, data::ShownIn::Box);
-        EXPECT_EQ(box(combo.shadow).shownIn == data::ShownIn::StatusCombo,
-                  !screen_.statusItems.empty() && combo.combo == 1);
-    }
-}
-
-TEST_P(Catalogue, ChecksFitWhatTheBoxesHold) {
-    std::set<int> seen;
-    for (const FieldCheck& check : screen_.checks) {
-        EXPECT_TRUE(seen.insert(check.box).second) << check.box;
-        const data::FieldKind kind = check.check == Check::Date ? data::FieldKind::Date : data::FieldKind::Number;
-        EXPECT_EQ(box(check.box).kind, kind) << check.box;
-    }
-    const auto rate = std::ranges::find(fields_.boxes, "0.000"_L1, [](const auto& each) { return each.second.format; });
-    EXPECT_EQ(screen_.rateBox, rate == fields_.boxes.end() ? std::nullopt : std::optional(rate->first));
-}
-
-TEST_P(Catalogue, EveryControlStandsInOneFrameAndReadingDownIsReadingByIndex) {
-    std::vector<int> boxes;
-    std::vector<int> checks;
+// Reading down is reading by number, and no frame is named after a field that the screen hasn't got.
+TEST_P(Catalogue, ItsFramesTakeUpTheFieldsInTheirOrder) {
+    int box = 0;
+    int check = 0;
     std::set<int> indices;
-    for (const Frame& frame : screen_.frames) {
+    for (const FilledFrame& frame : filledFrames(screen_)) {
         EXPECT_GT(frame.boxes.count() + frame.checks.count(), 0) << QString(frame.caption).toStdString();
         EXPECT_TRUE(indices.insert(frame.index).second);
-        for (int i = 0; i < mostControls; ++i) {
-            if (frame.boxes.holds(i)) boxes.push_back(i);
-            if (frame.checks.holds(i)) checks.push_back(i);
+        for (const auto& [range, next] : {std::pair(frame.boxes, &box), std::pair(frame.checks, &check)}) {
+            if (range.count() == 0) continue;
+            EXPECT_EQ(range.first, *next);
+            *next = range.last + 1;
         }
     }
-    std::vector<int> allBoxes;
-    if (hasOwner()) allBoxes.push_back(0);
-    for (const auto& [index, column] : fields_.boxes)
-        allBoxes.push_back(index);
-    std::vector<int> allChecks;
-    for (int i = 0; i < static_cast<int>(fields_.checks.size()); ++i)
-        allChecks.push_back(i);
-    EXPECT_EQ(boxes, allBoxes);
-    EXPECT_EQ(checks, allChecks);
+    EXPECT_EQ(box + check, screen_.firstField() + static_cast<int>(fields_.size()));
     EXPECT_EQ(*indices.rbegin(), static_cast<int>(screen_.frames.size()) - 1);
-    EXPECT_TRUE(!hasOwner() || screen_.frames.front().boxes.holds(0));
+    for (const Frame& frame : screen_.frames) {
+        for (const QLatin1StringView field : {frame.firstBox, frame.firstCheck}) {
+            EXPECT_TRUE(field.isEmpty() || std::ranges::count(fields_, field, &data::Column::key) == 1)
+                << QString(field).toStdString();
+        }
+    }
 }
 
 TEST_P(Catalogue, OwnWordsAreAboutColumnsOfTheTable) {
@@ -140,7 +75,8 @@ TEST_P(Catalogue, OwnWordsAreAboutColumnsOfTheTable) {
         EXPECT_TRUE(columns.contains(own.column));
     for (const QLatin1StringView column : screen_.leftOut)
         EXPECT_TRUE(columns.contains(column));
-    EXPECT_EQ(screen_.shared.has_value(), columns.contains(u"Type"_s) && box(1).name == "Name"_L1);
+    EXPECT_TRUE(screen_.unchecked.isEmpty() || columns.contains(screen_.unchecked));
+    EXPECT_EQ(screen_.shared.has_value(), columns.contains(u"Type"_s) && fields_.front().name == "Name"_L1);
 }
 
 TEST(Catalogues, HoldEveryWindowOnce) {
@@ -188,8 +124,6 @@ TEST(Catalogues, SitesKeepTheTypeOfTheirChildren) {
         ASSERT_NE(site, nullptr);
         EXPECT_EQ(site->parentType, ++type);
         EXPECT_FALSE(site->children.empty());
-        // The child's title quotes this box.
-        EXPECT_EQ(shownColumns(*site).at(1).name, "Description"_L1);
     }
     for (const ScreenDefinition& screen : allScreens())
         EXPECT_EQ(screen.children.empty(), screen.parentType == 0);

@@ -2,11 +2,10 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <algorithm>
 
 #include "app/dispatch_table.h"
 #include "screens/catalogue/catalogue.h"
-#include "screens/catalogue/shown_columns.h"
+#include "screens/catalogue/screen_fields.h"
 #include "tests/support/household.h"
 
 using namespace Qt::StringLiterals;
@@ -17,12 +16,6 @@ namespace {
 struct Field {
     QString control, given, stored, column;
 };
-
-Field comboField(const screens::ScreenDefinition& screen, const data::Column& column, int box) {
-    const auto combo = std::ranges::find(screen.combos, box, &screens::ComboColumn::shadow);
-    const QString given = column.isState() ? u"Texas"_s : u"Divorced"_s;
-    return {u"cbFields(%1)"_s.arg(combo->combo), given, given, column.name};
-}
 
 Field boxField(const data::Column& column, int box) {
     const QString control = u"txtFields(%1)"_s.arg(box);
@@ -41,15 +34,18 @@ Field boxField(const data::Column& column, int box) {
 
 std::vector<Field> fieldsOf(const screens::ScreenDefinition& screen) {
     std::vector<Field> fields;
-    int box = screen.firstBox;
+    int box = screen.firstField();
+    int combo = screen.firstField();
     int check = 0;
-    for (const data::Column& column : screens::shownColumns(screen)) {
+    for (const data::Column& column : screens::screenFields(screen)) {
         if (column.kind == data::FieldKind::YesNo) {
             fields.push_back({u"chkFields(%1)"_s.arg(check++), QString(), u"-1"_s, column.name});
         } else if (column.shownIn == data::ShownIn::Box) {
             fields.push_back(boxField(column, box++));
         } else {
-            fields.push_back(comboField(screen, column, box++));
+            const QString given = column.shownIn == data::ShownIn::StateCombo ? u"Texas"_s : u"Divorced"_s;
+            fields.push_back({u"cbFields(%1)"_s.arg(combo++), given, given, column.name});
+            ++box;
         }
     }
     return fields;
