@@ -3,6 +3,7 @@
 #include "app/mdi_host.h"
 #include "app/restore_source.h"
 #include "data/database_files.h"
+#include "data/pin_secrets.h"
 #include "platform/base/conversions.h"
 #include "platform/base/file_replacement.h"
 #include "platform/base/files.h"
@@ -225,7 +226,7 @@ void DatabaseCommands::backup() {
     session::BookFiles{session_.applicationFolder}.refuse(target);
     data::requireApart(companion, attachments());
     files::discardUnfinished(files::folderOf(target));
-    files::copyFile(source, target);
+    expected.database = data::kilobytes(data::backUpDatabase(source, target));
     saveAttachments(target);
     const Sizes copied{fileKilobytes(target), folderKilobytes(companion)};
     desktop().setPointer(Pointer::Default);

@@ -68,22 +68,24 @@ Dialog& Dispatch::touchDialog() {
     return desktop.load(std::make_unique<Dialog>(desktop, host_.session()));
 }
 
+bool Dispatch::requireMember(bool isSelected) const {
+    if (isSelected) return true;
+    host_.desktop().notice(
+        u"No family member has been selected.  The PIN And Password screen is tied \r\n"
+        "to specific family members.  Please select a family member."_s,
+        u"No Family Member Selected"_s);
+    return false;
+}
+
 void Dispatch::openPins() {
-    if (host_.session().gbWholeFamily) {
-        host_.desktop().notice(
-            u"No family member has been selected.  The PIN And Password screen is tied \r\n"
-            "to specific family members.  Please select a family member."_s,
-            u"No Family Member Selected"_s);
-        return;
-    }
-    auto& login = touchDialog<security::LoginPin>();
-    login.showModal();
-    if (!login.success()) return;
-    login.setSuccess(false);
-    host_.touch(pinList)->show();
+    const session::Session& session = host_.session();
+    if (!requireMember(!session.gbWholeFamily && session.gPersonID != 0)) return;
+    if (touchDialog<security::LoginPin>().admits()) host_.touch(pinList)->show();
 }
 
 bool Dispatch::changePinPassword() {
+    // A password kept under nobody would open no list.
+    if (!requireMember(host_.session().gPersonID != 0)) return false;
     if (host_.desktop().find(pinList)) {
         host_.desktop().notice(u"You must close the PINs and Passwords screen before you change the password."_s,
                                u"Close PINs and Passwords Screen"_s);

@@ -19,9 +19,10 @@ private:
     /// False for a refusal that ends the click there, with the node's picture as it is.
     [[nodiscard]] bool follow(const QString& key);
     [[nodiscard]] bool openWindow(const DispatchRow& row);
-    /// The list of accounts belongs to one member, so one has to be selected.
+    /// Tells that the list of accounts belongs to one member, unless one is selected.
+    [[nodiscard]] bool requireMember(bool isSelected) const;
     void openPins();
-    /// False when the list of accounts, which that password opens, is open.
+    /// False without a member, and when the list of accounts, which that password opens, is open.
     [[nodiscard]] bool changePinPassword();
     /// The dialog, loaded if it isn't yet.
     template <class Dialog>

@@ -10,6 +10,7 @@
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
 #include "session/definition_file.h"
+#include "session/pin_lists.h"
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
@@ -62,6 +63,7 @@ void Kinbook::start() {
     }
     session_->useLiveDatabase();
     desktop_->load(std::make_unique<MDIHost>(*desktop_, *session_)).show();
+    session::hidePinsLeftPlain(*desktop_, session_->gConnection);
     unloadSplash();
 }
 

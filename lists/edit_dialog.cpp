@@ -68,6 +68,12 @@ QString EditDialog::text(const QString& field) const {
     return found.combo ? found.combo->text() : found.box->text();
 }
 
+QString EditDialog::storedText(const QString& field) const {
+    QString stored = text(field);
+    if (input(field).field.ampersands == Ampersands::DoubledInTable) stored.replace(u" & "_s, u" && "_s);
+    return stored;
+}
+
 void EditDialog::setText(const QString& field, const QString& text) {
     const Input& found = input(field);
     found.combo ? found.combo->setText(text) : found.box->setText(text);
@@ -93,14 +99,15 @@ void EditDialog::pointAt(const QString& field) {
     }
 }
 
+bool EditDialog::run() {
+    success_ = false;
+    showModal();
+    return success_;
+}
+
 void EditDialog::cmdOK_Click() {
     if (!accepts()) return;
     success_ = true;
-    for (const EditField& field : form_.fields) {
-        if (field.ampersands == Ampersands::DoubledInTable) {
-            setText(field.name, text(field.name).replace(u" & "_s, u" && "_s));
-        }
-    }
     hide();
 }
 

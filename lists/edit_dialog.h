@@ -24,22 +24,24 @@ public:
     /// `form` is kept; it has to live longer than the dialog.
     EditDialog(platform::Desktop& desktop, const EditForm& form);
 
-    /// The dialog was left by OK, and all its checks were passed.
-    [[nodiscard]] bool success() const { return success_; }
+    /// Shows the dialog until it is left; true for OK, with all checks passed. It can be run again, with its texts.
+    [[nodiscard]] bool run();
     [[nodiscard]] const EditForm& form() const { return form_; }
 
     /// Text of an input by its name.
     [[nodiscard]] QString text(const QString& field) const;
+    /// The same as the table keeps it.
+    [[nodiscard]] QString storedText(const QString& field) const;
     void setText(const QString& field, const QString& text);
     void clear();
     /// Gets the dialog ready to be shown for an edit.
     void initScreen();
+    /// Selects the whole of an input and puts the focus there.
+    void pointAt(const QString& field);
 
 protected:
     /// Tells what is wrong with what was typed; false keeps the dialog open.
     [[nodiscard]] virtual bool accepts() { return true; }
-    /// Selects the whole of an input and puts the focus there.
-    void pointAt(const QString& field);
     [[nodiscard]] platform::ComboBox& combo(const QString& field) const;
 
 private:

@@ -169,8 +169,10 @@ void ListScreen::fillDialog() {
 }
 
 void ListScreen::runDialog() {
-    dialog_->showModal();
-    dialog_->success() ? cmdUpdate_Click() : cmdCancel_Click();
+    // What couldn't be saved comes back as it was typed.
+    do {
+        if (!dialog_->run()) return cmdCancel_Click();
+    } while (!cmdUpdate_Click());
 }
 
 void ListScreen::closeDialog() {
@@ -179,12 +181,19 @@ void ListScreen::closeDialog() {
 
 // Save -------------------------------------------------------------------------------------------------------------
 
-void ListScreen::cmdUpdate_Click() {
-    if (!desktop().attempt(u"Update Error"_s, [this] { save(); })) cmdCancel_Click();
+bool ListScreen::cmdUpdate_Click() {
+    bool written = false;
+    const bool shown = desktop().attempt(u"Update Error"_s, [&] {
+        written = saveRow();
+        if (written) showSaved();
+    });
+    // A row that is in the file must not be written a second time.
+    if (written && !shown) cmdCancel_Click();
+    return written;
 }
 
-void ListScreen::save() {
-    if (!saveRow()) return;
+void ListScreen::showSaved() {
+    finishSave();
     rebind(bEditing_);
     closeDialog();
     if (bAdding_) platform::Desktop::passOver([this] { rows_.moveLast(); });
@@ -199,7 +208,7 @@ bool ListScreen::saveRow() {
     row.open(u"Select * from %1 where "_s.arg(definition_.table) + which, session().gConnection);
     if (bAdding_) row.addNew();
     for (const EditField& field : definition_.form.fields) {
-        if (!field.stored.isEmpty()) row.setValue(field.stored, dialog_->text(field.name));
+        if (!field.stored.isEmpty()) row.setValue(field.stored, dialog_->storedText(field.name));
     }
     writeRow(row);
     row.update();
@@ -281,7 +290,7 @@ void ListScreen::cmdClose_Click() {
 void ListScreen::Form_Unload() {
     closeDialog();
     grdDataGrid_->setSource(nullptr);
-    desktop().run([this] { restRows(); });
+    restRows();
     desktop().setPointer(platform::Pointer::Default);
 }
 

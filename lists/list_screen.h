@@ -68,9 +68,11 @@ protected:
     [[nodiscard]] virtual bool mayDeleteRow() { return true; }
     /// The dialog holds the texts of the row that is about to be edited.
     virtual void beginEdit() {}
-    /// Writes what the dialog holds, as a new row or over the current one. False if there is nothing to write yet, and
-    /// the list stays as it is.
+    /// Writes what the dialog holds, as a new row or over the current one. False, after telling why, if it can't be
+    /// written yet.
     [[nodiscard]] virtual bool saveRow();
+    /// The row was written.
+    virtual void finishSave() {}
     /// The columns that are written in a way of their own.
     virtual void writeRow(data::Recordset& row);
     /// The table holds a row less.
@@ -101,7 +103,8 @@ private:
 
     void cmdAdd_Click();
     void cmdEdit_Click();
-    void cmdUpdate_Click();
+    /// False while what was entered isn't in the file.
+    bool cmdUpdate_Click();
     void cmdCancel_Click();
     void cmdDelete_Click();
     void cmdClose_Click();
@@ -111,8 +114,8 @@ private:
     void fillDialog();
     void runDialog();
     void closeDialog();
-    /// Writes what the dialog holds and shows the list as it is then.
-    void save();
+    /// Shows the list with the row that was written.
+    void showSaved();
     void endEditing();
 
     void move(const QString& errorTitle, void (ListScreen::*step)());

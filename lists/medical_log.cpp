@@ -3,6 +3,7 @@
 #include "lists/medical_log_dialog.h"
 #include "platform/base/conversions.h"
 #include "platform/base/date_text.h"
+#include "platform/forms/desktop.h"
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
@@ -11,25 +12,27 @@ namespace lists {
 
 namespace {
 
+const QString cbPatientName = u"cbPatientName"_s;
+const QString cbDoctorName = u"cbDoctorName"_s;
+
 const ListDefinition logList{
     .window = u"frmMedicalLog"_s,
     .caption = u"Medical Log -- "_s,
     .table = u"MedicalLog"_s,
     .rowTwips = 675,
     .shares = {0.001, 0.2, 0.15, 0.15, 0.2, 0.26},
-    .form =
-        {u"frmMedLogEdit"_s,
-         u"Medical Log Edit"_s,
-         {{.name = u"cbPatientName"_s, .label = u"Patient Name:"_s, .gridColumn = 1, .kind = EditField::Kind::Combo},
-          {.name = u"txtStartDate"_s, .label = u"Start Date:"_s, .gridColumn = 2},
-          {.name = u"txtEndDate"_s, .label = u"End Date:"_s, .gridColumn = 3},
-          {.name = u"cbDoctorName"_s, .label = u"Doctor Name:"_s, .gridColumn = 4, .kind = EditField::Kind::Combo},
-          {.name = u"txtDescription"_s,
-           .label = u"Description:"_s,
-           .gridColumn = 5,
-           .stored = u"Description"_s,
-           .ampersands = Ampersands::DoubledInTable,
-           .kind = EditField::Kind::Memo}}},
+    .form = {u"frmMedLogEdit"_s,
+             u"Medical Log Edit"_s,
+             {{.name = cbPatientName, .label = u"Patient Name:"_s, .gridColumn = 1, .kind = EditField::Kind::Combo},
+              {.name = u"txtStartDate"_s, .label = u"Start Date:"_s, .gridColumn = 2},
+              {.name = u"txtEndDate"_s, .label = u"End Date:"_s, .gridColumn = 3},
+              {.name = cbDoctorName, .label = u"Doctor Name:"_s, .gridColumn = 4, .kind = EditField::Kind::Combo},
+              {.name = u"txtDescription"_s,
+               .label = u"Description:"_s,
+               .gridColumn = 5,
+               .stored = u"Description"_s,
+               .ampersands = Ampersands::DoubledInTable,
+               .kind = EditField::Kind::Memo}}},
     .attachmentPrefix = u"MRec"_s,
 };
 
@@ -68,14 +71,26 @@ std::optional<qint16> MedicalLog::findID(const QString& statement) {
 }
 
 bool MedicalLog::saveRow() {
-    const auto person =
-        findID(u"Select ID from Person where LegalName = '%1'"_s.arg(dialog().text(u"cbPatientName"_s)));
-    if (!person) return false;
-    const auto doctor = findID(u"Select ID from Doctors where Name = '%1'"_s.arg(dialog().text(u"cbDoctorName"_s)));
+    const auto person = findID(u"Select ID from Person where LegalName = '%1'"_s.arg(dialog().text(cbPatientName)));
+    if (!person) {
+        tellNoPatient();
+        return false;
+    }
+    const auto doctor = findID(u"Select ID from Doctors where Name = '%1'"_s.arg(dialog().text(cbDoctorName)));
     if (!doctor) return false;
     personID_ = *person;
     doctorID_ = *doctor;
     return ListScreen::saveRow();
+}
+
+void MedicalLog::tellNoPatient() {
+    const QString patient = dialog().text(cbPatientName);
+    QString what = u"The patient of this entry has been deleted from the family."_s;
+    if (!patient.isEmpty()) what = patient + u" is not a member of the family any more."_s;
+    if (patient.isEmpty() && isAdding()) what = u"No patient has been entered."_s;
+    desktop().notice(what + u"  Select a patient from the list that drops down, or press Esc to give the entry up."_s,
+                     u"No Matching Family Member"_s);
+    dialog().pointAt(cbPatientName);
 }
 
 void MedicalLog::writeRow(data::Recordset& row) {

@@ -22,6 +22,8 @@ protected:
 private:
     /// ID of the first row that the statement finds; nullopt for none.
     [[nodiscard]] std::optional<qint16> findID(const QString& statement);
+    /// The dialog's patient is no member of the family, or not any more.
+    void tellNoPatient();
 
     qint16 personID_ = 0;
     qint16 doctorID_ = 0;

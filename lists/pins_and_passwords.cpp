@@ -1,8 +1,11 @@
 #include "lists/pins_and_passwords.h"
 
 #include "data/cipher.h"
+#include "data/pin_secrets.h"
+#include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
-#include "session/pin_password.h"
+#include "session/pin_lists.h"
+#include "session/refusals.h"
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
@@ -10,6 +13,8 @@ using namespace Qt::StringLiterals;
 namespace lists {
 
 namespace {
+
+const QString txtPINPass = u"txtPINPass"_s;
 
 const ListDefinition pinList{
     .window = u"frmPinsAndPasswords"_s,
@@ -26,7 +31,7 @@ const ListDefinition pinList{
                .stored = u"Account"_s,
                .ampersands = Ampersands::DoubledInTable},
               {.name = u"txtUsername"_s, .label = u"User Name:"_s, .gridColumn = 3, .stored = u"UserName"_s},
-              {.name = u"txtPINPass"_s,
+              {.name = txtPINPass,
                .label = u"PIN or Password:"_s,
                .gridColumn = 4,
                .ampersands = Ampersands::DoubledInTable}},
@@ -45,6 +50,20 @@ void tellProtected(platform::Desktop& desktop, const QString& change, const QStr
         title);
 }
 
+/// What the PIN's cipher couldn't bring back isn't taken.
+class PinDialog : public SequencedDialog {
+public:
+    using SequencedDialog::SequencedDialog;
+
+protected:
+    [[nodiscard]] bool accepts() override {
+        if (!SequencedDialog::accepts()) return false;
+        if (session::canBeSecret(desktop(), text(txtPINPass), u"PIN or password"_s)) return true;
+        pointAt(txtPINPass);
+        return false;
+    }
+};
+
 }  // namespace
 
 PinsAndPasswords::PinsAndPasswords(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace)
@@ -59,42 +78,45 @@ Sequence PinsAndPasswords::sequence() const {
 }
 
 std::unique_ptr<EditDialog> PinsAndPasswords::makeDialog() {
-    return std::make_unique<SequencedDialog>(desktop(), pinList.form, session().gConnection, sequence(), required);
+    return std::make_unique<PinDialog>(desktop(), pinList.form, session().gConnection, sequence(), required);
 }
 
 void PinsAndPasswords::writeRow(data::Recordset& row) {
     SequencedList::writeRow(row);
-    row.setValue(u"PIN_Password"_s, data::cipher(dialog().text(u"txtPINPass"_s)));
+    row.setValue(u"PIN_Password"_s, data::cipher(dialog().storedText(txtPINPass)));
     row.setValue(u"PersonID"_s, owner_);
-    row.setValue(u"Encrypted"_s, data::cipher(session::plainMark()));
+    row.setValue(u"Encrypted"_s, data::cipher(data::plainMark()));
 }
 
 // Cipher -----------------------------------------------------------------------------------------------------------
 
+void PinsAndPasswords::Form_Load() {
+    platform::Desktop::attempt([this] { SequencedList::Form_Load(); },
+                               [this](const platform::RuntimeError& failure) {
+                                   restRows();
+                                   throw failure;
+                               });
+}
+
 void PinsAndPasswords::prepareRows() {
-    bringInto(true);
-}
-
-void PinsAndPasswords::restRows() {
-    bringInto(false);
-}
-
-void PinsAndPasswords::bringInto(bool plain) {
     data::Recordset& list = rows();
     if (list.bof() && list.eof()) return;
     for (list.moveFirst(); !list.eof(); list.moveNext()) {
-        const bool isPlain = list.value(u"Encrypted"_s).toString() == session::plainMark();
-        if (isPlain == plain) continue;
+        if (list.value(u"Encrypted"_s).toString() == data::plainMark()) continue;
         list.setValue(u"PIN_Password"_s, data::cipher(list.value(u"PIN_Password"_s).toString()));
-        list.setValue(u"Encrypted"_s, plain ? session::plainMark() : data::cipher(session::plainMark()));
+        list.setValue(u"Encrypted"_s, data::plainMark());
     }
     list.moveFirst();
+}
+
+void PinsAndPasswords::restRows() {
+    session::hidePins(desktop(), session().gConnection, owner_);
 }
 
 // The protected row ------------------------------------------------------------------------------------------------
 
 bool PinsAndPasswords::isProtected() {
-    return rows().hasCurrentRow() && cell(2) == session::protectedAccount();
+    return rows().hasCurrentRow() && cell(2) == data::protectedAccount();
 }
 
 bool PinsAndPasswords::mayEditRow() {

@@ -15,6 +15,9 @@ class PinsAndPasswords : public SequencedList {
 public:
     PinsAndPasswords(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace);
 
+    /// What fails half-way leaves no secret plain behind.
+    void Form_Load() override;
+
 protected:
     [[nodiscard]] QString selectStatement() const override;
     [[nodiscard]] std::unique_ptr<EditDialog> makeDialog() override;
@@ -28,8 +31,6 @@ protected:
     void writeRow(data::Recordset& row) override;
 
 private:
-    /// Brings every row into one state, plain or enciphered, and goes to the first.
-    void bringInto(bool plain);
     [[nodiscard]] bool isProtected();
 
     /// The member whose list it is, whoever is selected when it closes.

@@ -1,5 +1,7 @@
 #include "lists/sequenced_list.h"
 
+#include <utility>
+
 #include "platform/base/conversions.h"
 #include "session/session.h"
 
@@ -14,9 +16,12 @@ void SequencedList::beginEdit() {
 }
 
 bool SequencedList::saveRow() {
+    // The rows keep their order when they make room, so the row goes to the number that is entered now.
+    if (std::exchange(outOfPlace_, false)) renumberSeq();
+    outOfPlace_ = true;
     shiftRows();
     if (!ListScreen::saveRow()) return false;
-    renumberSeq();
+    outOfPlace_ = false;
     return true;
 }
 

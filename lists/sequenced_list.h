@@ -19,8 +19,9 @@ protected:
     /// The rows that are numbered together.
     [[nodiscard]] virtual Sequence sequence() const { return {definition().table}; }
     void beginEdit() override;
-    /// Makes room at the entered number, writes the row, and numbers the list anew.
+    /// Makes room at the entered number and writes the row.
     [[nodiscard]] bool saveRow() override;
+    void finishSave() override { renumberSeq(); }
     void writeRow(data::Recordset& row) override;
     void finishDelete() override { renumberSeq(); }
 
@@ -31,6 +32,8 @@ private:
 
     /// Number of the row when its edit began.
     qint16 nOldSeq_ = 0;
+    /// Room was made for a row that then wasn't written.
+    bool outOfPlace_ = false;
 };
 
 }  // namespace lists

@@ -21,10 +21,13 @@ QString ChangePassword::oldPassword() {
 }
 
 void ChangePassword::change(const QString& password) {
-    session_.definition.gsMainPassword = password;
+    session::Definition changed = session_.definition;
+    changed.gsMainPassword = password;
+    // What couldn't be stored isn't the password of this session either.
+    session::writeDefinition(session_.path(u"SplashDef.txt"_s), changed);
+    session_.definition = changed;
     session_.gbCanEdit = true;
     session::setAllFormsAccess(desktop(), true);
-    session::writeDefinition(session_.path(u"SplashDef.txt"_s), session_.definition);
 }
 
 void ChangePassword::pointAtMismatch() {

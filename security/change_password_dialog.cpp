@@ -7,6 +7,7 @@
 #include "platform/forms/dialog_buttons.h"
 #include "platform/forms/text_box.h"
 #include "security/password_box.h"
+#include "session/refusals.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,10 +50,15 @@ bool ChangePasswordDialog::accepts() {
         pointAt(*txtOld_);
         return false;
     }
-    if (txtNew_->text() == txtConfirm_->text()) return true;
-    refuse(u"The new password does not match your confirmation"_s);
+    if (txtNew_->text() != txtConfirm_->text()) {
+        refuse(u"The new password does not match your confirmation"_s);
+        txtConfirm_->setText({});
+        pointAtMismatch();
+        return false;
+    }
+    if (session::canBeSecret(desktop(), txtNew_->text(), u"password"_s)) return true;
     txtConfirm_->setText({});
-    pointAtMismatch();
+    pointAt(*txtNew_);
     return false;
 }
 

@@ -1,8 +1,8 @@
 #include "security/change_pin_password.h"
 
 #include "data/cipher.h"
+#include "data/pin_secrets.h"
 #include "data/recordset.h"
-#include "session/pin_password.h"
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
@@ -28,7 +28,7 @@ void ChangePinPassword::change(const QString& password) {
 
 void ChangePinPassword::replacePassword(const QString& enciphered) {
     // No member is named: the family has one password for all its lists.
-    const QString where = u"' Where Account = '%1'"_s.arg(session::protectedAccount());
+    const QString where = u"' Where Account = '%1'"_s.arg(data::protectedAccount());
     run(u"Update PIN_Password Set PIN_Password = '"_s + enciphered + where);
     run(u"Update PIN_Password Set Encrypted = '"_s + stored_.encipheredMark + where);
 }
@@ -42,10 +42,10 @@ void ChangePinPassword::addProtectedRow(const QString& enciphered) {
              data::LockType::Optimistic);
     row.addNew();
     row.setValue(u"Seq"_s, 1);
-    row.setValue(u"Account"_s, session::protectedAccount());
+    row.setValue(u"Account"_s, data::protectedAccount());
     row.setValue(u"PIN_Password"_s, enciphered);
     row.setValue(u"PersonID"_s, session_.gPersonID);
-    row.setValue(u"Encrypted"_s, data::cipher(session::plainMark()));
+    row.setValue(u"Encrypted"_s, data::cipher(data::plainMark()));
     row.update();
 }
 

@@ -1,8 +1,8 @@
 #include "security/list_password.h"
 
 #include "data/cipher.h"
+#include "data/pin_secrets.h"
 #include "data/recordset.h"
-#include "session/pin_password.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,13 +11,13 @@ namespace security {
 ListPassword readListPassword(data::Connection& connection, qint16 personID) {
     data::Recordset row;
     row.setCursorLocation(data::CursorLocation::Server);
-    row.open(u"SELECT * from PIN_Password where Account = '"_s + session::protectedAccount() + u"' and PersonID = "_s +
+    row.open(u"SELECT * from PIN_Password where Account = '"_s + data::protectedAccount() + u"' and PersonID = "_s +
                  QString::number(personID),
              connection, data::CursorType::ForwardOnly, data::LockType::ReadOnly);
     if (row.eof()) return {};
     const QString secret = row.value(u"PIN_Password"_s).toString();
     const QString mark = row.value(u"Encrypted"_s).toString();
-    if (mark == session::plainMark()) return {true, secret, data::cipher(mark)};
+    if (mark == data::plainMark()) return {true, secret, data::cipher(mark)};
     return {true, data::cipher(secret), mark};
 }
 

@@ -24,20 +24,22 @@ void LoginDialog::Form_Load() {
     txtPassword_->selectAll();
 }
 
+void LoginDialog::clear() {
+    txtPassword_->setText({});
+}
+
 void LoginDialog::cmdOK_Click() {
     if (txtPassword_->text() != rightPassword()) {
         desktop().notice(u"Invalid Password, try again!"_s, u"Login"_s);
         pointAt(*txtPassword_);
         return;
     }
-    success_ = true;
     admit();
     pointAt(*txtPassword_);
     hide();
 }
 
 void LoginDialog::cmdCancel_Click() {
-    success_ = false;
     pointAt(*txtPassword_);
     hide();
 }

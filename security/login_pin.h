@@ -17,11 +17,16 @@ public:
 
     [[nodiscard]] static QString formName() { return QStringLiteral("frmLoginPIN"); }
 
+    /// Asks for the password, which nobody who asked before has left in the box; true if it was given.
+    [[nodiscard]] bool admits();
+
 protected:
     [[nodiscard]] QString rightPassword() override;
+    void admit() override { admitted_ = true; }
 
 private:
     session::Session& session_;
+    bool admitted_ = false;
 };
 
 }  // namespace security

@@ -1,5 +1,6 @@
 #include "session/refusals.h"
 
+#include "platform/base/windows1252.h"
 #include "platform/forms/desktop.h"
 #include "session/session.h"
 
@@ -41,6 +42,19 @@ void showNoDataNoLogin(platform::Desktop& desktop) {
         "access to this screen.\r\n\r\n"
         "You must go to the Security category and select Login to log in properly."_s,
         u"Invalid Login"_s);
+}
+
+bool canBeSecret(platform::Desktop& desktop, const QString& text, const QString& kind) {
+    const auto foreign = platform::firstOutsideCodePage(text);
+    if (!foreign) return true;
+    const uint code = foreign->toUcs4().first();
+    desktop.notice(
+        u"The character \"%1\" (U+%2) can't be used in a %3.\r\n\r\n"
+        "What can be used are the letters of English and of the other languages of Western Europe, accents "
+        "included, digits, blanks, and the signs of an English keyboard."_s.arg(
+            *foreign, QString::number(code, 16).toUpper().rightJustified(4, u'0'), kind),
+        u"Character Not Allowed"_s);
+    return false;
 }
 
 }  // namespace session

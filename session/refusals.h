@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace platform {
 class Desktop;
 }
@@ -18,5 +20,8 @@ void showScreenChanges(platform::Desktop& desktop);
 void showInvalidLogin(platform::Desktop& desktop);
 /// A read-only session wants to see a category that holds nothing.
 void showNoDataNoLogin(platform::Desktop& desktop);
+/// A secret is kept in a code page of 256 characters. Tells of the first character that it doesn't have; `kind` says
+/// what was typed.
+[[nodiscard]] bool canBeSecret(platform::Desktop& desktop, const QString& text, const QString& kind);
 
 }  // namespace session

@@ -115,11 +115,12 @@ private:
 
 /// Copies one file, and gives the folder that is to be synced before the copy is lasting.
 QString copyUnsynced(const QString& source, const QString& target, const CopyProgress& progress = {},
-                     FileReplacement::Flush flush = FileReplacement::Flush::Now) {
+                     const CopyFinish& finish = {}, FileReplacement::Flush flush = FileReplacement::Flush::Now) {
     const SourceFile from(source);
     if (from.isSameAs(target)) throw RuntimeError(70);
     FileReplacement to(target);
     ContentCopy(from, to, progress).run();
+    if (finish) finish(to.path());
     to.setMode(from.mode());
     to.place(flush);
     return to.folder();
@@ -150,12 +151,12 @@ void copyFolderUnflushed(const QString& source, const QString& target) {
 
 }  // namespace
 
-void copyFile(const QString& source, const QString& target, const CopyProgress& progress) {
-    syncFolder(copyUnsynced(source, target, progress));
+void copyFile(const QString& source, const QString& target, const CopyProgress& progress, const CopyFinish& finish) {
+    syncFolder(copyUnsynced(source, target, progress, finish));
 }
 
 void copyFileUnflushed(const QString& source, const QString& target) {
-    copyUnsynced(source, target, {}, FileReplacement::Flush::Later);
+    copyUnsynced(source, target, {}, {}, FileReplacement::Flush::Later);
 }
 
 void flush(const QString& path) {

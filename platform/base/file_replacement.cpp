@@ -45,6 +45,10 @@ FileReplacement::~FileReplacement() {
     if (!temporary_.isEmpty()) ::unlink(temporary_.constData());
 }
 
+QString FileReplacement::path() const {
+    return QFile::decodeName(temporary_);
+}
+
 void FileReplacement::write(const QByteArray& bytes) {
     for (qsizetype done = 0; done < bytes.size();) {
         const ssize_t written =
@@ -72,7 +76,9 @@ void FileReplacement::place(Flush flush) {
 
 void discardUnfinished(const QString& folder) {
     const QDir inside(folder);
-    const QStringList names = inside.entryList({temporaryPrefix + u"?"_s.repeated(32)}, QDir::Files | QDir::Hidden);
+    const QString unfinished = temporaryPrefix + u"?"_s.repeated(32);
+    // A database may have been changed under its temporary name.
+    const QStringList names = inside.entryList({unfinished, unfinished + u"-journal"_s}, QDir::Files | QDir::Hidden);
     for (const QString& name : names)
         QFile::remove(inside.filePath(name));
 }

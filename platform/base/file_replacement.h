@@ -15,6 +15,8 @@ public:
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
+    /// Where the file lies until place().
+    [[nodiscard]] QString path() const;
     /// The open file, for writing.
     [[nodiscard]] int descriptor() const { return descriptor_; }
     /// The target's folder.

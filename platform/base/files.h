@@ -10,6 +10,8 @@ namespace platform::files {
 
 /// Called now and then during a long copy with the bytes copied so far and those of the whole file.
 using CopyProgress = std::function<void(qint64 copied, qint64 total)>;
+/// Changes the finished copy, which lies under another name yet, before it becomes the target.
+using CopyFinish = std::function<void(const QString& copy)>;
 
 [[nodiscard]] QChar separator();
 /// Folder and name with one separator between them.
@@ -32,7 +34,8 @@ using CopyProgress = std::function<void(qint64 copied, qint64 total)>;
 
 /// Copies a file with its attributes. The target is replaced whole, on the disk when this returns, or left as it was.
 /// Errors: 53 no source, 76 no folder for the target, 70 a read-only target or the source itself, 61 disk full.
-void copyFile(const QString& source, const QString& target, const CopyProgress& progress = {});
+void copyFile(const QString& source, const QString& target, const CopyProgress& progress = {},
+              const CopyFinish& finish = {});
 /// The same without the wait for the disk: flush() must follow before anything relies on the copy.
 void copyFileUnflushed(const QString& source, const QString& target);
 /// Returns when a file and its name are on the disk. Errors: 53 missing, 61 disk full.

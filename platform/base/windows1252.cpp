@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #include "platform/base/runtime_error.h"
 
@@ -54,6 +53,14 @@ QByteArray toWindows1252(const QString& text, OutsideCodePage outside) {
         bytes.append(static_cast<char>(code.value_or('?')));
     }
     return bytes;
+}
+
+std::optional<QString> firstOutsideCodePage(const QString& text) {
+    const auto found = std::find_if(text.begin(), text.end(), [](QChar c) { return !codeOf(c); });
+    if (found == text.end()) return std::nullopt;
+    const qsizetype at = found - text.begin();
+    const bool isPair = found->isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    return text.sliced(at, isPair ? 2 : 1);
 }
 
 QString fromWindows1252(const QByteArray& bytes) {

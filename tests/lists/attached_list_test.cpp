@@ -93,7 +93,10 @@ TEST_F(AttachedList, ATreatmentNeedsAPatientADoctorAndGoodDates) {
     user.click(u"cmdOK"_s);
     EXPECT_EQ(dismissBox(), u"Update Error"_s);
     EXPECT_EQ(cell(u"SELECT MedicalID FROM MedicalLog"_s), u"1"_s);
-    EXPECT_EQ(user.form()["name"_L1].toString(), u"frmMedicalLog"_s);
+    // What was entered is still there, as it was typed.
+    EXPECT_EQ(user.form()["name"_L1].toString(), u"frmMedLogEdit"_s);
+    EXPECT_EQ(user.text(u"cbDoctorName"_s), u"O'Neil"_s);
+    EXPECT_EQ(user.text(u"txtDescription"_s), u"Rest & tea"_s);
 }
 
 TEST_F(AttachedList, ALogShowsTheSelectedMembersTreatmentsOnly) {
@@ -109,18 +112,31 @@ TEST_F(AttachedList, ALogShowsTheSelectedMembersTreatmentsOnly) {
     EXPECT_EQ(attachKey(), u"MRec_2_0"_s);
 }
 
-TEST_F(AttachedList, ATreatmentOfSomebodyWhoIsGoneWaitsForACancel) {
+TEST_F(AttachedList, ATreatmentOfSomebodyWhoIsGoneSaysSo) {
     addDoctors();
+    exec(u"INSERT INTO MedicalLog (PersonID, MedicalID, Description) VALUES (9, 1, 'gone')"_s);
     open(u"MedicalLog"_s);
+    user.click(u"cmdEdit"_s);
+    user.key(u"Return"_s);
+    EXPECT_TRUE(boxText().startsWith(u"The patient of this entry has been deleted from the family."_s));
+    EXPECT_EQ(dismissBox(), u"No Matching Family Member"_s);
+    EXPECT_EQ(user.state()["focus"_L1].toString(), u"cbPatientName"_s);
+    user.pick(u"cbPatientName"_s, u"Ann Larkin"_s);
+    user.click(u"cmdOK"_s);
+    EXPECT_EQ(cell(u"SELECT PersonID FROM MedicalLog"_s), u"1"_s);
+    exec(u"DELETE FROM MedicalLog"_s);
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
     user.click(u"cmdAdd"_s);
     user.pick(u"cbPatientName"_s, u"Ann Larkin"_s);
     user.pick(u"cbDoctorName"_s, u"Hale"_s);
     exec(u"DELETE FROM Person WHERE ID = 1"_s);
     user.click(u"cmdOK"_s);
-    EXPECT_EQ(boxTitle(), u""_s);
+    EXPECT_TRUE(boxText().startsWith(u"Ann Larkin is not a member of the family any more."_s));
+    user.answer(u"OK"_s);
     EXPECT_EQ(cell(u"SELECT count(*) FROM MedicalLog"_s), u"0"_s);
-    user.click(u"cmdUpdate"_s);
-    user.click(u"cmdCancel"_s);
+    EXPECT_EQ(user.text(u"cbDoctorName"_s), u"Hale"_s);
+    user.key(u"Escape"_s);
     EXPECT_EQ(status(), u"Record: 0"_s);
     EXPECT_TRUE(user.control(u"cmdAdd"_s)["visible"_L1].toBool());
     EXPECT_EQ(forms().last(), u"frmMedicalLog"_s);

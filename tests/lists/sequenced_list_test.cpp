@@ -76,7 +76,7 @@ TEST_F(SequencedList, WhatANumberMayBe) {
     struct Case {
         QString typed;
         QString box;      // of the dialog, which then stays
-        QString failure;  // of the save, which ends in a cancel
+        QString failure;  // of the save, behind which the dialog comes back
         QString rows;
     };
     const QString asBefore = u"1 A1|2 A2|3 A3|4 A4|5 A5|6 A6|7 A7|8 A8|9 A9"_s;
@@ -109,7 +109,10 @@ TEST_F(SequencedList, WhatANumberMayBe) {
         if (!sample.box.isEmpty()) {
             EXPECT_EQ(user.state()["focus"_L1].toString(), u"txtSequence"_s);
             EXPECT_EQ(user.control(u"txtSequence"_s)["selLength"_L1].toInt(), sample.typed.size());
-            user.key(u"Escape"_s);
+        }
+        if (!sample.box.isEmpty() || !sample.failure.isEmpty()) {
+            EXPECT_EQ(user.text(u"txtSequence"_s), sample.typed);
+            user.click(u"cmdCancel"_s);
         }
         EXPECT_EQ(stored(), sample.rows);
         EXPECT_EQ(current(), 0);
@@ -126,6 +129,7 @@ TEST_F(SequencedList, AnInterruptedSaveIsRepairedByTheNextOne) {
     enter(u"cmdEdit"_s, u"3"_s, u"bad"_s);
     EXPECT_EQ(dismissBox(), u"Update Error"_s);
     EXPECT_EQ(stored(), u"0 A1|1 A2|2 A3|4 A4"_s);
+    user.click(u"cmdCancel"_s);
     enter(u"cmdEdit"_s, u"1"_s, u"good"_s);
     EXPECT_EQ(stored(), u"1 good|2 A2|3 A3|4 A4"_s);
     // A row without a number is passed over, but counted.
@@ -133,6 +137,45 @@ TEST_F(SequencedList, AnInterruptedSaveIsRepairedByTheNextOne) {
     user.select(u"grdDataGrid"_s, 1);
     enter(u"cmdEdit"_s, u"2"_s);
     EXPECT_EQ(stored(), u"- A4|2 good|3 A2|4 A3"_s);
+}
+
+TEST_F(SequencedList, AnEntryThatCouldntBeSavedIsSavedByTheNextOK) {
+    addRows(4);
+    exec(
+        u"CREATE TRIGGER refusal BEFORE UPDATE OF Asset ON AssetLiquidation WHEN new.Asset LIKE 'bad%' BEGIN SELECT "
+        "RAISE(ABORT, 'refused'); END; CREATE TRIGGER addition BEFORE INSERT ON AssetLiquidation WHEN new.Asset LIKE "
+        "'bad%' BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
+    open();
+    const auto failThenSave = [&](const QString& button, int row, const QString& first, const QString& then) {
+        user.select(u"grdDataGrid"_s, row);
+        enter(button, first, u"bad & worse"_s);
+        EXPECT_EQ(dismissBox(), u"Update Error"_s);
+        EXPECT_EQ(user.text(u"txtAsset"_s), u"bad & worse"_s);
+        user.fill(u"txtAsset"_s, u"N"_s);
+        user.fill(u"txtSequence"_s, then);
+        user.click(u"cmdOK"_s);
+        EXPECT_EQ(activeWindow(), u"frmAssetLiquidation"_s);
+        const QString rows = stored();
+        exec(u"DELETE FROM AssetLiquidation WHERE ID > 4; UPDATE AssetLiquidation SET Seq = ID, Asset = 'A' || ID"_s);
+        user.click(u"cmdClose"_s);
+        openNode(u"AssetLiquidation"_s);
+        return rows;
+    };
+    EXPECT_EQ(failThenSave(u"cmdAdd"_s, 0, u"2"_s, u"2"_s), u"1 A1|2 N|3 A2|4 A3|5 A4"_s);
+    EXPECT_EQ(failThenSave(u"cmdAdd"_s, 0, u"2"_s, u"4"_s), u"1 A1|2 A2|3 A3|4 N|5 A4"_s);
+    EXPECT_EQ(failThenSave(u"cmdEdit"_s, 0, u"3"_s, u"3"_s), u"1 A2|2 A3|3 N|4 A4"_s);
+    EXPECT_EQ(failThenSave(u"cmdEdit"_s, 0, u"3"_s, u"1"_s), u"1 N|2 A2|3 A3|4 A4"_s);
+    EXPECT_EQ(failThenSave(u"cmdEdit"_s, 3, u"1"_s, u"2"_s), u"1 A1|2 N|3 A2|4 A3"_s);
+
+    // What fails behind the write of the row must not have it written twice.
+    exec(
+        u"CREATE TRIGGER renumbering BEFORE UPDATE OF Seq ON AssetLiquidation WHEN new.Seq = 2 BEGIN SELECT "
+        "RAISE(ABORT, 'refused'); END"_s);
+    exec(u"UPDATE AssetLiquidation SET Seq = Seq + 5 WHERE Seq > 1"_s);
+    enter(u"cmdAdd"_s, u"10"_s, u"last"_s);
+    EXPECT_EQ(dismissBox(), u"Update Error"_s);
+    EXPECT_EQ(forms().last(), u"frmAssetLiquidation"_s);
+    EXPECT_EQ(stored(), u"1 A1|7 A2|8 A3|9 A4|10 last"_s);
 }
 
 TEST_F(SequencedList, AnAssetKeepsItsAmpersandsAndNeedsAName) {
