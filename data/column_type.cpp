@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <cmath>
 
+#include "data/file_text.h"
 #include "data/provider_error.h"
 #include "data/value_text.h"
 
@@ -34,7 +35,7 @@ QVariant shownDate(const QVariant& stored) {
 QVariant storedText(const QVariant& value, int maxLength) {
     QString text = plainText(value);
     // Half of a surrogate pair has no place in the file's encoding and would come back as another sign.
-    if (!text.isValidUtf16()) text = QString::fromUtf8(text.toUtf8());
+    if (!text.isValidUtf16()) text = textFromFile(text.toUtf8());
     if (maxLength > 0 && text.size() > maxLength) doesNotFit();
     return text;
 }

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "data/connection_private.h"
+#include "data/file_text.h"
 #include "data/select_shape.h"
 #include "data/sql_tokens.h"
 
@@ -20,7 +21,7 @@ namespace {
 /// A statement that the file doesn't understand gives nothing; other failures go on.
 std::unique_ptr<SQLite::Statement> prepareIfUnderstood(SQLite::Database& database, const QString& statement) {
     try {
-        return std::make_unique<SQLite::Statement>(database, statement.toStdString());
+        return std::make_unique<SQLite::Statement>(database, textToFile(statement).toStdString());
     } catch (const SQLite::Exception& cause) {
         if (cause.getErrorCode() != SQLITE_ERROR) throw;
         return nullptr;

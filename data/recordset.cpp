@@ -7,6 +7,7 @@
 
 #include "data/connection_private.h"
 #include "data/fetched_rows.h"
+#include "data/file_text.h"
 #include "data/keyed_rows.h"
 #include "data/row_position.h"
 #include "data/row_stream.h"
@@ -130,7 +131,7 @@ bool Recordset::Private::load(Connection::Private& from, const QString& text) {
         return true;
     }
     auto prepared = from.run(text, [&text](SQLite::Database& database) {
-        auto ready = std::make_unique<SQLite::Statement>(database, text.toStdString());
+        auto ready = std::make_unique<SQLite::Statement>(database, textToFile(text).toStdString());
         if (ready->getColumnCount() == 0) {
             ready->exec();
             ready.reset();
@@ -409,7 +410,8 @@ void Recordset::showFilledIn(const std::vector<QVariant>& before, const std::map
 
 void Recordset::cancelUpdate() {
     d_->requireOpen();
-    if (!d_->hasPending()) return;
+    // Boxes may show what was typed and never handed over.
+    if (!d_->hasPending()) return Q_EMIT rowShown();
     Q_EMIT willChangeRecord();
     const bool isNew = d_->mode == EditMode::Add;
     d_->pending.clear();

@@ -65,6 +65,7 @@ public:
     /// return.
     void update();
     void updateBatch();
+    /// Drops the pending change, if there is one, and shows the row anew.
     void cancelUpdate();
     void deleteCurrent();
     void requery();

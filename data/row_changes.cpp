@@ -1,6 +1,7 @@
 #include <sqlite3.h>
 
 #include "data/connection_private.h"
+#include "data/file_text.h"
 #include "data/keyed_rows.h"
 
 namespace data {
@@ -16,8 +17,8 @@ QVariant oldValue(sqlite3* database, int column) {
         case SQLITE_FLOAT:
             return QVariant(sqlite3_value_double(value));
         case SQLITE_TEXT: {
-            const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-            return QVariant(QString::fromUtf8(text, sqlite3_value_bytes(value)));
+            const auto* text = sqlite3_value_text(value);
+            return QVariant(textFromFile({text, sqlite3_value_bytes(value)}));
         }
         case SQLITE_BLOB: {
             const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));

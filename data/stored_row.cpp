@@ -3,6 +3,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
+#include "data/file_text.h"
+
 namespace data {
 
 QVariant storedValue(const SQLite::Statement& statement, int column) {
@@ -14,7 +16,7 @@ QVariant storedValue(const SQLite::Statement& statement, int column) {
             return QVariant(value.getDouble());
         case SQLITE_TEXT: {
             const char* text = value.getText();
-            return QVariant(QString::fromUtf8(text, value.getBytes()));
+            return QVariant(textFromFile({text, value.getBytes()}));
         }
         case SQLITE_BLOB: {
             const auto* bytes = static_cast<const char*>(value.getBlob());
@@ -47,7 +49,7 @@ void bindValue(SQLite::Statement& statement, int place, const QVariant& value) {
             return statement.bind(place, static_cast<const void*>(bytes.constData()), static_cast<int>(bytes.size()));
         }
         default:
-            return statement.bind(place, value.toString().toStdString());
+            return statement.bind(place, textToFile(value.toString()).toStdString());
     }
 }
 

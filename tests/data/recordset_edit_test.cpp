@@ -35,6 +35,7 @@ TEST_F(Editing, TellsWhatHappensInOrder) {
     EXPECT_EQ(heard([&] { rows.setBookmark(1); }), "shown move");
     EXPECT_EQ(heard([&] { rows.setBookmark(7); }), "move");
     EXPECT_EQ(heard([&] { rows.update(); }), "collect");
+    EXPECT_EQ(heard([&] { rows.cancelUpdate(); }), "shown") << "nothing pending, but boxes may hold what was typed";
     EXPECT_EQ(heard([&] { rows.setValue(u"Seq"_s, 4); }), "will set:Seq");
     EXPECT_EQ(heard([&] { rows.setValue(u"Seq"_s, 5); }), "set:Seq");
     EXPECT_EQ(heard([&] { rows.cancelUpdate(); }), "will shown");
@@ -109,6 +110,26 @@ TEST_F(Editing, AChangeOfCaseAloneIsAConflictToo) {
     sql("UPDATE Person SET LegalName = 'a' WHERE ID = 1");
     rows.setValue(u"LegalName"_s, u"Ann"_s);
     EXPECT_EQ(errorOf([&] { rows.update(); }), -2147217864);
+}
+
+TEST_F(Editing, TextsThatAreNoPlainUtf8CompareAsTheyStand) {
+    sql("UPDATE Person SET LegalName = CAST(X'EFBBBF41' AS TEXT) WHERE ID = 1;"
+        "UPDATE Person SET LegalName = CAST(X'42FF43C3' AS TEXT) WHERE ID = 2;"
+        "UPDATE Person SET LegalName = CAST(X'EDA080F09F9880' AS TEXT) WHERE ID = 3");
+    Recordset rows, found;
+    open(rows, "Select * from Person Order By ID");
+    for (int id = 1; !rows.eof(); ++id, rows.moveNext()) {
+        const QString name = rows.value(u"LegalName"_s).toString();
+        found.open(u"Select ID from Person where LegalName = '"_s + name + u"'"_s, connection_);
+        EXPECT_EQ(found.value(u"ID"_s).toInt(), id);
+        found.close();
+        rows.setValue(u"LegalName"_s, QString(name + u"é"_s));
+        rows.update();
+    }
+    EXPECT_EQ(stored("SELECT group_concat(hex(LegalName)) FROM Person WHERE ID = 1"), u"EFBBBF41C3A9"_s);
+    // Written anew, what isn't text is none any more.
+    EXPECT_EQ(stored("SELECT hex(LegalName) FROM Person WHERE ID = 2"), u"423F433FC3A9"_s);
+    EXPECT_EQ(stored("SELECT hex(LegalName) FROM Person WHERE ID = 3"), u"3F3F3FF09F9880C3A9"_s);
 }
 
 TEST_F(Editing, SnapshotOutlivesWhatOtherStatementsDo) {
