@@ -37,7 +37,7 @@ QString MemoBox::text() const {
 }
 
 void MemoBox::setText(const QString& text) {
-    const QString cut = limit_ > 0 ? text.left(limit_) : text;
+    const QString cut = fitting(text);
     if (held_) {
         held_ = asRead(cut);
         return;

@@ -12,16 +12,33 @@ void TextControl::showValue(const QVariant& value, ColumnKind kind, const QStrin
     setText(displayText(value, kind, format));
 }
 
+QString TextControl::fitting(const QString& text) const {
+    const int limit = maxLength();
+    if (limit <= 0 || text.size() <= limit) return text;
+    const bool cutsPair = text[limit - 1].isHighSurrogate() && text[limit].isLowSurrogate();
+    return text.left(cutsPair ? limit - 1 : limit);
+}
+
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(0);
+    connect(this, &QLineEdit::textEdited, this, &TextBox::dropHalfCharacter);
+}
+
+void TextBox::dropHalfCharacter() {
+    // The line edit cuts what is typed or pasted at its length, also within a character.
+    const QString text = QLineEdit::text();
+    const int at = cursorPosition();
+    if (at == 0 || !text[at - 1].isHighSurrogate()) return;
+    if (at == text.size() || !text[at].isLowSurrogate()) backspace();
 }
 
 void TextBox::setText(const QString& text) {
+    const QString cut = fitting(text);
     if (held_) {
-        held_ = limit_ > 0 ? text.left(limit_) : text;
+        held_ = cut;
         return;
     }
-    if (text != QLineEdit::text()) QLineEdit::setText(text);
+    if (cut != QLineEdit::text()) QLineEdit::setText(cut);
     if (cursorPosition() != 0 || hasSelectedText()) setCursorPosition(0);
 }
 

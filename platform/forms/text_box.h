@@ -31,6 +31,8 @@ public:
     using TextControl::selectAll;
 
 private:
+    void dropHalfCharacter();
+
     int limit_ = 0;
     std::optional<QString> held_;
 };

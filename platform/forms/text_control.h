@@ -32,6 +32,10 @@ public:
     void selectAll() { select(0, static_cast<int>(text().size())); }
     void showValue(const QVariant& value, ColumnKind kind, const QString& format) override;
     [[nodiscard]] QVariant content() const override { return text(); }
+
+protected:
+    /// What of the text has room in the box; a character of two units stays whole or goes.
+    [[nodiscard]] QString fitting(const QString& text) const;
 };
 
 }  // namespace platform

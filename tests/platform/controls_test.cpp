@@ -121,6 +121,27 @@ TEST(TextBoxTest, CodeIsCutToTheLengthOfTheBox) {
     });
 }
 
+TEST(TextBoxTest, TheLengthOfABoxNeverCutsACharacterInHalf) {
+    withControls([] {
+        TextBox line;
+        MemoBox memo;
+        for (TextControl* box : {static_cast<TextControl*>(&line), static_cast<TextControl*>(&memo)}) {
+            box->setMaxLength(3);
+            box->setText(u"ab😀"_s);
+            EXPECT_EQ(box->text(), u"ab"_s);
+            box->setText(u"a😀b"_s);
+            EXPECT_EQ(box->text(), u"a😀"_s);
+        }
+        line.setText(u"ad"_s);
+        line.select(1, 0);
+        line.setSelText(u"😀"_s);
+        EXPECT_EQ(line.text(), u"ad"_s);
+        line.select(1, 1);
+        line.setSelText(u"😀"_s);
+        EXPECT_EQ(line.text(), u"a😀"_s);
+    });
+}
+
 TEST(BindingTest, AControlFollowsItsRow) {
     withControls([] {
         Row row;
