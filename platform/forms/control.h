@@ -24,13 +24,18 @@ public:
     void setName(const QString& name);
     [[nodiscard]] QString name();
     void setValidate(Validate validate) { validate_ = std::move(validate); }
-    [[nodiscard]] bool allowsLeaving() { return !validate_ || validate_(); }
+    /// Runs the check.
+    [[nodiscard]] bool allowsLeaving();
+    /// It has had the focus and hasn't passed its check since: another window can take the focus without one.
+    [[nodiscard]] bool isCheckDue() const { return checkDue_; }
+    void setCheckDue(bool due) { checkDue_ = due && validate_; }
 
     /// The control that a widget belongs to: itself or the nearest one around it; nullptr for none.
     [[nodiscard]] static Control* of(QWidget* widget);
 
 private:
     Validate validate_;
+    bool checkDue_ = false;
 };
 
 /// "txtFields" and 3 give "txtFields(3)".

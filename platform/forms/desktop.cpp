@@ -82,8 +82,8 @@ void Desktop::notice(const QString& text, const QString& title, Icon icon) {
     dialogs_->messageBox(text, icon, title, Buttons::Ok);
 }
 
-bool Desktop::ask(const QString& text, const QString& title) {
-    return dialogs_->messageBox(text, Icon::None, title, Buttons::YesNo) == Answer::Yes;
+bool Desktop::ask(const QString& text, const QString& title, Buttons buttons) {
+    return dialogs_->messageBox(text, Icon::None, title, buttons) == Answer::Yes;
 }
 
 bool Desktop::attempt(const QString& title, const std::function<void()>& routine) {

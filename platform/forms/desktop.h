@@ -59,7 +59,7 @@ public:
     /// Shows a notice, a refusal or, with its icon, a failure, and waits for it to be read.
     void notice(const QString& text, const QString& title, Icon icon = Icon::Information);
     /// Asks a question; true for Yes.
-    [[nodiscard]] bool ask(const QString& text, const QString& title);
+    [[nodiscard]] bool ask(const QString& text, const QString& title, Buttons buttons = Buttons::YesNo);
     /// Runs a routine that has an error title: a failure in it, of whatever kind, ends it and is shown under the title.
     /// True if it ran whole.
     bool attempt(const QString& title, const std::function<void()>& routine);

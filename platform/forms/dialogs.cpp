@@ -55,18 +55,23 @@ QMessageBox::Icon boxIcon(Icon icon) {
     }
 }
 
+QMessageBox::StandardButton presetButton(Buttons buttons) {
+    if (buttons == Buttons::Ok) return QMessageBox::Ok;
+    return buttons == Buttons::YesNo ? QMessageBox::Yes : QMessageBox::No;
+}
+
 }  // namespace
 
 Answer Dialogs::messageBox(const QString& text, Icon icon, const QString& title, Buttons buttons) {
-    Box box(buttons == Buttons::YesNo);
+    const bool asks = buttons != Buttons::Ok;
+    Box box(asks);
     box.setObjectName(u"MessageBox"_s);
     box.setTextFormat(Qt::PlainText);
     box.setText(text.left(longestText));
     box.setWindowTitle(title.isEmpty() ? Desktop::programTitle() : title);
     box.setIcon(boxIcon(icon));
-    box.setStandardButtons(buttons == Buttons::YesNo ? QMessageBox::Yes | QMessageBox::No
-                                                     : QMessageBox::StandardButtons(QMessageBox::Ok));
-    box.setDefaultButton(buttons == Buttons::YesNo ? QMessageBox::Yes : QMessageBox::Ok);
+    box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
+    box.setDefaultButton(presetButton(buttons));
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

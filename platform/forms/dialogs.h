@@ -9,7 +9,8 @@ class QFileDialog;
 namespace platform {
 
 enum class Icon { None, Information, Question, Critical };
-enum class Buttons { Ok, YesNo };
+/// NoYes: Yes and No as well, with No for the Enter key.
+enum class Buttons { Ok, YesNo, NoYes };
 enum class Answer { Ok, Yes, No };
 
 /// What the file dialog is asked; every call starts clean, with nothing left of an earlier one.

@@ -60,6 +60,10 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
             if (form->keyPreview()) desktop_.run([&] { form->Form_KeyUp(keyCode(key), shiftState(key)); });
             return false;
         }
+        case QEvent::FocusIn:
+            if (!receiver->isWidgetType()) return false;
+            if (Control* control = Control::of(static_cast<QWidget*>(receiver))) control->setCheckDue(true);
+            return false;
         case QEvent::InputMethod:
             if (receiver == QApplication::focusWidget())
                 textComposed(*static_cast<QWidget*>(receiver), static_cast<QInputMethodEvent&>(*event));

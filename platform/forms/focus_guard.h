@@ -16,7 +16,8 @@ class Form;
 /// checked before it loses the focus to another control of the same form.
 ///
 /// The mouse on a control that takes the focus, Tab and an accelerator lead away from a control; menus, toolbars, other
-/// forms and the host's panel don't. When the check holds the focus, what caused the move is dropped.
+/// forms and the host's panel don't, and leave the check due (Form::passesChecks). When the check holds the focus, what
+/// caused the move is dropped.
 class FocusGuard : public QObject {
     Q_OBJECT
 

@@ -64,6 +64,30 @@ Control* Form::activeControl() {
     return Control::of(window().focusWidget());
 }
 
+std::vector<Control*> Form::controlsToCheck() {
+    std::vector<Control*> due;
+    for (QWidget* widget : window().findChildren<QWidget*>()) {
+        auto* control = dynamic_cast<Control*>(widget);
+        if (control && control->isCheckDue() && Form::of(widget) == this) due.push_back(control);
+    }
+    return due;
+}
+
+bool Form::passesChecks() {
+    for (Control* control : controlsToCheck()) {
+        if (control->allowsLeaving()) continue;
+        control->widget().setFocus();
+        return false;
+    }
+    return true;
+}
+
+void Form::forgetChecks() {
+    const Control* active = activeControl();
+    for (Control* control : controlsToCheck())
+        control->setCheckDue(control == active);
+}
+
 std::function<void()> Form::handler(std::function<void()> routine) {
     return [this, routine = std::move(routine)] { desktop_.run(routine); };
 }

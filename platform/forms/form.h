@@ -45,6 +45,10 @@ public:
     [[nodiscard]] Control* control(const QString& name);
     /// The control that has the form's focus; nullptr if none has.
     [[nodiscard]] Control* activeControl();
+    /// Runs every check that is due; false, with the focus in its control, at the first that fails.
+    [[nodiscard]] bool passesChecks();
+    /// What stands in the controls is none of the user's entries any more; the active one is checked when it is left.
+    void forgetChecks();
     /// The menus that stand in the host's bar while this form is the active one.
     [[nodiscard]] const std::vector<QMenu*>& menus() const { return menus_; }
 
@@ -69,6 +73,7 @@ protected:
 
 private:
     friend class Desktop;
+    [[nodiscard]] std::vector<Control*> controlsToCheck();
 
     Desktop& desktop_;
     QString name_;
