@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QMenu>
 #include <QScreen>
+#include <algorithm>
 
 #include "app/about_dialog.h"
 #include "app/help_viewer.h"
@@ -166,8 +167,14 @@ void MDIHost::cbPerson_Click() {
             session::showScreenChanges(desktop());
             return;
         }
+        const Selection before = selection();
         if (!acceptSelection()) {
             refuseSelection();
+            return;
+        }
+        if (!windowsAgreeToClose()) {
+            // A window that was opened for one member doesn't stand under another.
+            putBack(before);
             return;
         }
         desktop().unloadAll([](const platform::Form& form) { return form.name() != formName(); });
@@ -189,6 +196,18 @@ bool MDIHost::acceptSelection() {
     session_.gbWholeFamily = session_.gsPersonName == wholeFamily && session_.gPersonID == 0;
     if (session_.gbWholeFamily) tvTree().setEnabled(true);
     return session_.gsPersonName == wholeFamily || session_.gPersonID != 0;
+}
+
+MDIHost::Selection MDIHost::selection() const {
+    return {session_.gsPersonName, session_.gPersonID, session_.gbWholeFamily, tvTree().isEnabled()};
+}
+
+void MDIHost::putBack(const Selection& selection) {
+    session_.gsPersonName = selection.name;
+    session_.gPersonID = selection.id;
+    session_.gbWholeFamily = selection.wholeFamily;
+    enableTree(selection.treeEnabled);
+    setSelectedName(selection.name);
 }
 
 void MDIHost::refuseSelection() {
@@ -256,7 +275,9 @@ qint64 MDIHost::count(const QString& counted) {
 }
 
 session::DataWindow* MDIHost::touch(const QString& name) {
-    if (platform::Form* loaded = desktop().find(name)) return dynamic_cast<session::DataWindow*>(loaded);
+    if (auto* loaded = dynamic_cast<session::DataWindow*>(desktop().find(name))) {
+        if (!loaded->loadFailed() || !loaded->unload()) return loaded;
+    }
     std::unique_ptr<session::DataWindow> window = makeWindow(name, desktop(), session_, *this);
     return window ? &desktop().load(std::move(window)) : nullptr;
 }
@@ -278,14 +299,11 @@ void MDIHost::openChild(const QString& window, const QString& table, const sessi
     }
     if (platform::Form* open = desktop().find(window)) {
         if (!open->unload()) return;
-        // It may have stood in an add.
-        enableTree(true);
-        enableAddMember(true);
     }
     auto* child = static_cast<screens::ChildScreen*>(touch(window));
     child->setParentRow(request);
     session::setFormAccess(*child, session_.gbCanEdit);
-    child->ShowMe();
+    child->fill();
     child->show();
 }
 
@@ -359,7 +377,7 @@ void MDIHost::showOutbuildingsScreen(const session::ChildRequest& request) {
 }
 
 void MDIHost::showCoverPage() {
-    touch(u"frmCoverPage"_s)->ShowMe();
+    touch(u"frmCoverPage"_s)->fill();
 }
 
 void MDIHost::showAttachments(const QString& ownerName) {
@@ -386,22 +404,32 @@ void MDIHost::exitProgram() {
     closeHost();
 }
 
-bool MDIHost::mayGoDown() {
-    auto* active = dynamic_cast<session::DataWindow*>(activeForm());
-    const bool asks = !onlyHelpIsOpen() && desktop().count() > 1 && tvTree().isEnabled() && active && active->bChange;
-    if (asks) {
-        bool changed = active->bChange;
-        if (!session::closeConfirm(desktop(), session_, changed)) return false;
-        active->bChange = false;
-    }
+std::vector<platform::Form*> MDIHost::windowsToAsk() {
+    std::vector<platform::Form*> windows;
     for (int i = desktop().count() - 1; i >= 0; --i) {
-        if (&desktop().at(i) != this && !desktop().at(i).agreesToClose()) return false;
+        if (&desktop().at(i) != this) windows.push_back(&desktop().at(i));
     }
-    return true;
+    const bool asksActiveFirst = !onlyHelpIsOpen() && tvTree().isEnabled() && activeHasChanges();
+    if (asksActiveFirst) windows.insert(windows.begin(), activeForm());
+    return windows;
+}
+
+bool MDIHost::windowsAgreeToClose() {
+    const std::vector<platform::Form*> windows = windowsToAsk();
+    std::vector<session::DataWindow*> changed;
+    for (platform::Form* form : windows) {
+        auto* window = dynamic_cast<session::DataWindow*>(form);
+        if (window && window->bChange) changed.push_back(window);
+    }
+    if (std::ranges::all_of(windows, &platform::Form::agreesToClose)) return true;
+    // A Yes counts only when all of them go: the windows stay, and so does what is typed in them.
+    for (session::DataWindow* window : changed)
+        window->bChange = true;
+    return false;
 }
 
 void MDIHost::closeHost() {
-    if (isLoaded() && mayGoDown()) leave();
+    if (isLoaded() && windowsAgreeToClose()) leave();
 }
 
 void MDIHost::Form_Unload() {

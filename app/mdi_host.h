@@ -73,12 +73,22 @@ protected:
     void closeHost() override;
 
 private:
+    /// Who is selected, and whether the tree may be used.
+    struct Selection {
+        QString name;
+        qint16 id = 0;
+        bool wholeFamily = false;
+        bool treeEnabled = false;
+    };
+
     void makeMenus();
     void connectControls();
     void cbPerson_Click();
     /// Sets the session's member from the selector's text; false when it matches nobody.
     [[nodiscard]] bool acceptSelection();
     void refuseSelection();
+    [[nodiscard]] Selection selection() const;
+    void putBack(const Selection& selection);
     void cmdAddNew_Click();
     void picture1_Click();
     void mFamilySequence_Click();
@@ -86,7 +96,10 @@ private:
     /// A window is loaded besides the host (the owner of the help isn't one), and the active one holds changes.
     [[nodiscard]] bool leavesChanges() const;
     [[nodiscard]] bool onlyHelpIsOpen() const;
-    [[nodiscard]] bool mayGoDown();
+    /// Every window but the host, in the order in which they are asked whether they may close.
+    [[nodiscard]] std::vector<platform::Form*> windowsToAsk();
+    /// Asks where there is something to lose; false, and nothing is forgotten, when one window stays.
+    [[nodiscard]] bool windowsAgreeToClose();
 
     session::Session& session_;
     HostPanel* panel_;

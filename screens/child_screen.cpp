@@ -1,6 +1,6 @@
 #include "screens/child_screen.h"
 
-#include "platform/forms/text_control.h"
+#include "platform/forms/text_box.h"
 #include "session/session.h"
 #include "session/workspace.h"
 
@@ -20,14 +20,21 @@ ChildScreen::ChildScreen(platform::Desktop& desktop, session::Session& session, 
       txtParentID_(*this, u"txtParentID"_s, u"ParentID"_s),
       txtOwnerID_(*this, u"txtOwnerID"_s, QString()) {
     makeKeyBox();
+    connect(&static_cast<platform::TextBox&>(boxes().text(locationBox)), &QLineEdit::textChanged, this,
+            &ChildScreen::keepLocation);
 }
 
 void ChildScreen::setParentRow(const session::ChildRequest& request) {
     setCaption(request.title);
-    boxes().text(locationBox).setText(request.location);
+    location_ = request.location;
+    keepLocation();
     txtParentID_.setNumber(request.parentID);
     txtOwnerID_.setNumber(request.ownerID);
     txtTypeID_.setNumber(request.typeID);
+}
+
+void ChildScreen::keepLocation() {
+    boxes().text(locationBox).setText(location_);
 }
 
 void ChildScreen::ShowMe() {

@@ -25,10 +25,13 @@ protected:
 
 private:
     void showOwner();
+    /// The site's description, whatever is typed over it.
+    void keepLocation();
 
     // Which rows hang where stands in the boxes while a row is on screen, and here while none is.
     int typeID_ = 0;
     int parentID_ = 0;
+    QString location_;
     HiddenBox txtTypeID_;
     HiddenBox txtParentID_;
     HiddenBox txtOwnerID_;

@@ -151,9 +151,11 @@ void FieldBoxes::bindCombos(platform::RecordSource* rows) {
         combo.binding->setSource(rows);
 }
 
-void FieldBoxes::writeCombos(platform::RecordSource& rows) const {
-    for (const Combo& combo : combos_)
-        rows.setValue(combo.column->name, combo.box->text());
+void FieldBoxes::writeCombos(platform::RecordSource& rows, bool isNew) const {
+    for (const Combo& combo : combos_) {
+        const bool speaks = isNew || combo.binding->isBound() || !combo.box->text().isEmpty();
+        if (speaks) rows.setValue(combo.column->name, combo.box->text());
+    }
 }
 
 void FieldBoxes::writeDates(platform::RecordSource& rows) const {

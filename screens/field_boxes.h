@@ -73,8 +73,9 @@ public:
     void bind(platform::RecordSource* rows);
     void bindDates(platform::RecordSource* rows);
     void bindCombos(platform::RecordSource* rows);
-    /// Sets each combo's column to its text.
-    void writeCombos(platform::RecordSource& rows) const;
+    /// Sets each combo's column to its text. On a row that is there already, an empty combo that never showed the row's
+    /// value (its load failed) writes nothing.
+    void writeCombos(platform::RecordSource& rows, bool isNew) const;
     /// Sets each date box's column to its text, or to a null if it is empty, and leaves the box bound. A text that is
     /// no date writes nothing.
     void writeDates(platform::RecordSource& rows) const;

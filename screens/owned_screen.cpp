@@ -17,6 +17,7 @@ namespace screens {
 
 namespace {
 constexpr int ownerShadow = 0;
+const QString ownerDeleted = u"Owner has been deleted."_s;
 }  // namespace
 
 OwnedScreen::OwnedScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
@@ -31,7 +32,7 @@ OwnedScreen::OwnedScreen(platform::Desktop& desktop, session::Session& session, 
 void OwnedScreen::Form_Load() {
     if (definition().readsWhenShown) return;
     if (definition().reportsLoadFailure) {
-        desktop().attempt(u"Form Load Error"_s, [this] { loadRows(); });
+        attemptLoad([this] { loadRows(); });
     } else {
         loadRows();
     }
@@ -85,22 +86,14 @@ void OwnedScreen::showOwner(const QString& name) {
     boxes().text(ownerShadow).setText(name);
 }
 
-// Add and edit -----------------------------------------------------------------------------------------------------
+// Add --------------------------------------------------------------------------------------------------------------
 
 void OwnedScreen::beginAdd() {
     owner().setLocked(false);
-    sSavedName_ = workspace().defaultOwner();
-    if (!owner().text().isEmpty()) {
-        sSavedName_ = owner().text();
-        sCancelName_ = sSavedName_;
-    }
+    sSavedName_ = owner().text().isEmpty() ? workspace().defaultOwner() : owner().text();
     session::fillWithNames(desktop(), session().gConnection, owner());
     owner().setText(sSavedName_);
     RecordScreen::beginAdd();
-}
-
-void OwnedScreen::beginEdit() {
-    sCancelName_ = owner().text();
 }
 
 // Save -------------------------------------------------------------------------------------------------------------
@@ -131,17 +124,21 @@ void OwnedScreen::showAfterAdd() {
 }
 
 void OwnedScreen::restoreOwnerName() {
+    // The name chosen for the new row is none of the first row's, which is on screen: a save would make it its owner.
+    const QString chosen = owner().text();
+    showOwner(QString());
     lookUp(u"Select LegalName from Person where ID ="_s + txtOwnerID_.text());
     if (!rsLookup().eof()) {
         const QVariant name = rsLookup().value(u"LegalName"_s);
         if (name.isNull()) {
             desktop().notice(u"Invalid name in database."_s);
+            showOwner(ownerDeleted);
         } else {
             sSavedName_ = name.toString();
             showOwner(sSavedName_);
         }
     }
-    if (sSavedName_.isEmpty()) sSavedName_ = owner().text();
+    if (sSavedName_.isEmpty()) sSavedName_ = chosen;
 }
 
 void OwnedScreen::finishSave() {
@@ -151,7 +148,12 @@ void OwnedScreen::finishSave() {
 // Cancel and delete ------------------------------------------------------------------------------------------------
 
 void OwnedScreen::finishCancel() {
-    owner().setText(sCancelName_);
+    // The record on screen need not be the one that was added or edited.
+    if (txtOwnerID_.isNumeric()) {
+        updateName();
+    } else {
+        showOwner(QString());
+    }
     owner().setLocked(true);
 }
 
@@ -165,12 +167,16 @@ void OwnedScreen::deleteRecord() {
 void OwnedScreen::updateName() {
     // A walk comes by the records owner by owner.
     if (walking() && txtOwnerID_.text() == walkedOwner_) return;
-    walkedOwner_ = walking() ? txtOwnerID_.text() : QString();
-    desktop().attempt(u"UpdateName Error"_s, [this] {
-        lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
-        const QVariant name = rsLookup().eof() ? QVariant() : rsLookup().value(u"LegalName"_s);
-        showOwner(name.isNull() ? u"Owner has been deleted."_s : name.toString());
-    });
+    QString name;
+    const bool found = desktop().attempt(u"UpdateName Error"_s, [&] { name = lookUpName(); });
+    showOwner(name);
+    walkedOwner_ = walking() && found ? txtOwnerID_.text() : QString();
+}
+
+QString OwnedScreen::lookUpName() {
+    lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
+    const QVariant name = rsLookup().eof() ? QVariant() : rsLookup().value(u"LegalName"_s);
+    return name.isNull() ? ownerDeleted : name.toString();
 }
 
 void OwnedScreen::goFirst() {

@@ -29,7 +29,6 @@ protected:
     virtual void bindKeys();
 
     void beginAdd() override;
-    void beginEdit() override;
     [[nodiscard]] QString requiredName() const override;
     void prepareSave() override;
     void showAfterAdd() override;
@@ -53,16 +52,17 @@ protected:
 
 private:
     void loadOwner();
-    /// Sets the owner's name from the row's PersonID.
+    /// Sets the owner's name from the row's PersonID; to nothing, after showing why, when it can't be looked up: a save
+    /// makes the row that member's whose name stands here.
     void updateName();
+    /// The name of the member whose row it is, or that he has been deleted.
+    [[nodiscard]] QString lookUpName();
     void showOwner(const QString& name);
 
     HiddenBox txtOwnerID_;
     /// PersonID of the owner shown last in a walk through all records.
     QString walkedOwner_;
     QString sSavedName_;
-    /// What Cancel puts back: the owner when Add or Edit was pressed.
-    QString sCancelName_;
 };
 
 }  // namespace screens

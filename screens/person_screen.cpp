@@ -1,5 +1,7 @@
 #include "screens/person_screen.h"
 
+#include <QScopeGuard>
+
 #include "data/person_deletion.h"
 #include "output/record_output.h"
 #include "platform/forms/check_box.h"
@@ -39,7 +41,7 @@ QString PersonScreen::selectStatement() {
 }
 
 void PersonScreen::Form_Load() {
-    desktop().attempt(u"Form Load Error"_s, [this] {
+    attemptLoad([this] {
         openRows(selectStatement());
         bindBoxes();
         fillStateCombos();
@@ -94,6 +96,20 @@ void PersonScreen::finishSave() {
 }
 
 // Delete -----------------------------------------------------------------------------------------------------------
+
+bool PersonScreen::confirmsDelete() {
+    if (!RecordScreen::confirmsDelete()) return false;
+    // The moves lead the session's member by his number, whoever is on screen.
+    if (rows().value(u"ID"_s).toLongLong() == session().gPersonID) return true;
+    return desktop().ask(u"The records that will be deleted with this member are those of "_s + doomedName() +
+                             u", not those of "_s + legalName() + u".  Do you want to continue?"_s,
+                         u"Delete Confirmation"_s, platform::Buttons::NoYes);
+}
+
+QString PersonScreen::doomedName() {
+    lookUp(u"Select LegalName from Person where ID = "_s + QString::number(session().gPersonID));
+    return rsLookup().eof() ? u"a member who is no longer there"_s : rsLookup().value(u"LegalName"_s).toString();
+}
 
 QString PersonScreen::deleteQuestion() {
     return u"Are you sure you want to delete "_s + legalName() + u"?"_s;
@@ -154,6 +170,17 @@ void PersonScreen::goPrevious() {
 
 QString PersonScreen::moveCompleteTitle() const {
     return u"Move Complete Error"_s;
+}
+
+void PersonScreen::walkAll(const std::function<void()>& visit) {
+    const qint16 person = session().gPersonID;
+    const auto goesBack = qScopeGuard([&] {
+        if (session().gbWholeFamily) return;
+        // The walk would leave the first of all members selected under the view of another.
+        setPerson(person);
+        setAttachKey();
+    });
+    RecordScreen::walkAll(visit);
 }
 
 // Close ------------------------------------------------------------------------------------------------------------

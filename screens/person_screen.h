@@ -27,6 +27,7 @@ protected:
     [[nodiscard]] bool readyToSave() override;
     [[nodiscard]] bool finishAdd() override;
     void finishSave() override;
+    [[nodiscard]] bool confirmsDelete() override;
     [[nodiscard]] QString deleteQuestion() override;
     void deleteRecord() override;
     void goFirst() override;
@@ -37,9 +38,12 @@ protected:
     void cmdClose_Click() override;
     [[nodiscard]] bool validates(int box) override;
     [[nodiscard]] output::SaveAllRequest saveAllRequest() override;
+    void walkAll(const std::function<void()>& visit) override;
 
 private:
     [[nodiscard]] QString selectStatement();
+    /// Whose records go with the session's member: his legal name, or that he is no longer there.
+    [[nodiscard]] QString doomedName();
     [[nodiscard]] bool sexIsValid();
     [[nodiscard]] bool socialSecurityIsValid();
     /// The member that the session goes on with after a move, whichever row is on screen.

@@ -31,23 +31,37 @@ void RecordScreen::printRecord() {
     output::createPrintDoc(desktop(), printable());
 }
 
-void RecordScreen::mPrintAll_Click() {
+bool RecordScreen::hasRecord() {
+    if (rows_.hasCurrentRow()) return true;
+    desktop().beep();
+    return false;
+}
+
+bool RecordScreen::mayWalk() {
     if (bChange) {
         session::showScreenChanges(desktop());
-        return;
+        return false;
     }
-    walkAll([this] { printRecord(); });
+    if (rows_.recordCount() > 0) return true;
+    desktop().beep();
+    return false;
+}
+
+void RecordScreen::mPrint_Click() {
+    if (hasRecord()) printRecord();
+}
+
+void RecordScreen::mPrintAll_Click() {
+    if (mayWalk()) walkAll([this] { printRecord(); });
 }
 
 void RecordScreen::mSave_Click() {
+    if (!hasRecord()) return;
     output::saveFile(desktop(), session().applicationFolder, [this] { return printable(); });
 }
 
 void RecordScreen::mSaveAll_Click() {
-    if (bChange) {
-        session::showScreenChanges(desktop());
-        return;
-    }
+    if (!mayWalk()) return;
     output::saveAll(
         desktop(), saveAllRequest(), [this](const std::function<void()>& visit) { walkAllUnseen(visit); },
         [this] { return printable(); });
@@ -66,8 +80,8 @@ void RecordScreen::walkAll(const std::function<void()>& visit) {
     bool goesOn = true;
     while (goesOn) {
         visit();
-        // A screen without rows never comes to its last one, nor does one whose rows can't be read any more.
-        goesOn = cmdNext_Click() && !bLastRecord_ && rows_.recordCount() > 0;
+        // A screen whose rows can't be read any more never comes to its last one.
+        goesOn = cmdNext_Click() && !bLastRecord_;
     }
     cmdFirst_Click();
 }

@@ -223,11 +223,13 @@ void RecordScreen::cmdEdit_Click() {
 
 void RecordScreen::cmdUpdate_Click() {
     desktop().attempt(u"Update Error"_s, [this] {
-        if (!readyToSave()) return;
+        if (!readyToSave() || !passesChecks()) return;
         prepareSave();
-        boxes_.writeCombos(rows_);
+        boxes_.writeCombos(rows_, bAdding_);
         boxes_.writeDates(rows_);
         rows_.updateBatch();
+        // A text that was typed into a combo, and not picked, comes to its shadow here.
+        boxes_.copyShadows();
         if (bAdding_) {
             if (!finishAdd()) return;
         } else if (bEditing_) {
@@ -290,7 +292,11 @@ void RecordScreen::cmdCancel_Click() {
     finishCancel();
     boxes_.bindDates(nullptr);
     bChange = false;
-    if (rows_.recordCount() == 0) unload();
+    if (rows_.recordCount() == 0) {
+        unload();
+    } else {
+        setAttachKey();
+    }
 }
 
 // Delete -----------------------------------------------------------------------------------------------------------
@@ -298,12 +304,16 @@ void RecordScreen::cmdCancel_Click() {
 void RecordScreen::cmdDelete_Click() {
     desktop().attempt(u"Delete Error"_s, [this] {
         if (!mayChange()) return;
-        if (!desktop().ask(deleteQuestion(), u"Delete Confirmation"_s)) return;
+        if (!confirmsDelete()) return;
         boxes_.bindDates(&rows_);
         deleteRecord();
         boxes_.bindDates(nullptr);
         bChange = false;
     });
+}
+
+bool RecordScreen::confirmsDelete() {
+    return desktop().ask(deleteQuestion(), u"Delete Confirmation"_s);
 }
 
 QString RecordScreen::deleteQuestion() {
@@ -312,6 +322,7 @@ QString RecordScreen::deleteQuestion() {
 
 void RecordScreen::deleteCurrentRow() {
     rows_.deleteCurrent();
+    rowDeleted();
     rows_.moveNext();
     bChange = false;
     if (rows_.eof()) rows_.moveLast();
@@ -381,6 +392,7 @@ void RecordScreen::goPrevious() {
 void RecordScreen::moveComplete() {
     boxes_.clearUnstored();
     boxes_.copyShadows();
+    forgetChecks();
     showPosition();
 }
 
@@ -402,6 +414,10 @@ bool RecordScreen::confirmsClosing() {
 
 void RecordScreen::Form_Unload() {
     desktop().setPointer(platform::Pointer::Default);
+    if (isBrowsing()) return;
+    // Whichever way the window goes, what its add or edit has taken from the host comes back.
+    workspace().enableTree(true);
+    workspace().enableAddMember(true);
 }
 
 // Keys -------------------------------------------------------------------------------------------------------------
@@ -425,6 +441,7 @@ bool RecordScreen::validates(int box) {
 
 void RecordScreen::mAttachments_Click() {
     desktop().attempt(u"Attachments Error"_s, [this] {
+        if (!hasRecord()) return;
         session().gvAttachKey = attachKey();
         // The first box holds the name that the record goes by, the owner's where there is one.
         workspace().showAttachments(boxes_.text(0).text());

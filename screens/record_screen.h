@@ -74,10 +74,14 @@ protected:
     void cmdCancel_Click();
     virtual void finishCancel() {}
     void cmdDelete_Click();
+    /// Asks whether the record on screen is to go.
+    [[nodiscard]] virtual bool confirmsDelete();
     [[nodiscard]] virtual QString deleteQuestion();
     virtual void deleteRecord() { deleteCurrentRow(); }
     /// Deletes the row on screen and goes on to its neighbour; fails when none is left.
     void deleteCurrentRow();
+    /// The row on screen has gone from the file, and the screen hasn't gone on yet.
+    virtual void rowDeleted() {}
 
     // Moves. Each ends with what the record on screen means to the session.
     void cmdFirst_Click();
@@ -108,7 +112,7 @@ protected:
     /// What the boxes and check boxes show at this moment.
     [[nodiscard]] output::PrintableScreen printable();
     virtual void printRecord();
-    void mPrint_Click() { printRecord(); }
+    void mPrint_Click();
     void mPrintAll_Click();
     void mSave_Click();
     void mSaveAll_Click();
@@ -122,6 +126,8 @@ protected:
     virtual void setButtons(bool browsing);
     /// Opens the child screen of a kind that the entry offers.
     virtual void showChild(ChildKind /*kind*/) {}
+    /// Shows each record from the first through the last and visits it there, then goes back to the first.
+    virtual void walkAll(const std::function<void()>& visit);
     /// Opens the look-up recordset anew; it stays open.
     void lookUp(const QString& statement);
 
@@ -149,9 +155,11 @@ private:
     [[nodiscard]] QString attachKey() const;
     /// False when the move failed.
     bool move(const QString& errorTitle, void (RecordScreen::*step)());
-    /// Shows each record from the first through the last and visits it there, then goes back to the first.
-    void walkAll(const std::function<void()>& visit);
-    /// The same without drawing what is visited: only its texts are wanted.
+    /// False, with a beep, when there is no record to put out or to attach to: the last one was deleted.
+    [[nodiscard]] bool hasRecord();
+    /// True if all records may be put out one after the other; tells what speaks against it.
+    [[nodiscard]] bool mayWalk();
+    /// walkAll without drawing what is visited: only its texts are wanted.
     void walkAllUnseen(const std::function<void()>& visit);
 
     const ScreenDefinition& definition_;

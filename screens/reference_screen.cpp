@@ -58,6 +58,10 @@ void ReferenceScreen::finishSave() {
     fillSelector();
 }
 
+void ReferenceScreen::rowDeleted() {
+    desktop().attempt(u"Delete Error"_s, [this] { fillSelector(); });
+}
+
 void ReferenceScreen::cbSelect_Click() {
     if (bChange || !isBrowsing()) {
         session::showScreenChanges(desktop());

@@ -17,6 +17,7 @@ public:
 
 protected:
     void finishSave() override;
+    void rowDeleted() override;
 
 private:
     void fillSelector();

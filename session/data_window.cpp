@@ -1,11 +1,15 @@
 #include "session/data_window.h"
 
+#include <QScopeGuard>
+
 #include "platform/forms/desktop.h"
 #include "session/clipboard_commands.h"
 #include "session/refusals.h"
 #include "session/session.h"
 #include "session/window_menus.h"
 #include "session/workspace.h"
+
+using namespace Qt::StringLiterals;
 
 namespace session {
 
@@ -14,6 +18,16 @@ DataWindow::DataWindow(platform::Desktop& desktop, Session& session, Workspace& 
 
 void DataWindow::Form_QueryUnload(bool& cancel) {
     cancel = !closeConfirm(desktop(), session_, bChange);
+}
+
+void DataWindow::fill() {
+    auto goes = qScopeGuard([this] { leave(); });
+    ShowMe();
+    goes.dismiss();
+}
+
+void DataWindow::attemptLoad(const std::function<void()>& load) {
+    loadFailed_ = !desktop().attempt(u"Form Load Error"_s, load);
 }
 
 bool DataWindow::mayChange() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/forms/form_window.h"
 
 namespace session {
@@ -19,20 +21,28 @@ public:
     bool bChange = false;
 
     void Form_QueryUnload(bool& cancel) override;
-    /// Reads the rows of a window that doesn't read them while it loads; the host calls it right before it shows one.
+    /// Reads the rows of a window that doesn't read them while it loads.
     virtual void ShowMe() {}
+    /// ShowMe, right before the host shows the window. One whose rows can't be read goes, so that the next try makes it
+    /// anew; the failure goes to the caller.
+    void fill();
+    /// It came up without all of its parts; the host makes it anew when it is asked for again.
+    [[nodiscard]] bool loadFailed() const { return loadFailed_; }
 
 protected:
     [[nodiscard]] Session& session() const { return session_; }
     [[nodiscard]] Workspace& workspace() const { return workspace_; }
     /// False, after telling why, in a session that may change nothing.
     [[nodiscard]] virtual bool mayChange();
+    /// Runs a load that shows its failure itself and leaves the window as far as it has come.
+    void attemptLoad(const std::function<void()>& load);
     /// The commands that are the same in every data window.
     [[nodiscard]] WindowCommands commonCommands();
 
 private:
     Session& session_;
     Workspace& workspace_;
+    bool loadFailed_ = false;
 };
 
 }  // namespace session

@@ -139,12 +139,50 @@ TEST_F(Host, AWindowWithChangesBehindTheActiveOneIsAskedAboutAndStaysOnNo) {
     select(u"Bob Larkin"_s);
     EXPECT_EQ(boxTitle(), u"Close Confirmation"_s);
     user.answer(u"No"_s);
-    EXPECT_TRUE(forms().contains(u"frmCDs"_s));
+    EXPECT_EQ(forms(), (QStringList{u"MDIHost"_s, u"frmKinbook"_s, u"frmCDs"_s}));
     EXPECT_EQ(user.text(u"frmCDs.txtFields(1)"_s), u"Q"_s);
+    // What was opened for the one doesn't stand under the other.
+    EXPECT_EQ(person(), u"1 'Ann Larkin' one"_s);
+    EXPECT_EQ(user.text(selector), u"Ann Larkin"_s);
     user.close();
     EXPECT_EQ(boxTitle(), u"Close Confirmation"_s);
     user.answer(u"Yes"_s);
     EXPECT_FALSE(running());
+}
+
+TEST_F(Host, AYesForOneWindowCountsOnlyWhenNoOtherStays) {
+    addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s});
+    exec(u"INSERT INTO CDs (PersonID) VALUES (1)"_s);
+    exec(u"INSERT INTO Bonds (PersonID) VALUES (1)"_s);
+    user.start();
+    select(u"Ann Larkin"_s);
+    for (const QString& node : {u"CDs"_s, u"Bonds"_s}) {
+        openNode(node);
+        user.click(u"txtFields(1)"_s);
+        user.type(u"Q"_s);
+        // Back to the window before, which doesn't ask about changes.
+        user.key(u"Ctrl+Tab"_s);
+        ASSERT_EQ(activeWindow(), u"frmKinbook"_s);
+    }
+    for (const bool closes : {true, false, true}) {
+        if (closes) {
+            user.close();
+        } else {
+            select(u"Whole Family"_s);
+        }
+        for (const QString& answer : {u"Yes"_s, u"No"_s}) {
+            EXPECT_EQ(boxTitle(), u"Close Confirmation"_s);
+            user.answer(answer);
+        }
+        EXPECT_EQ(boxTitle(), QString());
+        EXPECT_EQ(forms().size(), 4);
+        EXPECT_EQ(person(), u"1 'Ann Larkin' one"_s);
+    }
+    select(u"Whole Family"_s);
+    user.answer(u"Yes"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(forms(), (QStringList{u"MDIHost"_s, u"frmKinbook"_s}));
+    EXPECT_EQ(person(), u"1 'Whole Family' whole"_s);
 }
 
 TEST_F(Host, AnEleventhFormIsRefusedAlsoForAWindowThatIsOpen) {

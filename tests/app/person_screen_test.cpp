@@ -47,6 +47,7 @@ TEST_F(PersonScreen, TheFirstMemberIsKeptAndFoundAgainAtTheNextStart) {
     EXPECT_EQ(status(), u"Record: 1 of 1"_s);
     EXPECT_EQ(user.text(u"MDIHost.cmdAddNew"_s), u"E&nter Another Family Member"_s);
     EXPECT_EQ(image(u"Birth"_s), 2);
+    EXPECT_TRUE(user.control(u"MDIHost.cbPerson"_s)["enabled"_L1].toBool());
     EXPECT_EQ(
         cell(u"SELECT Seq||'|'||LegalName||'|'||BirthDate||'|'||Sex||'|'||SocSecNum||'|'||BirthState||'|'||WasAdopted "
              "FROM Person"_s),
@@ -140,11 +141,19 @@ TEST_F(PersonScreen, MovesKeepTheMemberByIDWhateverRowIsShown) {
     EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
     EXPECT_EQ(personID(), 2);
     EXPECT_EQ(user.session()["gvAttachKey"_L1].toString(), u"Kbk_2_0"_s);
-    user.key(u"Ctrl+PageDown"_s);
-    user.forgetNoises();
-    user.key(u"Down"_s);
-    EXPECT_EQ(user.state()["beeps"_L1].toInt(), 1);
-    EXPECT_EQ(status(), u"Record: 3 of 3"_s);
+    struct End {
+        QString ctrl, plain, status;
+        int person;
+    };
+    for (const End& end : {End{u"Ctrl+PageDown"_s, u"Down"_s, u"Record: 3 of 3"_s, 3},
+                           End{u"Ctrl+PageUp"_s, u"Up"_s, u"Record: 1 of 3"_s, 1}}) {
+        user.key(end.ctrl);
+        user.forgetNoises();
+        user.key(end.plain);
+        EXPECT_EQ(user.state()["beeps"_L1].toInt(), 1);
+        EXPECT_EQ(status(), end.status);
+        EXPECT_EQ(personID(), end.person);
+    }
     // In the view of one member the moves still change it.
     user.pick(u"MDIHost.cbPerson"_s, u"Bob Larkin"_s);
     user.click(u"cmdNext"_s);
@@ -178,6 +187,58 @@ TEST_F(PersonScreen, DeletingTakesTheMembersRowsAndEndsInAnErrorInTheViewOfOne) 
     user.answer(u"Yes"_s);
     EXPECT_EQ(status(), u"Record: 1 of 1"_s);
     EXPECT_FALSE(names().contains(u"Cy Larkin"_s));
+}
+
+TEST_F(PersonScreen, DeletingAsksAgainWhenOtherRecordsThanThoseOnScreenWouldGo) {
+    addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s});
+    exec(u"INSERT INTO CDs (PersonID) VALUES (1), (2), (3)"_s);
+    user.start();
+    user.pick(u"MDIHost.cbPerson"_s, u"Bob Larkin"_s);
+    // In the view of one member the moves lead to the first and the last of all.
+    user.click(u"cmdNext"_s);
+    user.click(u"cmdDelete"_s);
+    EXPECT_EQ(boxText(), u"Are you sure you want to delete Bob Larkin?"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(boxTitle(), u"Delete Confirmation"_s);
+    EXPECT_EQ(boxText(),
+              u"The records that will be deleted with this member are those of Cy Larkin, not those of Bob Larkin.  Do "
+              "you want to continue?"_s);
+    user.key(u"Return"_s);
+    EXPECT_EQ(boxTitle(), QString());
+    EXPECT_EQ(cell(u"SELECT group_concat(PersonID) FROM CDs"_s), u"1,2,3"_s);
+    EXPECT_EQ(cell(u"SELECT count(*) FROM Person"_s), u"3"_s);
+
+    exec(u"DELETE FROM Person WHERE ID = 3"_s);
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_TRUE(boxText().contains(u"are those of a member who is no longer there, not those of Bob Larkin.  Do"_s));
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(dismissBox(), u"Delete Error"_s);
+    EXPECT_EQ(cell(u"SELECT group_concat(PersonID) FROM CDs"_s), u"1,2"_s);
+    EXPECT_EQ(cell(u"SELECT group_concat(LegalName) FROM Person"_s), u"Ann Larkin"_s);
+    // Nobody is on screen any more, so nobody's records go.
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(dismissBox(), u"Delete Error"_s);
+    EXPECT_EQ(cell(u"SELECT group_concat(PersonID) FROM CDs"_s), u"1,2"_s);
+}
+
+TEST_F(PersonScreen, PrintingAllLeavesTheMemberOfTheView) {
+    startWith({u"Ann Larkin"_s, u"Zoë Larkin"_s, u"Bob Larkin"_s}, u"Zoë Larkin"_s);
+    exec(u"INSERT INTO Attachments (BugNum) VALUES ('Kbk_2_0')"_s);
+    user.setPrinter(path(u"all.pdf"_s));
+    for (const QString& key : {u"tbPrintAll"_s, u"tbSaveAll"_s}) {
+        user.tool(key);
+        if (key == u"tbSaveAll"_s) user.choose(path(u"all.txt"_s));
+        EXPECT_EQ(personID(), 2);
+        EXPECT_EQ(user.session()["gvAttachKey"_L1].toString(), u"Kbk_2_0"_s);
+        EXPECT_EQ(user.text(u"lblAttachments"_s), u"Attachments:  1"_s);
+    }
+    EXPECT_EQ(user.jobs().size(), 1);
+    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    user.click(u"cmdNext"_s);
+    user.tool(u"tbPrintAll"_s);
+    EXPECT_EQ(personID(), 1);
 }
 
 TEST_F(PersonScreen, AWriteThatFailsLeavesTheTextsAsTypedAndWorksOnceTheCauseIsGone) {

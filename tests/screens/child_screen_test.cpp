@@ -59,6 +59,24 @@ TEST_F(ChildScreen, EverySiteOpensItsOwnChildrenUnderItsOwnNumber) {
     }
 }
 
+TEST_F(ChildScreen, TheLocationIsThatOfTheSiteWhateverIsTyped) {
+    startWithSites();
+    openNode(u"Home"_s);
+    user.menu(u"mInventory"_s);
+    user.fill(u"txtFields(1)"_s, u"Garage"_s);
+    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"Elm"_s);
+    user.fill(u"txtFields(2)"_s, u"Sofa"_s);
+    user.click(u"cmdUpdate"_s);
+    // A paste reaches even a box that takes no typing.
+    user.click(u"txtFields(2)"_s);
+    user.key(u"Ctrl+A"_s);
+    user.menu(u"mCopy"_s);
+    user.click(u"txtFields(1)"_s);
+    user.menu(u"mPaste"_s);
+    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"Elm"_s);
+    EXPECT_EQ(cell(u"SELECT Type FROM Inventory"_s), u"Sofa"_s);
+}
+
 TEST_F(ChildScreen, AnotherSiteTakesTheWindowOverOnlyWithoutChanges) {
     startWithSites();
     openNode(u"Home"_s);

@@ -53,6 +53,32 @@ TEST_F(ReferenceScreen, TypingInTheSelectorIsNoChangeAndAPickNeverLosesOne) {
     EXPECT_EQ(listed(), (QStringList{u"Aaron"_s, u"Adams"_s}));
 }
 
+TEST_F(ReferenceScreen, ADeletedNameLeavesTheSelectorAndWithoutARowNothingIsPrintedOrAttached) {
+    startWithDoctors({u"Adams"_s, u"Moss"_s});
+    openNode(u"Doctors"_s);
+    user.setPrinter(path(u"doctors.pdf"_s));
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(listed(), QStringList{u"Moss"_s});
+    EXPECT_EQ(status(), u"Record: 1 of 1"_s);
+    user.tool(u"tbPrint"_s);
+    EXPECT_EQ(user.jobs().size(), 1);
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
+    EXPECT_EQ(dismissBox(), u"Delete Error"_s);
+    EXPECT_EQ(listed(), QStringList());
+    for (const QString& key : {u"tbPrint"_s, u"tbSave"_s, u"tbAttach"_s}) {
+        user.forgetNoises();
+        user.tool(key);
+        EXPECT_EQ(user.state()["beeps"_L1].toInt(), 1);
+        EXPECT_EQ(boxTitle(), QString()) << key.toStdString();
+    }
+    user.tool(u"tbPrintAll"_s);
+    while (!boxTitle().isEmpty())
+        dismissBox();
+    EXPECT_TRUE(user.jobs().isEmpty());
+}
+
 TEST_F(ReferenceScreen, AnEmptyTableBeginsInAnAddThatNeedsAName) {
     startWithDoctors({});
     openNode(u"Contacts"_s);
