@@ -77,16 +77,23 @@ protected:
         return keys;
     }
 
-    /// What a click opens: the name of a window or dialog, which is closed again.
+    bool showsLockedBoxes() {
+        const QJsonArray controls = user.form()["controls"_L1].toArray();
+        return std::ranges::any_of(controls, [](const QJsonValue& control) {
+            return control["name"_L1] == u"txtFields(1)"_s && control["locked"_L1].toBool();
+        });
+    }
+    /// What a click opens: the name of a window or dialog, which is closed again; and whether its boxes are locked.
     QString opened(const QString& key) {
         openNode(key);
         const QString window = activeWindow();
         if (user.dialog().isEmpty()) {
+            const QString access = showsLockedBoxes() ? u" locked"_s : QString();
             if (window == u"frmKinbook"_s)
                 choose(u"Ann"_s);
             else
                 user.click(u"cmdClose"_s);
-            return window;
+            return window + access;
         }
         const QString name = user.dialog()["name"_L1].toString();
         user.click(key == u"SecurityInfo"_s || key == u"CategoryListHelp"_s ? u"cmdOK"_s : u"cmdCancel"_s);
@@ -173,8 +180,9 @@ TEST_F(NodesListing, ClicksOpenAndCountWhatIsListed) {
     QStringList seen;
     for (const Node& node : nodes_) {
         if (node.isBranch) continue;
-        const QString window = opened(node.key);
-        QString line = u"%1 opens %2"_s.arg(node.key, window);
+        const QString outcome = opened(node.key);
+        const QString window = outcome.section(u' ', 0, 0);
+        QString line = u"%1 opens %2"_s.arg(node.key, outcome);
         const QString table = tableOf(
             window,
             pictures.filter(u" %1 \""_s.arg(node.key)).value(0).section(u"pictured by "_s, 1).section(u' ', 0, 0));
