@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
+
 #include "tests/support/print.h"
 #include "tests/support/test_program.h"
 
@@ -57,9 +59,9 @@ TEST_F(FormsTest, ABoxIsCheckedBeforeTheFocusLeavesIt) {
         user.fill(u"txtFields(0)"_s, u"good"_s);
         static_cast<void>(log.news());
         play(move.gesture);
-        const QString events = log.news();
-        EXPECT_EQ(events.count(u"Validate;"_s), move.validates ? 1 : 0) << events.toStdString();
-        EXPECT_TRUE(events.endsWith(move.effect)) << events.toStdString();
+        // The key that held a modifier goes to the form first.
+        static const QRegularExpression modifier(u"Down \\d+ \\d+;"_s);
+        EXPECT_EQ(log.news().remove(modifier), (move.validates ? u"Validate;"_s : QString()) + move.effect);
         EXPECT_EQ(focus(), move.focus);
         if (move.gesture == u"click chkFields(0)"_s) user.click(u"chkFields(0)"_s);
     }

@@ -79,19 +79,6 @@ TEST_P(Catalogue, OwnWordsAreAboutColumnsOfTheTable) {
     EXPECT_EQ(screen_.shared.has_value(), columns.contains(u"Type"_s) && fields_.front().name == "Name"_L1);
 }
 
-TEST(Catalogues, HoldEveryWindowOnce) {
-    EXPECT_EQ(ownedScreens().size(), 55u);
-    EXPECT_EQ(referenceScreens().size(), 3u);
-    EXPECT_EQ(childScreens().size(), 3u);
-    std::set<QString> names;
-    for (const ScreenDefinition& screen : allScreens()) {
-        EXPECT_TRUE(names.insert(screen.name).second) << QString(screen.name).toStdString();
-        ASSERT_NE(screenDefinition(QString(screen.name)), nullptr);
-        EXPECT_EQ(screenDefinition(QString(screen.name))->addCaption, screen.addCaption);
-    }
-    EXPECT_EQ(screenDefinition(u"frmAttach"_s), nullptr);
-}
-
 // The files of a record are found by the prefix, so it must lead to one table.
 TEST(Catalogues, APrefixMeansOneTable) {
     std::map<QString, QString> tables;
@@ -103,30 +90,6 @@ TEST(Catalogues, APrefixMeansOneTable) {
         const bool fresh = prefixes.insert(screen.attachmentPrefix).second;
         EXPECT_TRUE(fresh || screen.shared) << QString(screen.name).toStdString();
     }
-}
-
-TEST(Catalogues, RowsOfASharedTableAreToldApart) {
-    std::set<std::pair<QString, int>> types;
-    for (const ScreenDefinition& screen : ownedScreens()) {
-        if (!screen.shared) continue;
-        EXPECT_TRUE(types.emplace(screen.table, screen.shared->type).second);
-    }
-    EXPECT_EQ(types.size(), 5u);
-}
-
-// The numbers stand in every household's file.
-TEST(Catalogues, SitesKeepTheTypeOfTheirChildren) {
-    const QLatin1StringView sites[] = {"frmHomesOwned"_L1, "frmHomesRented"_L1, "frmBusinessSite"_L1,   "frmAgSite"_L1,
-                                       "frmRentals"_L1,    "frmUndeveloped"_L1, "frmOtherRealEstate"_L1};
-    int type = 0;
-    for (const QLatin1StringView name : sites) {
-        const ScreenDefinition* site = screenDefinition(QString(name));
-        ASSERT_NE(site, nullptr);
-        EXPECT_EQ(site->parentType, ++type);
-        EXPECT_FALSE(site->children.empty());
-    }
-    for (const ScreenDefinition& screen : allScreens())
-        EXPECT_EQ(screen.children.empty(), screen.parentType == 0);
 }
 
 }  // namespace screens

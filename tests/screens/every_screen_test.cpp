@@ -2,6 +2,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QSet>
 
 #include "app/dispatch_table.h"
 #include "screens/catalogue/catalogue.h"
@@ -95,7 +96,7 @@ TEST_F(EveryScreen, KeepsEveryFieldAndSavesWhatItShows) {
     addMembers({u"Ann Larkin"_s});
     user.start();
     user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
-    int played = 0;
+    QSet<QString> played;
     const QJsonArray nodes = user.tree()["nodes"_L1].toArray();
     for (const QJsonValue& node : nodes) {
         const QString key = node["key"_L1].toString();
@@ -107,9 +108,10 @@ TEST_F(EveryScreen, KeepsEveryFieldAndSavesWhatItShows) {
         if (screen->shared) exec(u"DELETE FROM "_s + screen->table);
         playThrough(key, *screen);
         if (HasFatalFailure()) return;
-        ++played;
+        played.insert(screen->name);
     }
-    EXPECT_EQ(played, 57);
+    for (const screens::ScreenDefinition& screen : screens::ownedScreens())
+        EXPECT_TRUE(played.contains(screen.name)) << QString(screen.name).toStdString();
 }
 
 }  // namespace
