@@ -3,6 +3,7 @@
 #include "platform/forms/text_box.h"
 #include "session/definition_file.h"
 #include "session/form_access.h"
+#include "session/refusals.h"
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
@@ -18,6 +19,16 @@ ChangePassword::ChangePassword(platform::Desktop& desktop, session::Session& ses
 
 QString ChangePassword::oldPassword() {
     return session_.definition.gsMainPassword;
+}
+
+bool ChangePassword::canStore(const QString& password) {
+    if (!ChangePasswordDialog::canStore(password)) return false;
+    // Some signs and accented letters would break their line of the file, but only at some places.
+    const auto place = session::lineBreakIn(password);
+    if (place)
+        session::showForeignCharacter(desktop(), password.sliced(*place, 1),
+                                      u"as character %1 of the password, though elsewhere in it"_s.arg(*place + 1));
+    return !place;
 }
 
 void ChangePassword::change(const QString& password) {

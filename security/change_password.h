@@ -19,6 +19,7 @@ public:
 
 protected:
     [[nodiscard]] QString oldPassword() override;
+    [[nodiscard]] bool canStore(const QString& password) override;
     void change(const QString& password) override;
     void pointAtMismatch() override;
 

@@ -42,6 +42,10 @@ void ChangePasswordDialog::refuse(const QString& which) {
     desktop().notice(which + u" password.  No changes can be made."_s, u"Invalid Old Password"_s);
 }
 
+bool ChangePasswordDialog::canStore(const QString& password) {
+    return session::canBeSecret(desktop(), password, u"password"_s);
+}
+
 bool ChangePasswordDialog::accepts() {
     if (txtOld_->text() != oldPassword()) {
         refuse(u"The old password does not match your current"_s);
@@ -56,7 +60,7 @@ bool ChangePasswordDialog::accepts() {
         pointAtMismatch();
         return false;
     }
-    if (session::canBeSecret(desktop(), txtNew_->text(), u"password"_s)) return true;
+    if (canStore(txtNew_->text())) return true;
     txtConfirm_->setText({});
     pointAt(*txtNew_);
     return false;

@@ -18,6 +18,8 @@ protected:
                          const QString& confirmation, const QString& note);
 
     [[nodiscard]] virtual QString oldPassword() = 0;
+    /// Whether it could be read back once it is stored; tells why not.
+    [[nodiscard]] virtual bool canStore(const QString& password);
     /// Makes it the password; the dialog closes then.
     virtual void change(const QString& password) = 0;
     /// The two new passwords differ, and the user was told so.

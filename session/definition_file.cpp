@@ -61,12 +61,19 @@ std::optional<Definition> readDefinition(const QString& path) {
     return definition;
 }
 
+std::optional<qsizetype> lineBreakIn(const QString& password) {
+    const QString enciphered = data::cipher(password);
+    const auto breaksLine = [](QChar c) { return c == u'\r' || c == u'\n' || c.isNull(); };
+    const auto found = std::ranges::find_if(enciphered, breaksLine);
+    if (found == enciphered.end()) return std::nullopt;
+    return found - enciphered.begin();
+}
+
 void writeDefinition(const QString& path, const Definition& definition) {
+    // Such a line couldn't be read back, and the program wouldn't start any more.
+    if (lineBreakIn(definition.gsMainPassword)) throw platform::RuntimeError(5);
     Definition written = definition;
     written.gsMainPassword = data::cipher(definition.gsMainPassword);
-    // Such a line couldn't be read back, and the program wouldn't start any more.
-    const auto breaksLine = [](QChar c) { return c == u'\r' || c == u'\n' || c.isNull(); };
-    if (std::ranges::any_of(written.gsMainPassword, breaksLine)) throw platform::RuntimeError(5);
     QString text;
     for (const Key& key : keys)
         text += key.text + written.*key.value + u"\r\n"_s;

@@ -46,15 +46,17 @@ void showNoDataNoLogin(platform::Desktop& desktop) {
 
 bool canBeSecret(platform::Desktop& desktop, const QString& text, const QString& kind) {
     const auto foreign = platform::firstOutsideCodePage(text);
-    if (!foreign) return true;
-    const uint code = foreign->toUcs4().first();
+    if (foreign) showForeignCharacter(desktop, *foreign, u"in a "_s + kind);
+    return !foreign;
+}
+
+void showForeignCharacter(platform::Desktop& desktop, const QString& character, const QString& where) {
+    const QString code = QString::number(character.toUcs4().first(), 16).toUpper().rightJustified(4, u'0');
     desktop.notice(
-        u"The character \"%1\" (U+%2) can't be used in a %3.\r\n\r\n"
+        u"The character \"%1\" (U+%2) can't be used %3.\r\n\r\n"
         "What can be used are the letters of English and of the other languages of Western Europe, accents "
-        "included, digits, blanks, and the signs of an English keyboard."_s.arg(
-            *foreign, QString::number(code, 16).toUpper().rightJustified(4, u'0'), kind),
+        "included, digits, blanks, and the signs of an English keyboard."_s.arg(character, code, where),
         u"Character Not Allowed"_s);
-    return false;
 }
 
 }  // namespace session

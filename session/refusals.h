@@ -23,5 +23,7 @@ void showNoDataNoLogin(platform::Desktop& desktop);
 /// A secret is kept in a code page of 256 characters. Tells of the first character that it doesn't have; `kind` says
 /// what was typed.
 [[nodiscard]] bool canBeSecret(platform::Desktop& desktop, const QString& text, const QString& kind);
+/// A character can't stand where it does in a secret; `where` goes on from "can't be used ".
+void showForeignCharacter(platform::Desktop& desktop, const QString& character, const QString& where);
 
 }  // namespace session

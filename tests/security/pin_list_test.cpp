@@ -53,11 +53,11 @@ protected:
                   u"0"_s);
         return rows == u"null"_s ? QString() : rows;
     }
-    /// Refuses every write that would give a row this mark, until it is allowed() again.
-    void refuse(const QString& row) {
+    /// Refuses the writes of a secret for which a condition holds, until allow().
+    void refuse(const QString& condition) {
         exec(
             u"CREATE TRIGGER refusal BEFORE UPDATE OF PIN_Password ON PIN_Password WHEN %1 BEGIN SELECT RAISE(ABORT, "
-            "'refused'); END"_s.arg(row));
+            "'refused'); END"_s.arg(condition));
     }
     void allow() { exec(u"DROP TRIGGER refusal"_s); }
     QByteArray bytesOf(const QString& name) {
