@@ -57,6 +57,13 @@ TEST_F(Start, AValueKeepsItsEqualsSignsAndAMainPasswordMakesTheRunReadOnly) {
     writeFile(u"SplashDef.txt"_s, "Splash=1\r\nVersion=a=b=\r\nValue=\xdd\xef\xf5\xe1\xf6\xf8\r\n");
     addMembers({u"Ann Larkin"_s});
     user.start();
+    user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+    openNode(u"LogIn"_s);
+    user.fill(u"txtPassword"_s, u"secret"_s);
+    user.click(u"cmdOK"_s);
+    EXPECT_TRUE(user.session()["gbCanEdit"_L1].toBool());
+    user.close();
+    user.start();
     EXPECT_FALSE(user.session()["gbCanEdit"_L1].toBool());
     user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
     EXPECT_TRUE(user.control(u"txtFields(0)"_s)["locked"_L1].toBool());
