@@ -1,11 +1,14 @@
 #include "output/record_output.h"
 
+#include <utility>
+
 #include "output/document.h"
 #include "output/print_failure.h"
 #include "output/printable_screen.h"
 #include "output/save_dialog.h"
 #include "platform/base/clock.h"
 #include "platform/base/files.h"
+#include "platform/base/runtime_error.h"
 #include "platform/base/text_writer.h"
 #include "platform/forms/desktop.h"
 #include "platform/print/print_device.h"
@@ -17,7 +20,35 @@ using namespace Qt::StringLiterals;
 namespace output {
 
 namespace {
+
 constexpr double fontSize = 10;
+
+/// What a routine that writes a file is doing: a failure is told under the title of its step.
+class Steps {
+public:
+    Steps(platform::Desktop& desktop, QString writing)
+        : desktop_(desktop), writing_(std::move(writing)), title_(writing_) {}
+
+    void run(const std::function<void()>& routine) {
+        platform::Desktop::attempt(routine, [this](const platform::RuntimeError& error) {
+            desktop_.notice(error.report(), title_, platform::Icon::Critical);
+        });
+    }
+
+    /// The text of the record on screen.
+    [[nodiscard]] QString createFileDoc(const std::function<PrintableScreen()>& screen) {
+        title_ = u"CreateFileDoc Error"_s;
+        QString document = fileDocument(screen(), platform::systemClock().today());
+        title_ = writing_;
+        return document;
+    }
+
+private:
+    platform::Desktop& desktop_;
+    QString writing_;
+    QString title_;
+};
+
 }  // namespace
 
 void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen) {
@@ -32,13 +63,10 @@ void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen) {
     });
 }
 
-QString createFileDoc(const PrintableScreen& screen) {
-    return fileDocument(screen, platform::systemClock().today());
-}
-
 void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
               const std::function<PrintableScreen()>& screen) {
-    desktop.attempt(u"SaveFile Error"_s, [&] {
+    Steps steps(desktop, u"SaveFile Error"_s);
+    steps.run([&] {
         const QString name = desktop.dialogs().fileDialog(textFileRequest(applicationFolder));
         if (platform::files::nameOf(name) == "SplashDef.txt"_L1) {
             desktop.notice(
@@ -52,7 +80,7 @@ void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
             return;
         }
         session::BookFiles{applicationFolder}.refuse(name);
-        const QString document = createFileDoc(screen());
+        const QString document = steps.createFileDoc(screen);
         platform::files::TextWriter file(name);
         file.writeLine(document);
         file.close();
@@ -61,7 +89,8 @@ void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
 
 void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const RecordWalk& walk,
              const std::function<PrintableScreen()>& screen) {
-    desktop.attempt(u"SaveAll Error"_s, [&] {
+    Steps steps(desktop, u"SaveAll Error"_s);
+    steps.run([&] {
         const QString name = desktop.dialogs().fileDialog(request.asksForText ? textFileRequest(request.folder)
                                                                               : saveRequest(request.folder));
         if (name.isEmpty()) {
@@ -70,7 +99,7 @@ void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const Re
         }
         session::BookFiles{request.folder}.refuse(name);
         platform::files::TextWriter file(name);
-        walk([&] { file.writeLine(createFileDoc(screen()) + u"\r\n\r\n"_s); });
+        walk([&] { file.writeLine(steps.createFileDoc(screen) + u"\r\n\r\n"_s); });
         file.close();
     });
 }

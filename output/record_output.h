@@ -14,11 +14,9 @@ struct PrintableScreen;
 /// Prints a record as a job of its own. Failures are shown, the missing printer with a box of its own.
 void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen);
 
-/// The text of a record for a file.
-[[nodiscard]] QString createFileDoc(const PrintableScreen& screen);
-
-/// Asks for a file and writes the record into it, over an existing one without a question. The definition file's name
-/// is refused in any folder, and so is every file that holds the book. Failures are shown.
+/// Asks for a file and writes the record into it, in place of an existing one when it is whole. The definition file's
+/// name is refused in any folder, and so is every file that holds the book. Failures are shown, those of making the text
+/// apart from those of writing it.
 void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
               const std::function<PrintableScreen()>& screen);
 
@@ -34,7 +32,7 @@ struct SaveAllRequest {
 using RecordWalk = std::function<void(const std::function<void()>& visit)>;
 
 /// Asks for a file and writes the records of the walk into it, each on its way, with two empty lines behind it.
-/// A file that holds the book is refused. A failure is shown and leaves the file as far as it was written.
+/// A file that holds the book is refused. A failure ends the walk, is shown, and leaves a file of that name as it was.
 void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const RecordWalk& walk,
              const std::function<PrintableScreen()>& screen);
 

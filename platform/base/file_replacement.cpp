@@ -31,7 +31,8 @@ FileReplacement::FileReplacement(const QString& target) {
     folder_ = place.absolutePath();
     target_ = QFile::encodeName(place.absoluteFilePath());
     if (!folderExists(folder_)) throw RuntimeError(76);
-    if (place.isDir()) throw RuntimeError(70);
+    // What takes the place of a device would cut it off from everyone.
+    if (place.exists() && !place.isFile()) throw RuntimeError(70);
     if (place.exists() && isReadOnly(target)) throw RuntimeError(70);
 
     const QString name = temporaryPrefix + QUuid::createUuid().toString(QUuid::Id128);
@@ -66,6 +67,11 @@ void FileReplacement::setMode(unsigned mode) {
     constexpr mode_t everyonesWriting = S_IWUSR | S_IWGRP | S_IWOTH;
     const mode_t nearest = (mode & S_IWUSR) != 0 ? status.st_mode : status.st_mode & ~everyonesWriting;
     if (!known || ::fchmod(descriptor_, nearest & 07777) != 0) throwSystemError(errno, 76);
+}
+
+void FileReplacement::keepMode() {
+    struct stat old {};
+    if (::stat(target_.constData(), &old) == 0) setMode(old.st_mode & 0777);
 }
 
 void FileReplacement::place(Flush flush) {

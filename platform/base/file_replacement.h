@@ -9,7 +9,8 @@ namespace platform::files {
 /// nothing is left behind.
 class FileReplacement {
 public:
-    /// Errors: 76 without the target's folder, 70 where the target is read-only, a folder, or can't be made.
+    /// Errors: 76 without the target's folder, 70 where the target is read-only, no file but a folder or a device, or
+    /// can't be made.
     explicit FileReplacement(const QString& target);
     ~FileReplacement();
     FileReplacement(const FileReplacement&) = delete;
@@ -25,6 +26,8 @@ public:
     void write(const QByteArray& bytes);
     /// Gives the file these permission bits.
     void setMode(unsigned mode);
+    /// Gives the file the permission bits of the one that it replaces, if there is one.
+    void keepMode();
     enum class Flush { Now, Later };
     /// Flushes the file to the disk, unless that comes later, and renames it over the target. The new name is lasting
     /// after syncFolder().

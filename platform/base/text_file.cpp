@@ -1,5 +1,3 @@
-#include <sys/stat.h>
-
 #include <QFile>
 
 #include "platform/base/file_replacement.h"
@@ -32,9 +30,7 @@ void writeTextFile(const QString& path, const QString& text) {
     if (path.isEmpty()) throw RuntimeError(5);
     const QByteArray bytes = toWindows1252(text, OutsideCodePage::Refuse);
     FileReplacement file(path);
-    struct stat old {};
-    const bool replaces = ::stat(QFile::encodeName(path).constData(), &old) == 0;
-    if (replaces) file.setMode(old.st_mode & 0777);
+    file.keepMode();
     file.write(bytes);
     file.place();
     settleFolder(file.folder());

@@ -2,25 +2,24 @@
 
 #include <QString>
 
+#include "platform/base/file_replacement.h"
+
 namespace platform::files {
 
-/// A single-byte text file that is written line by line. What was written before a failure stays in it.
+/// A text file in UTF-8, without a mark at its front, that is written line by line. It takes its name when it is whole:
+/// without close() nothing is left of it, and a file of that name stays as it was.
 class TextWriter {
 public:
-    /// Makes the file, or empties it. Errors: 5 without a name, 76 without the folder, 70 where it is read-only or a
-    /// folder.
+    /// Errors: 5 without a name, 76 without the folder, 70 where the file is read-only or a folder.
     explicit TextWriter(const QString& path);
-    ~TextWriter();
-    TextWriter(const TextWriter&) = delete;
-    TextWriter& operator=(const TextWriter&) = delete;
 
-    /// Writes the text and CR LF. Errors: 5 for a character outside the code page, 61 for a full disk.
+    /// Writes the text and CR LF. Error 61 for a full disk.
     void writeLine(const QString& text);
-    /// Puts the file on the disk and closes it; an error of the device may show only here.
+    /// Puts the file on the disk and in its place; an error of the device may show only here.
     void close();
 
 private:
-    int descriptor_ = -1;
+    FileReplacement file_;
 };
 
 }  // namespace platform::files

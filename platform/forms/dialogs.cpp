@@ -86,7 +86,6 @@ std::optional<QString> Dialogs::chooseFile(const FileRequest& request) {
     QFileDialog dialog(QApplication::activeWindow(), request.title);
     dialog.setObjectName(u"FileDialog"_s);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setAcceptMode(request.mode == FileRequest::Mode::Open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     const QFileInfo preset(request.fileName);

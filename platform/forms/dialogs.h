@@ -33,7 +33,8 @@ public:
     /// Shows a box. Without a title of its own it bears the program's. Text beyond 1,024 characters is cut, so that the
     /// buttons stay on the screen.
     virtual Answer messageBox(const QString& text, Icon icon, const QString& title, Buttons buttons);
-    /// Full name of the chosen file, which need not exist; empty when nothing was chosen.
+    /// Full name of the chosen file, which need not exist; empty when nothing was chosen. To save over one that exists
+    /// has been agreed to in the dialog.
     QString fileDialog(const FileRequest& request) { return chooseFile(request).value_or(QString()); }
     /// The same, with a cancelled dialog told apart from one that was confirmed without a name.
     virtual std::optional<QString> chooseFile(const FileRequest& request);

@@ -1,9 +1,14 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 
+#include "output/printable_screen.h"
+#include "output/record_output.h"
+#include "platform/base/runtime_error.h"
+#include "platform/forms/desktop.h"
 #include "tests/data/hostile_disk.h"
 #include "tests/support/household.h"
 
@@ -20,7 +25,7 @@ protected:
     }
     QString saved(const QString& name) {
         QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : u"no file"_s;
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : u"no file"_s;
     }
     void save(const QString& key, const QString& name) {
         user.tool(key);
@@ -182,17 +187,75 @@ TEST_F(RecordOutput, AScreenWithAnOwnerAddsNoEndingToTheName) {
     EXPECT_LT(text.indexOf(u" - Cabin\r\n"_s), text.indexOf(u" - Flat\r\n"_s));
 }
 
-TEST_F(RecordOutput, ASaveThatFailsHalfWayLeavesTheScreenWhereItStopped) {
+TEST_F(RecordOutput, ASaveThatFailsHalfWayLeavesTheOldFileAndTheScreenWhereItStopped) {
     startWith({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s});
-    exec(u"UPDATE Person SET BirthCity = '\u0141\u00F3d\u017A' WHERE ID = 2"_s);
+    exec(u"UPDATE Person SET Comment = '%1' WHERE ID = 2"_s.arg((QString(70, u'x') + u"\r\n"_s).repeated(5'000)));
     user.click(u"cmdNext"_s);
     exec(u"INSERT INTO Attachments (BugNum) VALUES ('%1')"_s.arg(user.session()["gvAttachKey"_L1].toString()));
     user.click(u"cmdFirst"_s);
-    save(u"tbSaveAll"_s, u"all"_s);
+    const SmallDisk disk;
+    const QString all = disk.folder() + u"/all.txt"_s;
+    QFile old(all);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("the old one") > 0);
+    old.close();
+    user.tool(u"tbSaveAll"_s);
+    user.choose(all);
+    EXPECT_EQ(boxText(), u"61 - Disk full"_s);
     EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
     EXPECT_EQ(status(), u"Record: 2 of 3"_s);
     EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
     EXPECT_EQ(user.text(u"lblAttachments"_s), u"Attachments:  1"_s);
+    EXPECT_TRUE(old.open(QIODevice::ReadOnly));
+    EXPECT_EQ(old.readAll(), "the old one");
+    EXPECT_EQ(QDir(disk.folder()).entryList(QDir::Files | QDir::Hidden), QStringList(u"all.txt"_s));
+}
+
+/// Chooses a file without being seen, and keeps what it is told.
+class QuietDialogs : public platform::Dialogs {
+public:
+    QuietDialogs(QString file, QStringList& told) : file_(std::move(file)), told_(told) {}
+    platform::Answer messageBox(const QString& text, platform::Icon /*icon*/, const QString& title,
+                                platform::Buttons /*buttons*/) override {
+        told_ << title + u": "_s + text;
+        return platform::Answer::Ok;
+    }
+    std::optional<QString> chooseFile(const platform::FileRequest& /*request*/) override { return file_; }
+
+private:
+    QString file_;
+    QStringList& told_;
+};
+
+TEST_F(RecordOutput, ATextThatCanNotBeMadeIsToldApartAndLeavesTheOldFile) {
+    writeFile(u"a.txt"_s, "old");
+    QStringList told;
+    const auto unreadable = []() -> output::PrintableScreen { throw platform::RuntimeError(13); };
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            platform::Desktop desktop;
+            desktop.setDialogs(std::make_unique<QuietDialogs>(path(u"a.txt"_s), told));
+            output::saveFile(desktop, path({}), unreadable);
+            output::saveAll(
+                desktop, {}, [](const auto& visit) { visit(); }, unreadable);
+        },
+        Qt::BlockingQueuedConnection);
+    EXPECT_EQ(told, QStringList(2, u"CreateFileDoc Error: 13 - Type mismatch"_s));
+    EXPECT_EQ(saved(u"a.txt"_s), u"old"_s);
+}
+
+TEST_F(RecordOutput, ThePlatformsSaveDialogAsksBeforeItReplacesAFile) {
+    startWith({u"Ann Larkin"_s});
+    writeFile(u"kept.txt"_s, "kept");
+    user.tool(u"tbSave"_s);
+    user.compose(u"kept"_s);
+    for (const QString& answer : {u"No"_s, u"Yes"_s}) {
+        user.key(u"Return"_s);
+        EXPECT_TRUE(boxText().contains(u"kept.txt already exists"_s)) << boxText().toStdString();
+        user.answer(answer);
+        EXPECT_EQ(saved(u"kept.txt"_s).startsWith(u"     The "_s), answer == "Yes"_L1);
+    }
+    EXPECT_EQ(boxTitle(), u""_s);
 }
 
 TEST_F(RecordOutput, TellsWhyAFileCanNotBeWritten) {
@@ -228,11 +291,17 @@ TEST_F(RecordOutput, AFullDiskEndsTheSave) {
     EXPECT_EQ(boxTitle(), u""_s);
 }
 
-TEST_F(RecordOutput, ACharacterOutsideTheCodePageIsRefused) {
-    startWith({u"Łarkin"_s});
+TEST_F(RecordOutput, TextFilesHoldEveryWritingInUtf8WithoutAMark) {
+    const QString name = u"\u0141ar\u043A \u0E81\U0001F3E1 \u05D0"_s;
+    startWith({name});
+    writeFile(u"a.txt"_s, "old");
+    QFile::setPermissions(path(u"a.txt"_s), QFile::ReadOwner | QFile::WriteOwner);
     save(u"tbSave"_s, u"a.txt"_s);
-    EXPECT_EQ(boxText(), u"5 - Invalid procedure call or argument"_s);
-    EXPECT_EQ(dismissBox(), u"SaveFile Error"_s);
+    EXPECT_TRUE(saved(u"a.txt"_s).startsWith(u"     The "_s));
+    EXPECT_TRUE(saved(u"a.txt"_s).contains(u" - "_s + name + u"\r\n     \r\n"_s));
+    EXPECT_EQ(QFile::permissions(path(u"a.txt"_s)) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    save(u"tbSaveAll"_s, u"all.txt"_s);
+    EXPECT_EQ(saved(u"all.txt"_s), saved(u"a.txt"_s) + u"\r\n\r\n"_s);
 }
 
 TEST_F(RecordOutput, TheCoverPageIsCentredAndHasTheCompanyAtItsFoot) {

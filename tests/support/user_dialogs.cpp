@@ -29,8 +29,9 @@ void UserDialogs::choose(QFileDialog& dialog, const QString& path) {
 }
 
 QString UserDialogs::runFileDialog(QFileDialog& dialog) {
-    chosen_.clear();
-    return dialog.exec() == QDialog::Accepted ? chosen_ : QString();
+    chosen_.reset();
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return chosen_.value_or(dialog.selectedFiles().value(0));
 }
 
 }  // namespace support

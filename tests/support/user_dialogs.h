@@ -4,7 +4,8 @@
 
 namespace support {
 
-/// Shows the real dialogs; the file dialog can be finished with any name, as if it had been typed.
+/// Shows the real dialogs; the file dialog can be finished with any name, as if it had been typed and, where there is
+/// such a file, been agreed to replace it.
 class UserDialogs : public platform::Dialogs {
 public:
     /// Closes the open file dialog with this name; an empty one chooses nothing.
@@ -14,7 +15,7 @@ protected:
     QString runFileDialog(QFileDialog& dialog) override;
 
 private:
-    QString chosen_;
+    std::optional<QString> chosen_;
 };
 
 }  // namespace support
