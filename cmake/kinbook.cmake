@@ -60,7 +60,7 @@ function(kinbook_test name)
   else()
     kinbook_precompile(${name} core_test)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen\\;LC_ALL=C.UTF-8" TIMEOUT 300)
 endfunction()
 
 # kinbook_gui_test(NAME SOURCES... [LINK libraries...]): a test program that plays a user in front of real windows.

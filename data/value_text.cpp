@@ -22,19 +22,23 @@ auto fitting(Conversion conversion) {
 
 }  // namespace
 
+// A file means the same wherever it is opened: no text in it is of a region.
+
 QString plainText(const QVariant& value) {
-    if (value.typeId() == QMetaType::Double) return platform::numberText(value.toDouble());
+    const auto& region = platform::Region::unitedStates();
+    if (value.typeId() == QMetaType::Double) return platform::plainNumber(value.toDouble());
     if (value.typeId() == QMetaType::Bool) return value.toBool() ? u"True"_s : u"False"_s;
-    if (value.typeId() == QMetaType::QDate) return platform::dateText(QDateTime(value.toDate(), QTime(0, 0), Qt::UTC));
-    return value.typeId() == QMetaType::QDateTime ? platform::dateText(value.toDateTime()) : value.toString();
+    if (value.typeId() == QMetaType::QDate)
+        return platform::dateText(QDateTime(value.toDate(), QTime(0, 0), Qt::UTC), region);
+    return value.typeId() == QMetaType::QDateTime ? platform::dateText(value.toDateTime(), region) : value.toString();
 }
 
 double numberFromText(const QString& text) {
-    return fitting([&text] { return platform::toDouble(text); });
+    return fitting([&text] { return platform::toDouble(text, platform::Region::unitedStates()); });
 }
 
 QDateTime dateFromText(const QString& text) {
-    return fitting([&text] { return platform::toDate(text); });
+    return fitting([&text] { return platform::toDate(text, platform::Region::unitedStates()); });
 }
 
 }  // namespace data

@@ -34,9 +34,9 @@ void SequencedList::shiftRows() {
         run(u"Update %1 Set Seq = %2 Where Seq %3"_s.arg(numbered.table, change, from) + scope);
     };
     if (isAdding()) {
-        shift(u"Seq + 1"_s, u">= "_s + typed);
+        shift(u"Seq + 1"_s, u">= "_s + platform::statementNumber(typed));
     } else if (number > nOldSeq_) {
-        shift(u"Seq - 1"_s, u"<= "_s + typed);
+        shift(u"Seq - 1"_s, u"<= "_s + platform::statementNumber(typed));
     } else if (number < nOldSeq_) {
         shift(u"Seq+1"_s, u">= "_s + QString::number(platform::toInteger(typed)));
     }

@@ -165,7 +165,7 @@ void FieldBoxes::writeDates(platform::RecordSource& rows) const {
         const QString typed = text.box->text();
         text.binding->setSource(&rows);
         if (platform::isDate(typed)) {
-            rows.setValue(text.column->name, typed);
+            rows.setValue(text.column->name, platform::toDate(typed));
             // Until it is stored the date stands as typed; a refused save gives it back like this.
             text.box->setText(typed);
         } else if (typed.isEmpty()) {

@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 
+#include "platform/base/region.h"
 #include "platform/base/runtime_error.h"
 #include "platform/base/text_scanner.h"
 
@@ -13,16 +14,14 @@ namespace platform {
 
 namespace {
 
-enum class Commas { Refused, Skipped };
-
 /// Digits with at most one point among them, written as a number of the C locale; nothing without a digit.
-std::optional<QString> takeDecimal(TextScanner& scanner, Commas commas) {
+std::optional<QString> takeDecimal(TextScanner& scanner, QChar decimalPoint, QStringView thousands) {
     QString whole = scanner.takeWhile(isDigit).toString();
-    if (commas == Commas::Skipped && !whole.isEmpty()) {
-        whole += scanner.takeWhile([](QChar c) { return isDigit(c) || c == u','; });
-        whole.remove(u',');
+    if (!whole.isEmpty()) {
+        whole += scanner.takeWhile([thousands](QChar c) { return isDigit(c) || thousands.contains(c); });
+        whole.removeIf([](QChar c) { return !isDigit(c); });
     }
-    const bool point = scanner.accept(u".");
+    const bool point = scanner.accept(QStringView(&decimalPoint, 1));
     const QStringView fraction = point ? scanner.takeWhile(isDigit) : QStringView();
     if (whole.isEmpty() && fraction.isEmpty()) return std::nullopt;
     return whole + u'.' + fraction.toString();
@@ -56,47 +55,70 @@ std::optional<quint64> takeRadixNumber(TextScanner& scanner) {
     return fits ? std::optional(value) : std::nullopt;
 }
 
-/// "(5)", the accountant's minus five; no sign and no exponent inside.
-std::optional<double> takeParenthesized(TextScanner& scanner) {
-    scanner.takeWhile(isBlank);
-    scanner.accept(u"$");
-    const auto digits = takeDecimal(scanner, Commas::Skipped);
-    scanner.takeWhile(isBlank);
-    if (!digits || !scanner.accept(u")")) return std::nullopt;
-    return -digits->toDouble();
-}
+/// Reads one text as a number of a region.
+class NumberReader {
+public:
+    /// `text`: in the usual digits.
+    NumberReader(const QString& text, const Region& region) : scanner_(text), region_(region) {}
 
-std::optional<double> takeSigned(TextScanner& scanner) {
-    bool currency = scanner.accept(u"$");
-    const QChar front = scanner.peek();
-    const bool signedInFront = scanner.accept(u"+-");
-    if (signedInFront && !currency) {
-        scanner.takeWhile(isBlank);
-        currency = scanner.accept(u"$");
+    std::optional<double> read() {
+        scanner_.takeWhile(isBlank);
+        std::optional<double> value;
+        if (scanner_.peek() == u'&') {
+            if (const auto bits = takeRadixNumber(scanner_)) value = static_cast<double>(*bits);
+        } else {
+            value = scanner_.accept(u"(") ? takeParenthesized() : takeSigned();
+        }
+        scanner_.takeWhile(isBlank);
+        if (!scanner_.atEnd() || !value || !std::isfinite(*value)) return std::nullopt;
+        return value;
     }
-    const auto digits = takeDecimal(scanner, Commas::Skipped);
-    if (!digits) return std::nullopt;
-    const double value = (*digits + takeExponent(scanner)).toDouble();
-    scanner.takeWhile(isBlank);
-    const QChar behind = scanner.peek();
-    const bool signedBehind = !signedInFront && scanner.accept(u"+-");
-    if (!signedBehind && !currency) scanner.accept(u"$");
-    const bool negative = (signedInFront && front == u'-') || (signedBehind && behind == u'-');
-    return negative ? -value : value;
-}
 
-std::optional<double> parseNumber(const QString& text) {
-    TextScanner scanner(text);
-    scanner.takeWhile(isBlank);
-    std::optional<double> value;
-    if (scanner.peek() == u'&') {
-        if (const auto bits = takeRadixNumber(scanner)) value = static_cast<double>(*bits);
-    } else {
-        value = scanner.accept(u"(") ? takeParenthesized(scanner) : takeSigned(scanner);
+private:
+    enum class Sign { None, Plus, Minus };
+
+    Sign takeSign() {
+        if (scanner_.accept(u"+")) return Sign::Plus;
+        return scanner_.accept(region_.minusTyped) ? Sign::Minus : Sign::None;
     }
-    scanner.takeWhile(isBlank);
-    if (!scanner.atEnd() || !value || !std::isfinite(*value)) return std::nullopt;
-    return value;
+    bool takeCurrency() { return scanner_.acceptWord(region_.currency); }
+    std::optional<QString> takeDigits() { return takeDecimal(scanner_, region_.decimalPoint, region_.thousandsTyped); }
+
+    /// "(5)", the accountant's minus five; no sign and no exponent inside.
+    std::optional<double> takeParenthesized() {
+        scanner_.takeWhile(isBlank);
+        takeCurrency();
+        const auto digits = takeDigits();
+        scanner_.takeWhile(isBlank);
+        if (!digits || !scanner_.accept(u")")) return std::nullopt;
+        return -digits->toDouble();
+    }
+
+    std::optional<double> takeSigned() {
+        bool currency = takeCurrency();
+        Sign sign = takeSign();
+        const bool signedInFront = sign != Sign::None;
+        if (signedInFront && !currency) {
+            scanner_.takeWhile(isBlank);
+            currency = takeCurrency();
+        }
+        const auto digits = takeDigits();
+        if (!digits) return std::nullopt;
+        const double value = (*digits + takeExponent(scanner_)).toDouble();
+        scanner_.takeWhile(isBlank);
+        if (!signedInFront) sign = takeSign();
+        const bool signedBehind = !signedInFront && sign != Sign::None;
+        if (!signedBehind && !currency) takeCurrency();
+        return sign == Sign::Minus ? -value : value;
+    }
+
+    TextScanner scanner_;
+    const Region& region_;
+};
+
+std::optional<double> parseNumber(const QString& text, const Region& region) {
+    const QString usual = region.withUsualDigits(text);
+    return NumberReader(usual, region).read();
 }
 
 template <typename Integer>
@@ -145,34 +167,34 @@ Decimal rounded(Decimal number, qsizetype decimals) {
     return number;
 }
 
-QString grouped(QString whole) {
+QString grouped(QString whole, const QString& separator) {
     for (qsizetype at = whole.size() - 3; at > 0; at -= 3)
-        whole.insert(at, u',');
+        whole.insert(at, separator);
     return whole;
 }
 
 }  // namespace
 
-bool isNumeric(const QString& text) {
-    return parseNumber(text).has_value();
+bool isNumeric(const QString& text, const Region& region) {
+    return parseNumber(text, region).has_value();
 }
 
-double toDouble(const QString& text) {
-    const auto value = parseNumber(text);
+double toDouble(const QString& text, const Region& region) {
+    const auto value = parseNumber(text, region);
     if (!value) throw RuntimeError(13);
     return *value;
 }
 
-int toLong(const QString& text) {
-    return toLong(toDouble(text));
+int toLong(const QString& text, const Region& region) {
+    return toLong(toDouble(text, region));
 }
 
 int toLong(double value) {
     return roundedTo<int>(value);
 }
 
-qint16 toInteger(const QString& text) {
-    return toInteger(toDouble(text));
+qint16 toInteger(const QString& text, const Region& region) {
+    return toInteger(toDouble(text, region));
 }
 
 qint16 toInteger(double value) {
@@ -187,7 +209,7 @@ double val(const QString& text) {
 
     const bool negative = scanner.peek() == u'-';
     scanner.accept(u"+-");
-    const auto digits = takeDecimal(scanner, Commas::Refused);
+    const auto digits = takeDecimal(scanner, u'.', {});
     if (!digits) return 0;
     const double value = (*digits + takeExponent(scanner)).toDouble();
     if (!std::isfinite(value)) throw RuntimeError(6);
@@ -196,16 +218,34 @@ double val(const QString& text) {
     return negative ? -value : value;
 }
 
+QString statementNumber(const QString& text, const Region& region) {
+    QString written = region.withUsualDigits(text);
+    for (QChar& c : written) {
+        if (c == region.decimalPoint) {
+            c = u'.';
+        } else if (region.thousands.contains(c)) {
+            c = u',';
+        } else if (region.minusTyped.contains(c)) {
+            c = u'-';
+        }
+    }
+    return written;
+}
+
+QString plainNumber(double value) {
+    if (value == 0) return u"0"_s;  // also for the negative zero
+    return QString::number(value, 'g', 15).toUpper();
+}
+
+QString numberText(double value, const Region& region) {
+    return region.withOwnDigits(plainNumber(value).replace(u'.', region.decimalPoint));
+}
+
 QString str(double value) {
-    QString text = numberText(value);
+    QString text = plainNumber(value);
     if (text.startsWith(u"0.")) text.remove(0, 1);
     if (text.startsWith(u"-0.")) text.remove(1, 1);
     return text.startsWith(u'-') ? text : u' ' + text;
-}
-
-QString numberText(double value) {
-    if (value == 0) return u"0"_s;  // also for the negative zero
-    return QString::number(value, 'g', 15).toUpper();
 }
 
 double roundHalfEven(double value, int decimals) {
@@ -215,7 +255,7 @@ double roundHalfEven(double value, int decimals) {
     return std::isfinite(scaled) ? std::nearbyint(scaled) / scale : value;
 }
 
-QString formatNumber(double value, const QString& pattern) {
+QString formatNumber(double value, const QString& pattern, const Region& region) {
     const qsizetype first = pattern.indexOf(u'0');
     const qsizetype point = pattern.indexOf(u'.');
     const qsizetype wholeEnd = point < 0 ? pattern.size() : point;
@@ -229,10 +269,11 @@ QString formatNumber(double value, const QString& pattern) {
     QString whole = number.digits.first(number.point);
     while (whole.startsWith(u'0') && whole.size() > (hasWholeDigit ? 1 : 0))
         whole.remove(0, 1);
-    if (pattern.first(wholeEnd).contains(u',')) whole = grouped(whole);
-    const QString fraction = decimals > 0 ? u'.' + number.digits.sliced(number.point) : QString();
+    if (pattern.first(wholeEnd).contains(u',')) whole = grouped(whole, region.thousands);
+    const QString fraction = decimals > 0 ? region.decimalPoint + number.digits.sliced(number.point) : QString();
     // A negative number keeps its sign when it is rounded to nothing: "-0.00" tells a small debt from none.
-    return (value < 0 ? u"-"_s : QString()) + whole + fraction + (percent ? u"%"_s : QString());
+    const QString sign = value < 0 ? u"-"_s : QString();
+    return sign + region.withOwnDigits(whole + fraction) + (percent ? u"%"_s : QString());
 }
 
 }  // namespace platform

@@ -29,13 +29,14 @@ bool isNumberValue(const QVariant& value) {
     return type == QMetaType::Double || type == QMetaType::LongLong || type == QMetaType::Int;
 }
 
-/// A value without a format, by what it is.
-QString plainText(const QVariant& value) {
+/// A value without a format, by what it is. A whole number counts or refers, and may come to stand in a statement: it
+/// looks the same everywhere.
+QString plainText(const QVariant& value, const Region& region) {
     switch (value.typeId()) {
         case QMetaType::QDateTime:
-            return dateText(value.toDateTime());
+            return dateText(value.toDateTime(), region);
         case QMetaType::Double:
-            return numberText(value.toDouble());
+            return numberText(value.toDouble(), region);
         case QMetaType::Bool:
             return value.toBool() ? u"True"_s : u"False"_s;
         default:
@@ -44,12 +45,12 @@ QString plainText(const QVariant& value) {
 }
 
 /// Through the pattern, but with the year in full where its two digits would read back as another one.
-QString readableDate(const QDateTime& date, const QString& pattern) {
-    const int year = date.date().year();
-    const bool inTwoDigitWindow = year >= 1930 && year <= 2029;
-    if (inTwoDigitWindow || pattern.contains(u"yyy", Qt::CaseInsensitive)) return formatDate(date, pattern);
+QString readableDate(const QDateTime& date, const QString& pattern, const Region& region) {
+    const int inWindow = date.date().year() - region.firstShortYear;
+    const bool readable = (inWindow >= 0 && inWindow < 100) || pattern.contains(u"yyy", Qt::CaseInsensitive);
+    if (readable) return formatDate(date, pattern, region);
     QString inFull = pattern;
-    return formatDate(date, inFull.replace(u"yy"_s, u"yyyy"_s, Qt::CaseInsensitive));
+    return formatDate(date, inFull.replace(u"yy"_s, u"yyyy"_s, Qt::CaseInsensitive), region);
 }
 
 /// Whole numbers stay exact; 2^53 is where a double begins to skip some.
@@ -59,44 +60,45 @@ QVariant numberValue(double number) {
     return whole ? QVariant(static_cast<qint64>(number)) : QVariant(number);
 }
 
-QVariant yesNoValue(const QString& text) {
+QVariant yesNoValue(const QString& text, const Region& region) {
     if (text.compare(u"True", Qt::CaseInsensitive) == 0) return true;
     if (text.compare(u"False", Qt::CaseInsensitive) == 0) return false;
-    return toDouble(text) != 0;
+    return toDouble(text, region) != 0;
 }
 
-QVariant parsed(const QString& text, ColumnKind kind) {
+QVariant parsed(const QString& text, ColumnKind kind, const Region& region) {
     switch (kind) {
         case ColumnKind::Text:
         case ColumnKind::Memo:
             return text;
         case ColumnKind::Date:
-            return toDate(text);
+            return toDate(text, region);
         case ColumnKind::YesNo:
-            return yesNoValue(text);
+            return yesNoValue(text, region);
         case ColumnKind::Number:
         case ColumnKind::Counter:
             break;
     }
-    return numberValue(toDouble(text));
+    return numberValue(toDouble(text, region));
 }
 
 }  // namespace
 
-QString displayText(const QVariant& value, ColumnKind kind, const QString& format) {
+QString displayText(const QVariant& value, ColumnKind kind, const QString& format, const Region& region) {
     const bool numberColumn = kind == ColumnKind::Number || kind == ColumnKind::Counter;
-    if (numberColumn && isNumberValue(value) && isNumberPattern(format)) return formatNumber(value.toDouble(), format);
+    if (numberColumn && isNumberValue(value) && isNumberPattern(format))
+        return formatNumber(value.toDouble(), format, region);
     if (kind == ColumnKind::Date && isDateValue(value) && isDatePattern(format)) {
-        return readableDate(value.toDateTime(), format);
+        return readableDate(value.toDateTime(), format, region);
     }
-    return plainText(value);
+    return plainText(value, region);
 }
 
-QVariant storedValue(const QString& text, ColumnKind kind) {
+QVariant storedValue(const QString& text, ColumnKind kind, const Region& region) {
     const bool textColumn = kind == ColumnKind::Text || kind == ColumnKind::Memo;
     if (text.isEmpty()) return textColumn ? QVariant(u""_s) : QVariant();
     try {
-        return parsed(text, kind);
+        return parsed(text, kind, region);
     } catch (const RuntimeError&) {
         throw RuntimeError(-2147217887, u"Multiple-step operation generated errors. Check each status value."_s);
     }

@@ -29,6 +29,13 @@ public:
         return fits;
     }
 
+    /// Steps over the whole word if it comes next; never over an empty one.
+    bool acceptWord(QStringView word) {
+        const bool fits = !word.isEmpty() && text_.sliced(at_).startsWith(word);
+        if (fits) at_ += word.size();
+        return fits;
+    }
+
     /// Steps over as many characters as pass the test.
     template <typename Test>
     QStringView takeWhile(Test test) {

@@ -2,6 +2,7 @@
 
 #include <QScopedValueRollback>
 
+#include "platform/base/display_format.h"
 #include "platform/forms/bindable.h"
 
 namespace platform {
@@ -42,8 +43,13 @@ void Binding::handOver() {
     // What a write was refused with is still pending in the row: a box put back as it was takes that back.
     if (readsOnly_ || (!isAltered && !handedOver_)) return;
     const QScopedValueRollback handing(handing_, true);
-    source_->setValue(column_, isAltered ? content : held_);
+    source_->setValue(column_, isAltered ? valueOf(content) : held_);
     handedOver_ = true;
+}
+
+QVariant Binding::valueOf(const QVariant& content) const {
+    const bool isText = content.typeId() == QMetaType::QString;
+    return isText ? storedValue(content.toString(), source_->columnKind(column_)) : content;
 }
 
 void Binding::showWritten() {

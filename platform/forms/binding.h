@@ -31,6 +31,8 @@ private:
     void show();
     void handOver();
     void showWritten();
+    /// What a text that was typed is in its column: a row holds values, and no text of a region.
+    [[nodiscard]] QVariant valueOf(const QVariant& content) const;
 
     Bindable& control_;
     QString column_;
