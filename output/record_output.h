@@ -15,8 +15,8 @@ struct PrintableScreen;
 void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen);
 
 /// Asks for a file and writes the record into it, in place of an existing one when it is whole. The definition file's
-/// name is refused in any folder, and so is every file that holds the book. Failures are shown, those of making the text
-/// apart from those of writing it.
+/// name is refused in any folder, and so is every file that holds the book. Failures are shown, those of making the
+/// text apart from those of writing it.
 void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
               const std::function<PrintableScreen()>& screen);
 
