@@ -130,13 +130,9 @@ void OwnedScreen::restoreOwnerName() {
     lookUp(u"Select LegalName from Person where ID ="_s + txtOwnerID_.text());
     if (!rsLookup().eof()) {
         const QVariant name = rsLookup().value(u"LegalName"_s);
-        if (name.isNull()) {
-            desktop().notice(u"Invalid name in database."_s);
-            showOwner(ownerDeleted);
-        } else {
-            sSavedName_ = name.toString();
-            showOwner(sSavedName_);
-        }
+        if (name.isNull()) desktop().notice(u"Invalid name in database."_s);
+        sSavedName_ = name.isNull() ? ownerDeleted : name.toString();
+        showOwner(sSavedName_);
     }
     if (sSavedName_.isEmpty()) sSavedName_ = chosen;
 }

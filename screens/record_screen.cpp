@@ -450,6 +450,7 @@ void RecordScreen::mAttachments_Click() {
 }
 
 void RecordScreen::setAttachKey() {
+    if (definition_.attachmentPrefix.isEmpty()) return;
     session().gvAttachKey = attachKey();
     setNumAttachments();
 }

@@ -119,7 +119,7 @@ protected:
     /// How Save All asks for its file and tells that it got none.
     [[nodiscard]] virtual output::SaveAllRequest saveAllRequest();
 
-    /// Makes the session's attachment key that of the record on screen, and counts its files.
+    /// Makes the session's attachment key that of the record on screen, and counts its files; not where none are kept.
     virtual void setAttachKey();
     /// Shows how many files belong to the attachment key.
     void setNumAttachments();

@@ -83,6 +83,30 @@ TEST_F(RecordLife, AnOwnerThatCantBeLookedUpIsNotReplacedByTheOneBefore) {
     EXPECT_EQ(cell(u"SELECT group_concat(PersonID || Company) FROM Taxes"_s), u"1Ann's,2Bob's"_s);
 }
 
+TEST_F(RecordLife, TheOwnerOfANewRowIsntTakenForThatOfTheFirstRow) {
+    addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s});
+    exec(u"INSERT INTO Taxes (PersonID) VALUES (1)"_s);
+    exec(u"INSERT INTO Organizations (PersonID) VALUES (1)"_s);
+    user.start();
+    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    for (const QString& node : {u"Taxes"_s, u"Organizations"_s}) {
+        openNode(node);
+        user.click(u"cmdAdd"_s);
+        user.pick(u"cbFields(0)"_s, u"Bob Larkin"_s);
+        user.click(u"txtFields(1)"_s);
+        exec(u"UPDATE Person SET LegalName = NULL WHERE ID = 1"_s);
+        user.click(u"cmdUpdate"_s);
+        EXPECT_EQ(boxText(), u"Invalid name in database."_s);
+        dismissBox();
+        EXPECT_EQ(owner(), u"Owner has been deleted."_s);
+        user.click(u"cmdEdit"_s);
+        user.click(u"cmdUpdate"_s);
+        EXPECT_EQ(boxTitle(), QString());
+        EXPECT_EQ(cell(u"SELECT group_concat(PersonID) FROM "_s + node), u"1,2"_s) << node.toStdString();
+        exec(u"UPDATE Person SET LegalName = 'Ann Larkin' WHERE ID = 1"_s);
+    }
+}
+
 // Save -------------------------------------------------------------------------------------------------------------
 
 TEST_F(RecordLife, ABoxLeftForAnotherWindowIsCheckedBeforeTheSave) {
