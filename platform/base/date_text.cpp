@@ -286,7 +286,7 @@ QDateTime toDate(const QString& text, const Region& region) {
 
 QString dateText(const QDateTime& date, const Region& region) {
     if (!date.isValid()) return {};
-    const QString time = region.withOwnDigits(longTime(date.time(), region));
+    QString time = region.withOwnDigits(longTime(date.time(), region));
     if (date.date() == dayZero) return time;
     const QString day = formatDate(date, region.shortDate, region);
     return date.time() == QTime(0, 0) ? day : day + u' ' + time;
