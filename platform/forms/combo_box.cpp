@@ -10,6 +10,7 @@
 
 #include "platform/base/display_format.h"
 #include "platform/base/runtime_error.h"
+#include "platform/forms/long_text.h"
 
 namespace platform {
 
@@ -25,9 +26,26 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(this, &QComboBox::activated, this, [this](int index) {
         listIndex_ = index;
+        long_.clear();
+        if (list(index) != currentText()) showText(list(index));
         click();
     });
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { listIndex_ = -1; });
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
+        listIndex_ = -1;
+        long_.clear();
+    });
+}
+
+QString ComboBox::text() const {
+    if (held_) return *held_;
+    return long_.isEmpty() ? currentText() : long_;
+}
+
+void ComboBox::showText(const QString& text) {
+    const qsizetype shown = shownLength(text, mostInCombo);
+    long_ = shown < text.size() ? text : QString();
+    setEditText(text.first(shown));
+    lineEdit()->setCursorPosition(0);
 }
 
 void ComboBox::click() {
@@ -40,13 +58,12 @@ void ComboBox::setText(const QString& text) {
         held_ = text;
         return;
     }
-    const bool stands = text == currentText() && lineEdit()->cursorPosition() == 0 && !lineEdit()->hasSelectedText();
-    if (stands && (text.isEmpty() ? currentIndex() < 0 : itemText(currentIndex()) == text)) return;
+    const bool stands = text == this->text() && lineEdit()->cursorPosition() == 0 && !lineEdit()->hasSelectedText();
+    if (stands && (text.isEmpty() ? currentIndex() < 0 : list(currentIndex()) == text)) return;
     const QSignalBlocker quiet(this);
     // The arrow keys go on from the entry that reads like the text.
-    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
-    setEditText(text);
-    lineEdit()->setCursorPosition(0);
+    setCurrentIndex(findData(text, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    showText(text);
 }
 
 void ComboBox::showHeld() {
@@ -63,8 +80,7 @@ void ComboBox::setListIndex(int index) {
         const QSignalBlocker quiet(this);
         listIndex_ = index;
         setCurrentIndex(index);
-        setEditText(index < 0 ? QString() : itemText(index));
-        lineEdit()->setCursorPosition(0);
+        showText(list(index));
     }
     if (isOther) click();
 }
@@ -72,7 +88,7 @@ void ComboBox::setListIndex(int index) {
 void ComboBox::addItem(const QString& text) {
     const QSignalBlocker quiet(this);
     const QString kept = currentText();
-    QComboBox::addItem(text);
+    QComboBox::addItem(text.first(shownLength(text, mostInCombo)), text);
     // The first entry of a list would choose itself.
     if (listIndex_ < 0) {
         setCurrentIndex(-1);
@@ -83,7 +99,7 @@ void ComboBox::addItem(const QString& text) {
 void ComboBox::removeEntry(int index) {
     if (index < 0 || index >= count()) throw RuntimeError(5);
     const QSignalBlocker quiet(this);
-    const QString kept = index == listIndex_ ? QString() : currentText();
+    const QString kept = index == listIndex_ ? QString() : this->text();
     if (index == listIndex_) {
         listIndex_ = -1;
     } else if (index < listIndex_) {
@@ -91,14 +107,14 @@ void ComboBox::removeEntry(int index) {
     }
     removeItem(index);
     setCurrentIndex(listIndex_);
-    setEditText(kept);
+    showText(kept);
 }
 
 void ComboBox::clearList() {
     const QSignalBlocker quiet(this);
     listIndex_ = -1;
     clear();
-    clearEditText();
+    showText({});
 }
 
 void ComboBox::setLocked(bool locked) {

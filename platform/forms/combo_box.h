@@ -17,7 +17,7 @@ public:
     explicit ComboBox(QWidget* parent = nullptr);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
-    [[nodiscard]] QString text() const { return held_ ? *held_ : currentText(); }
+    [[nodiscard]] QString text() const;
     /// Sets the text without a click; the list index becomes -1, whatever entries there are.
     void setText(const QString& text);
     [[nodiscard]] int listIndex() const { return listIndex_; }
@@ -26,7 +26,7 @@ public:
     void setListIndex(int index);
     [[nodiscard]] int listCount() const { return count(); }
     /// Text of an entry; empty outside the list.
-    [[nodiscard]] QString list(int index) const { return itemText(index); }
+    [[nodiscard]] QString list(int index) const { return itemData(index).toString(); }
     void addItem(const QString& text);
     /// Takes an entry out; one that is chosen empties the box. Throws RuntimeError 5 outside the list.
     void removeEntry(int index);
@@ -58,11 +58,14 @@ protected:
 
 private:
     void click();
+    /// Brings a text into the box, or its beginning where it is too long to be drawn.
+    void showText(const QString& text);
 
     std::function<void()> handler_;
     std::function<void()> enter_;
     int listIndex_ = -1;
     std::optional<QString> held_;
+    QString long_;  ///< the whole of a text whose beginning is shown; what is typed takes its place
     bool locked_ = false;
 };
 

@@ -4,6 +4,7 @@
 
 #include "platform/forms/control.h"
 #include "platform/forms/desktop.h"
+#include "platform/forms/long_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +17,8 @@ Form::~Form() = default;
 void Form::setCaption(const QString& caption) {
     caption_ = caption;
     // "[*]" in a window title is the toolkit's own mark; doubled it stands for itself.
-    QString shown = caption;
+    constexpr qsizetype mostInTitle = 500;
+    QString shown = caption.first(shownLength(caption, mostInTitle));
     window().setWindowTitle(shown.replace(u"[*]"_s, u"[*][*]"_s));
 }
 

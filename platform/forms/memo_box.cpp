@@ -1,9 +1,13 @@
 #include "platform/forms/memo_box.h"
 
+#include <QLabel>
+#include <QMimeData>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <algorithm>
 #include <utility>
+
+#include "platform/forms/long_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,13 +15,22 @@ namespace platform {
 
 namespace {
 
+/// True for a text that a box gives back as it got it.
+bool staysAsItIs(const QString& text) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool endsLine = c == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n';
+        if (endsLine) ++i;
+        const bool isTurned =
+            c == u'\r' || c == u'\n' || c == QChar::Nbsp || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
+        if (isTurned && !endsLine) return false;
+    }
+    return true;
+}
+
 /// A text as the box gives it back when it has been shown: every line end as CR LF, every blank as the usual one.
 QString asRead(QString text) {
-    const auto isTurned = [](QChar c) {
-        return c == u'\r' || c == u'\n' || c == QChar::Nbsp || c == QChar::ParagraphSeparator ||
-               c == QChar::LineSeparator;
-    };
-    if (std::ranges::none_of(text, isTurned)) return text;
+    if (staysAsItIs(text)) return text;
     text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(QChar::Nbsp, u' ');
     text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
     return text.replace(u'\n', u"\r\n"_s);
@@ -30,10 +43,14 @@ MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setLineWrapMode(QPlainTextEdit::WidgetWidth);
     setUndoRedoEnabled(true);
+    restNote_ = new QLabel(this);
+    restNote_->setObjectName(u"qt_restNote"_s);
+    restNote_->hide();
+    connect(document(), &QTextDocument::contentsChange, this, &MemoBox::beginningChanged);
 }
 
 QString MemoBox::text() const {
-    return held_ ? *held_ : toPlainText().replace(u'\n', u"\r\n"_s);
+    return held_ ? *held_ : toPlainText().replace(u'\n', u"\r\n"_s) + rest_;
 }
 
 void MemoBox::setText(const QString& text) {
@@ -42,8 +59,61 @@ void MemoBox::setText(const QString& text) {
         held_ = asRead(cut);
         return;
     }
-    if (cut != this->text()) setPlainText(cut);
+    if (cut != this->text()) showBeginning(cut);
     if (textCursor().position() != 0 || textCursor().hasSelection()) moveCursor(QTextCursor::Start);
+}
+
+void MemoBox::showBeginning(const QString& text) {
+    rest_.clear();
+    if (shownLength(text, mostInMemo) == text.size()) {
+        setPlainText(text);
+    } else {
+        const QString whole = asRead(text);
+        const qsizetype shown = shownLength(whole, mostInMemo);
+        setPlainText(whole.first(shown));
+        rest_ = whole.sliced(shown);
+    }
+    tellRest();
+}
+
+void MemoBox::beginningChanged(int position, int removed) {
+    if (rest_.isEmpty()) return;
+    const QString now = toPlainText();
+    // The document tells of a change of its looks too.
+    if (now == beginning_) return;
+    const bool replaced = position == 0 && removed >= beginning_.size();
+    if (replaced) rest_.clear();
+    tellRest();
+    // What an undo brought back would lack its rest.
+    if (replaced)
+        QMetaObject::invokeMethod(
+            document(), [this] { document()->clearUndoRedoStacks(); }, Qt::QueuedConnection);
+}
+
+/// A line below the text says what isn't shown.
+void MemoBox::tellRest() {
+    beginning_ = rest_.isEmpty() ? QString() : toPlainText();
+    restNote_->setVisible(!rest_.isEmpty());
+    restNote_->setText(u"%L1 more characters are kept, but not shown."_s.arg(rest_.size()));
+    setViewportMargins(0, 0, 0, rest_.isEmpty() ? 0 : restNote_->sizeHint().height());
+    restNote_->setGeometry(frameWidth(), viewport()->geometry().bottom() + 1, width() - 2 * frameWidth(),
+                           restNote_->sizeHint().height());
+}
+
+void MemoBox::resizeEvent(QResizeEvent* event) {
+    QPlainTextEdit::resizeEvent(event);
+    restNote_->setGeometry(frameWidth(), viewport()->geometry().bottom() + 1, width() - 2 * frameWidth(),
+                           restNote_->sizeHint().height());
+}
+
+bool MemoBox::allSelected() const {
+    return textCursor().selectionEnd() - textCursor().selectionStart() == document()->characterCount() - 1;
+}
+
+QMimeData* MemoBox::createMimeDataFromSelection() const {
+    QMimeData* copied = QPlainTextEdit::createMimeDataFromSelection();
+    if (!rest_.isEmpty() && allSelected()) copied->setText(text());
+    return copied;
 }
 
 void MemoBox::showHeld() {
@@ -89,6 +159,7 @@ void MemoBox::select(int start, int length) {
 }
 
 QString MemoBox::selText() const {
+    if (!rest_.isEmpty() && allSelected()) return text();
     return textCursor().selectedText().replace(QChar::ParagraphSeparator, u"\r\n"_s);
 }
 

@@ -5,6 +5,8 @@
 
 #include "platform/forms/text_control.h"
 
+class QLabel;
+
 namespace platform {
 
 /// A text box of many lines with a vertical scroll bar. Line ends in its text are CR LF; Tab leaves the box.
@@ -30,13 +32,25 @@ public:
     void showHeld() override;
     using TextControl::selectAll;
 
+protected:
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void showBeginning(const QString& text);
+    /// The rest goes with a beginning that is replaced whole.
+    void beginningChanged(int position, int removed);
+    void tellRest();
+    [[nodiscard]] bool allSelected() const;
     /// Position in the text with its two-character line ends, of a position in the document, and back.
     [[nodiscard]] int toText(int documentPosition) const;
     [[nodiscard]] int toDocument(int textPosition) const;
 
     int limit_ = 0;
     std::optional<QString> held_;
+    QString rest_;
+    QString beginning_;  ///< as the document has it, while there is a rest
+    QLabel* restNote_;
 };
 
 }  // namespace platform

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/base/display_format.h"
+#include "platform/forms/long_text.h"
 
 namespace platform {
 
@@ -22,6 +23,12 @@ QString TextControl::fitting(const QString& text) const {
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     setMaxLength(0);
     connect(this, &QLineEdit::textEdited, this, &TextBox::dropHalfCharacter);
+    // A change is told before the selection that it replaced is gone.
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& now) {
+        if (allSelected_ || now.isEmpty()) rest_.clear();
+    });
+    connect(this, &QLineEdit::selectionChanged, this,
+            [this] { allSelected_ = hasSelectedText() && selectionLength() == QLineEdit::text().size(); });
 }
 
 void TextBox::dropHalfCharacter() {
@@ -38,7 +45,11 @@ void TextBox::setText(const QString& text) {
         held_ = cut;
         return;
     }
-    if (cut != QLineEdit::text()) QLineEdit::setText(cut);
+    if (cut != this->text()) {
+        const qsizetype shown = shownLength(cut, mostInLine);
+        QLineEdit::setText(cut.first(shown));
+        rest_ = cut.sliced(shown);
+    }
     if (cursorPosition() != 0 || hasSelectedText()) setCursorPosition(0);
 }
 
@@ -56,10 +67,14 @@ int TextBox::selStart() const {
 }
 
 void TextBox::select(int start, int length) {
-    const int size = static_cast<int>(text().size());
+    const int size = static_cast<int>(QLineEdit::text().size());
     const int from = std::clamp(start, 0, size);
     setSelection(from, std::clamp(length, 0, size - from));
     if (length <= 0) setCursorPosition(from);
+}
+
+QString TextBox::selText() const {
+    return allSelected_ ? text() : selectedText();
 }
 
 void TextBox::setSelText(const QString& text) {

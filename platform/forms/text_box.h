@@ -15,7 +15,7 @@ public:
     explicit TextBox(QWidget* parent = nullptr);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
-    [[nodiscard]] QString text() const override { return held_ ? *held_ : QLineEdit::text(); }
+    [[nodiscard]] QString text() const override { return held_ ? *held_ : QLineEdit::text() + rest_; }
     void setText(const QString& text) override;
     [[nodiscard]] bool isLocked() const override { return isReadOnly(); }
     void setLocked(bool locked) override { setReadOnly(locked); }
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] int selStart() const override;
     [[nodiscard]] int selLength() const override { return selectionLength(); }
     void select(int start, int length) override;
-    [[nodiscard]] QString selText() const override { return selectedText(); }
+    [[nodiscard]] QString selText() const override;
     void setSelText(const QString& text) override;
     void holdDisplay() override { held_ = text(); }
     void showHeld() override;
@@ -35,6 +35,8 @@ private:
 
     int limit_ = 0;
     std::optional<QString> held_;
+    QString rest_;
+    bool allSelected_ = false;
 };
 
 }  // namespace platform

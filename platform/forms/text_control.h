@@ -6,6 +6,9 @@
 namespace platform {
 
 /// A box of text, of one line or of many. Positions and lengths are in characters; a line end counts two.
+///
+/// Of a text beyond what can be laid out in no time the box shows the beginning and keeps the rest behind it, also
+/// while the beginning is changed. Replacing or deleting all that is shown replaces the rest with it.
 class TextControl : public Control, public Bindable {
 public:
     [[nodiscard]] virtual QString text() const = 0;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QMap>
 
 #include "platform/base/runtime_error.h"
@@ -105,6 +106,61 @@ TEST(TextBoxTest, PositionsCountALineEndTwice) {
         memo.setLocked(true);
         memo.setSelText(u"x"_s);
         EXPECT_EQ(memo.text(), u"ab\r\nx"_s) << "code writes into a locked box";
+    });
+}
+
+/// What a box says of a text is the whole of it, however much it draws.
+template <class Box>
+void expectRestIsKept(const QString& text) {
+    Box box;
+    box.resize(300, 100);
+    box.show();
+    QElapsedTimer timer;
+    timer.start();
+    box.setText(text);
+    box.grab();
+    EXPECT_LT(timer.elapsed(), 1000) << "it took minutes once";
+    EXPECT_EQ(box.text(), text);
+    box.select(2, 3);
+    box.setSelText(u"-"_s);
+    EXPECT_EQ(box.text(), text.left(2) + u'-' + text.mid(5)) << "what isn't drawn stays behind a change";
+    box.selectAll();
+    EXPECT_EQ(box.selText(), box.text());
+    box.setSelText(u"new"_s);
+    EXPECT_EQ(box.text(), u"new"_s) << "who replaces all means all";
+    box.setText(text);
+    box.setText(u"short"_s);
+    EXPECT_EQ(box.text(), u"short"_s);
+}
+
+TEST(TextBoxTest, KeepsWhatIsTooLongToBeDrawn) {
+    withControls([] {
+        for (const QString& text : {QString(1 << 20, u'x'), u"some words "_s.repeated(100'000),
+                                    u"a line\r\n"_s.repeated(600'000), u"\U0001F600"_s.repeated(100'000)}) {
+            expectRestIsKept<MemoBox>(text);
+            expectRestIsKept<TextBox>(QString(text).remove(u"\r\n"_s));
+        }
+    });
+}
+
+TEST(ComboBoxTest, ALongEntryIsItselfThoughItsBeginningIsShown) {
+    withControls([] {
+        const QString name(5'000'000, u'n');
+        ComboBox combo;
+        combo.addItem(u"Ann"_s);
+        combo.addItem(name);
+        combo.addItem(name + u'x');
+        combo.setListIndex(2);
+        EXPECT_EQ(combo.text(), name + u'x');
+        combo.setText(name);
+        EXPECT_EQ(combo.text(), name);
+        EXPECT_EQ(combo.currentIndex(), 1);
+        EXPECT_LT(combo.currentText().size(), 10'000);
+        combo.addItem(u"Bob"_s);
+        combo.removeEntry(0);
+        EXPECT_EQ(combo.text(), name);
+        combo.setText(u"Bob"_s);
+        EXPECT_EQ(combo.text(), u"Bob"_s);
     });
 }
 
