@@ -5,6 +5,8 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "platform/forms/long_text.h"
+
 namespace platform {
 
 namespace {
@@ -37,7 +39,8 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     cell.text.clear();
-    const QString text = index.data(Qt::DisplayRole).toString().remove(u'\r');
+    const QString whole = index.data(Qt::DisplayRole).toString();
+    const QString text = whole.first(shownLength(whole, mostInCell)).remove(u'\r');
     const QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     if (text.isEmpty()) return;

@@ -3,6 +3,7 @@
 #include "platform/base/display_format.h"
 #include "platform/base/record_source.h"
 #include "platform/forms/desktop.h"
+#include "platform/forms/long_text.h"
 
 namespace platform {
 
@@ -41,7 +42,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     // Drawing can't fail: a row that can't be read just now stays empty, and is read again when it is drawn anew.
     QString text;
     Desktop::passOver([&] { text = texts(index.row())[index.column()]; });
-    return role == Qt::ToolTipRole && text.isEmpty() ? QVariant() : text;
+    if (role != Qt::ToolTipRole) return text;
+    return text.isEmpty() ? QVariant() : text.first(shownLength(text, mostInCell));
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -9,6 +9,7 @@ namespace platform {
 inline constexpr qsizetype mostInMemo = 64'000;
 inline constexpr qsizetype mostInLine = 10'000;
 inline constexpr qsizetype mostInCombo = 2'000;
+inline constexpr qsizetype mostInCell = 2'000;
 
 /// Number of leading characters of a text that a box of at most `most` shows: all of them, or fewer where the text is
 /// longer or has an unbroken stretch that is. No character and no line end is cut in half.
