@@ -1,11 +1,40 @@
+#include <dlfcn.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QFile>
 #include <QProcess>
+#include <cerrno>
 
 #include "family_file.h"
 #include "hostile_disk.h"
 
 using data::Connection;
 using data::Recordset;
+
+namespace {
+
+/// While set, no folder can be flushed to the disk; files can.
+bool foldersRefuseFlush = false;
+
+int flushUnlessFolder(const char* name, int descriptor) {
+    struct stat status {};
+    if (foldersRefuseFlush && fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)) {
+        errno = EIO;
+        return -1;
+    }
+    return reinterpret_cast<int (*)(int)>(dlsym(RTLD_NEXT, name))(descriptor);
+}
+
+}  // namespace
+
+// In the place of the system's, for the engine as well.
+extern "C" int fsync(int descriptor) {
+    return flushUnlessFolder("fsync", descriptor);
+}
+extern "C" int fdatasync(int descriptor) {
+    return flushUnlessFolder("fdatasync", descriptor);
+}
 
 namespace {
 
@@ -133,6 +162,20 @@ TEST(FullDisk, KeepsTheFileWholeAndThePendingRow) {
     rows.update();
     seen.open(u"Select * from Person"_s, again);
     EXPECT_EQ(seen.value(u"Comment"_s).toString().size(), 60000);
+}
+
+TEST_F(Files, AChangeThatIsInTheFileIsNoFailureThoughItsFolderCannotBeFlushed) {
+    Recordset rows;
+    open(rows, "Select * from Person");
+    foldersRefuseFlush = true;
+    rows.addNew();
+    rows.setValue(u"Seq"_s, 9);
+    EXPECT_EQ(errorOf([&] { rows.update(); }), 0);
+    foldersRefuseFlush = false;
+    EXPECT_EQ(rows.editMode(), data::EditMode::None);
+    Recordset seen;
+    open(seen, "Select * from Person where Seq = 9");
+    EXPECT_EQ(seen.recordCount(), 1);
 }
 
 /// The number of the last row that the killed program had reported as saved.
