@@ -122,7 +122,7 @@ platform::ComboBox* FieldBoxes::comboOver(int box) const {
     return found == combos_.end() ? nullptr : found->box;
 }
 
-std::optional<data::FieldKind> FieldBoxes::checkedKind(int box) const {
+std::optional<data::FieldKind> FieldBoxes::requiredKind(int box) const {
     const data::Column* column = texts_.at(box).column;
     if (!column || column->key() == definition_.unchecked) return {};
     const bool isChecked = column->kind == data::FieldKind::Date || column->kind == data::FieldKind::Number;

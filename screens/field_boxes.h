@@ -67,7 +67,7 @@ public:
     /// The combo whose shadow is the box; nullptr for a box of its own.
     [[nodiscard]] platform::ComboBox* comboOver(int box) const;
     /// What the box must hold when the focus leaves it, besides nothing at all: a date or a number; none for any text.
-    [[nodiscard]] std::optional<data::FieldKind> checkedKind(int box) const;
+    [[nodiscard]] std::optional<data::FieldKind> requiredKind(int box) const;
 
     /// Binds every box and check box but the date boxes; the combos wait for bindCombos.
     void bind(platform::RecordSource* rows);

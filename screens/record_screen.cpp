@@ -433,7 +433,7 @@ void RecordScreen::Form_KeyDown(int keyCode, int shift) {
 // Checks and aids --------------------------------------------------------------------------------------------------
 
 bool RecordScreen::validates(int box) {
-    const std::optional<data::FieldKind> kind = boxes_.checkedKind(box);
+    const std::optional<data::FieldKind> kind = boxes_.requiredKind(box);
     return !kind || passes(desktop(), boxes_.text(box), *kind, boxes_.label(box));
 }
 

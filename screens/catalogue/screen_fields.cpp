@@ -47,7 +47,8 @@ std::vector<data::Column> screenFields(const ScreenDefinition& definition) {
     for (const data::Column& column : data::table(QString(definition.table)).columns) {
         if (isShown(definition, column)) shown.push_back(inOwnWords(definition, column));
     }
-    std::ranges::stable_partition(shown, [](const auto& column) { return column.kind != data::FieldKind::YesNo; });
+    std::stable_partition(shown.begin(), shown.end(),
+                          [](const auto& column) { return column.kind != data::FieldKind::YesNo; });
     return shown;
 }
 

@@ -16,6 +16,8 @@ protected:
         user.start();
         user.pick(u"MDIHost.cbPerson"_s, selection);
     }
+    /// What the box with the focus is labelled.
+    QString focus() { return user.control(user.state()["focus"_L1].toString())["label"_L1].toString(); }
     int personID() { return user.session()["gPersonID"_L1].toInt(); }
     QStringList visibleButtons() {
         QStringList shown;
@@ -33,15 +35,15 @@ TEST_F(PersonScreen, TheFirstMemberIsKeptAndFoundAgainAtTheNextStart) {
     EXPECT_EQ(user.text(u"MDIHost.cmdAddNew"_s), u"Head of Household\r\nClick Here To Enter"_s);
     user.click(u"MDIHost.cmdAddNew"_s);
     EXPECT_EQ(status(), u"Add record"_s);
-    EXPECT_EQ(user.state()["focus"_L1].toString(), u"txtFields(0)"_s);
+    EXPECT_EQ(focus(), u"Legal Name:"_s);
     EXPECT_TRUE(treeEnabled());
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(dismissBox(), u"No Legal Name"_s);
-    user.fill(u"txtFields(0)"_s, u"Zoë Łarkin 日本 😀"_s);
-    user.fill(u"txtFields(1)"_s, u"May 13, 2035"_s);
-    user.fill(u"txtFields(2)"_s, u"f"_s);
-    user.fill(u"txtFields(7)"_s, u"123456789"_s);
-    user.pick(u"cbFields"_s, u"Vermont"_s);
+    user.fill(u"Legal Name:"_s, u"Zoë Łarkin 日本 😀"_s);
+    user.fill(u"Date:"_s, u"May 13, 2035"_s);
+    user.fill(u"Sex:"_s, u"f"_s);
+    user.fill(u"SocSecNum:"_s, u"123456789"_s);
+    user.pick(u"State:"_s, u"Vermont"_s);
     user.click(u"chkFields(1)"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(status(), u"Record: 1 of 1"_s);
@@ -55,18 +57,18 @@ TEST_F(PersonScreen, TheFirstMemberIsKeptAndFoundAgainAtTheNextStart) {
     user.close();
     user.start();
     user.pick(u"MDIHost.cbPerson"_s, u"Zoë Łarkin 日本 😀"_s);
-    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"5/13/2035"_s);
+    EXPECT_EQ(user.text(u"Date:"_s), u"5/13/2035"_s);
     EXPECT_EQ(user.control(u"chkFields(1)"_s)["value"_L1].toInt(), 1);
 }
 
 TEST_F(PersonScreen, AFirstLetterMakesTheScreenDirtyAndOnlyEditLeadsOut) {
     startWith({u"Ann Larkin"_s, u"Bob Larkin"_s}, u"Whole Family"_s);
-    user.click(u"txtFields(3)"_s);
+    user.click(u"City:"_s);
     for (const QString& key : {u"Tab"_s, u"Return"_s, u"Delete"_s, u"Left"_s})
         user.key(key);
     user.click(u"cmdNext"_s);
     EXPECT_EQ(status(), u"Record: 2 of 2"_s);
-    user.click(u"txtFields(3)"_s);
+    user.click(u"City:"_s);
     user.type(u"Q"_s);
     user.click(u"cmdFirst"_s);
     EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
@@ -87,7 +89,7 @@ TEST_F(PersonScreen, CancelReturnsToTheRecordOfTheLastAddOrTheFirst) {
     startWith({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s}, u"Whole Family"_s);
     user.key(u"End"_s);
     user.click(u"cmdEdit"_s);
-    user.fill(u"txtFields(3)"_s, u"dropped"_s);
+    user.fill(u"City:"_s, u"dropped"_s);
     user.click(u"cmdCancel"_s);
     EXPECT_EQ(status(), u"Record: 1 of 3"_s);
     EXPECT_EQ(cell(u"SELECT BirthCity FROM Person WHERE ID = 3"_s), u"null"_s);
@@ -109,9 +111,9 @@ TEST_F(PersonScreen, ChecksHoldTheFocusAndTheButtonThatWasClicked) {
         QString box, text, title;
     };
     const Case cases[] = {
-        {u"txtFields(1)"_s, u"Feb 30 2001"_s, u"Invalid Date"_s},
-        {u"txtFields(2)"_s, u"x"_s, u"Invalid Entry"_s},
-        {u"txtFields(7)"_s, u"123-45-678"_s, u"Invalid Social Security Number"_s},
+        {u"Date:"_s, u"Feb 30 2001"_s, u"Invalid Date"_s},
+        {u"Sex:"_s, u"x"_s, u"Invalid Entry"_s},
+        {u"SocSecNum:"_s, u"123-45-678"_s, u"Invalid Social Security Number"_s},
     };
     user.click(u"cmdEdit"_s);
     for (const Case& row : cases) {
@@ -119,12 +121,12 @@ TEST_F(PersonScreen, ChecksHoldTheFocusAndTheButtonThatWasClicked) {
         user.click(u"cmdCancel"_s);
         EXPECT_EQ(dismissBox(), row.title);
         EXPECT_EQ(status(), u"Edit record"_s);
-        EXPECT_EQ(user.state()["focus"_L1].toString(), row.box);
+        EXPECT_EQ(focus(), row.box);
         EXPECT_EQ(user.control(row.box)["selLength"_L1].toInt(), user.text(row.box).size());
         // The toolbar and the menus take no focus and check nothing; a good entry lets go.
-        user.fill(row.box, row.box == u"txtFields(2)"_s ? u"F"_s : u""_s);
+        user.fill(row.box, row.box == u"Sex:"_s ? u"F"_s : u""_s);
         user.key(u"Delete"_s);
-        if (row.box == u"txtFields(2)"_s) user.fill(row.box, u"m"_s);
+        if (row.box == u"Sex:"_s) user.fill(row.box, u"m"_s);
     }
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(cell(u"SELECT Sex FROM Person"_s), u"M"_s);
@@ -135,10 +137,10 @@ TEST_F(PersonScreen, MovesKeepTheMemberByIDWhateverRowIsShown) {
     exec(u"UPDATE Person SET Seq = 4 - Seq"_s);
     user.start();
     user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
-    EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Cy Larkin"_s);
+    EXPECT_EQ(user.text(u"Legal Name:"_s), u"Cy Larkin"_s);
     EXPECT_EQ(personID(), 1);
     user.click(u"cmdNext"_s);
-    EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
+    EXPECT_EQ(user.text(u"Legal Name:"_s), u"Bob Larkin"_s);
     EXPECT_EQ(personID(), 2);
     EXPECT_EQ(user.session()["gvAttachKey"_L1].toString(), u"Kbk_2_0"_s);
     struct End {
@@ -157,7 +159,7 @@ TEST_F(PersonScreen, MovesKeepTheMemberByIDWhateverRowIsShown) {
     // In the view of one member the moves still change it.
     user.pick(u"MDIHost.cbPerson"_s, u"Bob Larkin"_s);
     user.click(u"cmdNext"_s);
-    EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
+    EXPECT_EQ(user.text(u"Legal Name:"_s), u"Bob Larkin"_s);
     EXPECT_EQ(personID(), 3);
 }
 
@@ -244,13 +246,13 @@ TEST_F(PersonScreen, PrintingAllLeavesTheMemberOfTheView) {
 TEST_F(PersonScreen, AWriteThatFailsLeavesTheTextsAsTypedAndWorksOnceTheCauseIsGone) {
     startWith({u"Ann Larkin"_s}, u"Ann Larkin"_s);
     user.click(u"cmdEdit"_s);
-    user.fill(u"txtFields(3)"_s, u"Larkmoor"_s);
-    user.fill(u"txtFields(1)"_s, u"June 1 2002"_s);
+    user.fill(u"City:"_s, u"Larkmoor"_s);
+    user.fill(u"Date:"_s, u"June 1 2002"_s);
     exec(u"CREATE TRIGGER refuse BEFORE UPDATE ON Person BEGIN SELECT RAISE(ABORT, 'refused'); END"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(dismissBox(), u"Update Error"_s);
     EXPECT_EQ(visibleButtons(), (QStringList{u"cmdUpdate"_s, u"cmdCancel"_s}));
-    EXPECT_EQ(user.text(u"txtFields(3)"_s), u"Larkmoor"_s);
+    EXPECT_EQ(user.text(u"City:"_s), u"Larkmoor"_s);
     exec(u"DROP TRIGGER refuse"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(cell(u"SELECT BirthCity || ' ' || BirthDate FROM Person"_s), u"Larkmoor 2002-06-01"_s);

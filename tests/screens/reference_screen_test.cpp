@@ -31,7 +31,7 @@ TEST_F(ReferenceScreen, TheSelectorListsEveryNameAndGoesToTheFirstOfEqualOnes) {
     user.pick(u"cbSelect"_s, u"Moss"_s);
     EXPECT_EQ(status(), u"Record: 2 of 3"_s);
     EXPECT_EQ(user.session()["gvAttachKey"_L1].toString(), u"Doc_1_"_s + user.text(u"txtID"_s));
-    EXPECT_EQ(user.text(u"cbFields(0)"_s), u"Ohio"_s);
+    EXPECT_EQ(user.text(u"State:"_s), u"Ohio"_s);
 }
 
 TEST_F(ReferenceScreen, TypingInTheSelectorIsNoChangeAndAPickNeverLosesOne) {
@@ -40,15 +40,15 @@ TEST_F(ReferenceScreen, TypingInTheSelectorIsNoChangeAndAPickNeverLosesOne) {
     user.fill(u"cbSelect"_s, u"anything"_s);
     user.click(u"cmdNext"_s);
     EXPECT_EQ(status(), u"Record: 2 of 2"_s);
-    user.fill(u"txtFields(1)"_s, u"typed"_s);
+    user.fill(u"Clinic:"_s, u"typed"_s);
     for (const QString& button : {QString(), u"cmdEdit"_s}) {
         if (!button.isEmpty()) user.click(button);
         user.pick(u"cbSelect"_s, u"Adams"_s);
         EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
         EXPECT_EQ(user.text(u"cbSelect"_s), u"Moss"_s);
-        EXPECT_EQ(user.text(u"txtFields(1)"_s), u"typed"_s);
+        EXPECT_EQ(user.text(u"Clinic:"_s), u"typed"_s);
     }
-    user.fill(u"txtFields(0)"_s, u"Aaron"_s);
+    user.fill(u"Doctor:"_s, u"Aaron"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(listed(), (QStringList{u"Aaron"_s, u"Adams"_s}));
 }
@@ -85,8 +85,8 @@ TEST_F(ReferenceScreen, AnEmptyTableBeginsInAnAddThatNeedsAName) {
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(boxText(), u"No contact name has been entered.  No contact record can be created."_s);
     EXPECT_EQ(dismissBox(), u"No Contact Name"_s);
-    user.fill(u"txtFields(0)"_s, u"Plumber"_s);
-    user.pick(u"cbFields(0)"_s, u"Texas"_s);
+    user.fill(u"Contact:"_s, u"Plumber"_s);
+    user.pick(u"State:"_s, u"Texas"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(cell(u"SELECT Name||State FROM Contacts"_s), u"PlumberTexas"_s);
     EXPECT_EQ(listed(), QStringList{u"Plumber"_s});
@@ -99,14 +99,14 @@ TEST_F(ReferenceScreen, TheCoverPageKnowsNoChanges) {
     EXPECT_EQ(dismissBox(), u"No Cover Page Info"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(dismissBox(), u"No Main Heading"_s);
-    user.fill(u"txtFields(0)"_s, u"The Larkins"_s);
+    user.fill(u"Main Heading:"_s, u"The Larkins"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(status(), u"Record: 1 of 1"_s);
-    user.fill(u"txtFields(1)"_s, u"typed"_s);
+    user.fill(u"Sub Heading 1:"_s, u"typed"_s);
     openNode(u"Birth"_s);
     EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
     user.menu(u"mCoverPage"_s);
-    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"typed"_s);
+    EXPECT_EQ(user.text(u"Sub Heading 1:"_s), u"typed"_s);
     user.key(u"Escape"_s);
     user.click(u"cmdClose"_s);
     EXPECT_FALSE(forms().contains(u"frmCoverPage"_s));
@@ -118,7 +118,7 @@ TEST_F(ReferenceScreen, TheCoverPageCanBeChangedInAReadOnlySession) {
     startWithDoctors({});
     user.menu(u"mCoverPage"_s);
     dismissBox();
-    user.fill(u"txtFields(0)"_s, u"The Larkins"_s);
+    user.fill(u"Main Heading:"_s, u"The Larkins"_s);
     user.click(u"cmdUpdate"_s);
     EXPECT_EQ(cell(u"SELECT Heading1 FROM CoverPage"_s), u"The Larkins"_s);
     user.click(u"cmdAdd"_s);

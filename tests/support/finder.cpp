@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QMenu>
 #include <QToolBar>
 
@@ -42,6 +43,16 @@ bool isInner(const QWidget& widget) {
     return qobject_cast<const QComboBox*>(widget.parentWidget()) != nullptr;
 }
 
+/// The controls that labels of this text lead to.
+std::vector<QWidget*> labelled(const std::vector<QWidget*>& controls, const QString& text) {
+    std::vector<QWidget*> found;
+    for (const QWidget* control : controls) {
+        const auto* label = qobject_cast<const QLabel*>(control);
+        if (label && label->buddy() && label->text() == text) found.push_back(label->buddy());
+    }
+    return found;
+}
+
 void addEntries(const QMenu& menu, std::vector<QAction*>& found) {
     const auto entries = menu.actions();
     for (QAction* entry : entries) {
@@ -60,15 +71,19 @@ platform::Form& Finder::form(const QString& name) const {
 
 Finder::Place Finder::place(const QString& name) const {
     const qsizetype dot = name.indexOf(u'.');
-    if (dot < 0) return {form(), name};
+    const bool isDotInLabel = name.endsWith(u':') && !desktop_.find(name.left(dot));
+    if (dot < 0 || isDotInLabel) return {form(), name};
     return {form(name.left(dot)), name.mid(dot + 1)};
 }
 
 QWidget& Finder::control(const QString& name) const {
     const Place at = place(name);
-    for (QWidget* widget : controls(at.form)) {
+    const std::vector<QWidget*> all = controls(at.form);
+    for (QWidget* widget : all) {
         if (widget->objectName() == at.control) return *widget;
     }
+    const std::vector<QWidget*> meant = labelled(all, at.control);
+    if (meant.size() == 1) return *meant.front();
     throw Refused(u"%1 has no control %2"_s.arg(at.form.name(), at.control));
 }
 

@@ -22,7 +22,8 @@ public:
 
     /// The form with the name; for an empty one the topmost modal form, else the active child, else the host.
     [[nodiscard]] platform::Form& form(const QString& name = {}) const;
-    /// A control as "CONTROL" or "FORM.CONTROL".
+    /// A control as "CONTROL" or "FORM.CONTROL", where CONTROL is its name or, as a user would say, the text of the
+    /// label before it. Two boxes of a form with one label go by their names alone.
     [[nodiscard]] QWidget& control(const QString& name) const;
     /// A toolbar key or menu entry, as a control; nullptr if there is none.
     [[nodiscard]] QAction* action(const QString& name) const;
