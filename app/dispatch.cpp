@@ -103,7 +103,6 @@ bool Dispatch::openWindow(const DispatchRow& row) {
     session::DataWindow* window = host_.touch(row.window);
     if (!window) return true;
     if (row.access == Access::Apply) session::setFormAccess(*window, host_.session().gbCanEdit);
-    if (row.data == Data::OnShowMe) window->fill();
     window->show();
     return true;
 }

@@ -8,9 +8,6 @@ namespace app {
 /// Whether read-only mode is applied to a window when it is opened from the tree.
 enum class Access { Apply, Leave };
 
-/// Where a window reads its rows: while it loads, or when the host asks it to.
-enum class Data { OnLoad, OnShowMe };
-
 /// What a click on a category's node opens.
 struct DispatchRow {
     QLatin1StringView key;
@@ -18,7 +15,6 @@ struct DispatchRow {
     /// What stands behind the count's "from": all rows of the category, whoever is selected.
     QLatin1StringView counted;
     Access access;
-    Data data;
 };
 
 /// The row of a node's key; nullptr for a branch and for the nodes of the Security category.

@@ -50,7 +50,6 @@ constexpr OwnClass ownClasses[] = {
     {"frmInventory"_L1, make<screens::ChildScreen>},
     {"frmLoans"_L1, make<screens::SharedTableScreen>},
     {"frmMortgages"_L1, make<screens::SharedTableScreen>},
-    {"frmOrganizations"_L1, make<screens::OrganizationsScreen>},
     {"frmOutbuildings"_L1, make<screens::ChildScreen>},
     {"frmStocks"_L1, make<screens::StocksScreen>},
     {"frmTheyOweYou"_L1, make<screens::SharedTableScreen>},

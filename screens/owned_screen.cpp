@@ -30,16 +30,11 @@ OwnedScreen::OwnedScreen(platform::Desktop& desktop, session::Session& session, 
 // Load -------------------------------------------------------------------------------------------------------------
 
 void OwnedScreen::Form_Load() {
-    if (definition().readsWhenShown) return;
     if (definition().reportsLoadFailure) {
         attemptLoad([this] { loadRows(); });
     } else {
         loadRows();
     }
-}
-
-void OwnedScreen::ShowMe() {
-    if (definition().readsWhenShown && !rows().isOpen()) loadRows();
 }
 
 QString OwnedScreen::selectStatement() const {
@@ -90,9 +85,9 @@ void OwnedScreen::showOwner(const QString& name) {
 
 void OwnedScreen::beginAdd() {
     owner().setLocked(false);
-    sSavedName_ = owner().text().isEmpty() ? workspace().defaultOwner() : owner().text();
+    const QString sSavedName = owner().text().isEmpty() ? workspace().defaultOwner() : owner().text();
     session::fillWithNames(desktop(), session().gConnection, owner());
-    owner().setText(sSavedName_);
+    owner().setText(sSavedName);
     RecordScreen::beginAdd();
 }
 
@@ -119,22 +114,13 @@ void OwnedScreen::prepareSave() {
 }
 
 void OwnedScreen::showAfterAdd() {
-    restoreOwnerName();
-    forgetSavedName();
-}
-
-void OwnedScreen::restoreOwnerName() {
     // The name chosen for the new row is none of the first row's, which is on screen: a save would make it its owner.
-    const QString chosen = owner().text();
     showOwner(QString());
     lookUp(u"Select LegalName from Person where ID ="_s + txtOwnerID_.text());
-    if (!rsLookup().eof()) {
-        const QVariant name = rsLookup().value(u"LegalName"_s);
-        if (name.isNull()) desktop().notice(u"Invalid name in database."_s);
-        sSavedName_ = name.isNull() ? ownerDeleted : name.toString();
-        showOwner(sSavedName_);
-    }
-    if (sSavedName_.isEmpty()) sSavedName_ = chosen;
+    if (rsLookup().eof()) return;
+    const QVariant name = rsLookup().value(u"LegalName"_s);
+    if (name.isNull()) desktop().notice(u"Invalid name in database."_s);
+    showOwner(name.isNull() ? ownerDeleted : name.toString());
 }
 
 void OwnedScreen::finishSave() {

@@ -16,8 +16,6 @@ public:
                 const ScreenDefinition& definition);
 
     void Form_Load() override;
-    /// Reads the rows of a window that reads them only now, the first time: one that shows some keeps them.
-    void ShowMe() override;
 
 protected:
     /// Reads the rows of the selected member, or of the whole family, and shows the first. Without rows it begins an
@@ -32,8 +30,6 @@ protected:
     [[nodiscard]] QString requiredName() const override;
     void prepareSave() override;
     void showAfterAdd() override;
-    /// Shows the owner of the row that is on screen after an add, and keeps the name.
-    void restoreOwnerName();
     void finishSave() override;
     void finishCancel() override;
     void deleteRecord() override;
@@ -46,9 +42,6 @@ protected:
     void showChild(ChildKind kind) override;
 
     [[nodiscard]] platform::ComboBox& owner() const { return *boxes().owner(); }
-    /// The owner's name that survives the steps of an add.
-    [[nodiscard]] const QString& savedName() const { return sSavedName_; }
-    void forgetSavedName() { sSavedName_.clear(); }
 
 private:
     void loadOwner();
@@ -62,7 +55,6 @@ private:
     HiddenBox txtOwnerID_;
     /// PersonID of the owner shown last in a walk through all records.
     QString walkedOwner_;
-    QString sSavedName_;
 };
 
 }  // namespace screens

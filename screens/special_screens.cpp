@@ -34,12 +34,6 @@ bool HomesRentedScreen::validates(int box) {
     return false;
 }
 
-void OrganizationsScreen::showAfterAdd() {
-    restoreOwnerName();
-    owner().setText(savedName());
-    forgetSavedName();
-}
-
 void StocksScreen::cbFields_Click() {
     const FieldBoxes::Combo& state = boxes().combos().front();
     if (boxes().text(state.shadow).text() != state.box->text()) bChange = true;

@@ -16,8 +16,7 @@ protected:
     void beginEdit() override;
 };
 
-/// Alimony: going to the first record also gives the category tree back to the user, which a window that was closed
-/// in the middle of an add has left disabled.
+/// Alimony: going to the first record also gives the category tree back to the user while another window's add has it.
 class AlimonyScreen : public SharedTableScreen {
 public:
     using SharedTableScreen::SharedTableScreen;
@@ -41,15 +40,6 @@ public:
 
 protected:
     [[nodiscard]] bool validates(int box) override;
-};
-
-/// Organizations: after an add the owner combo shows the kept name even when the row's owner can't be looked up.
-class OrganizationsScreen : public OwnedScreen {
-public:
-    using OwnedScreen::OwnedScreen;
-
-protected:
-    void showAfterAdd() override;
 };
 
 /// Stocks: a pick in the state combo counts as a change of the record, which it does on no other screen.

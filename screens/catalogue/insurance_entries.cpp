@@ -22,7 +22,6 @@ constexpr ScreenDefinition homeInsurance{
     .ownerLabel = "Person:"_L1,
     .saveEnding = "home owner's insurance information can be created."_L1,
     .deleteNoun = "home owner's insurance information?"_L1,
-    .readsWhenShown = true,
     .frames = homeInsuranceFrames,
 };
 

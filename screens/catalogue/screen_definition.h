@@ -71,7 +71,6 @@ struct ScreenDefinition {
     QLatin1StringView deleteNoun{};  ///< after "Are you sure you want to delete this "
     QLatin1StringView saveAllHint = QLatin1StringView("Save all records to file");
     bool reportsLoadFailure = false;
-    bool readsWhenShown = false;  ///< reads its rows when the window comes up, not while it loads
 
     std::optional<SharedRows> shared{};
     std::span<const Override> overrides{};
