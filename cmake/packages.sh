@@ -2,7 +2,7 @@
 
 # To build, run and test.
 buildPackages=(
-  g++ cmake ninja-build ccache
+  g++ cmake ninja-build ccache mold
   qt6-base-dev      # windows, printing, tests; brings the X11 and the headless platform along
   qt6-svg-dev       # draws the icons of the application folder
   libqt6svg6        # lets the icon theme's pictures be read at run time
