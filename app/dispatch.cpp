@@ -22,6 +22,7 @@ namespace {
 constexpr int withData = 2;
 constexpr int mostForms = 10;
 const QString pinList = u"frmPinsAndPasswords"_s;
+const QString pinsNode = u"PINsPasswords"_s;
 }  // namespace
 
 void Dispatch::nodeClick(int nodeIndex) {
@@ -29,15 +30,33 @@ void Dispatch::nodeClick(int nodeIndex) {
         if (host_.desktop().count() > 1 && host_.activeHasChanges()) {
             host_.setSelectedName(host_.session().gsPersonName);
             session::showScreenChanges(host_.desktop());
+            host_.showFrontNode();
             return;
         }
-        if (tooManyWindows()) return;
+        if (tooManyWindows()) {
+            host_.showFrontNode();
+            return;
+        }
         platform::TreeView& tree = host_.tvTree();
         host_.categories().setImage(host_.currentNode());
         tree.setImage(nodeIndex, withData);
         host_.setCurrentNode(nodeIndex);
         if (follow(tree.key(nodeIndex))) tree.setImage(nodeIndex, withData);
     });
+}
+
+int Dispatch::nodeOf(const QString& window) const {
+    const platform::TreeView& tree = host_.tvTree();
+    const auto opens = [&](int index) {
+        const DispatchRow* row = dispatchRow(tree.key(index));
+        return row ? QString(row->window) == window : window == pinList && tree.key(index) == pinsNode;
+    };
+    // Some windows have two nodes.
+    if (opens(host_.currentNode())) return host_.currentNode();
+    for (int index = 1; index <= tree.nodeCount(); ++index) {
+        if (opens(index)) return index;
+    }
+    return 0;
 }
 
 bool Dispatch::tooManyWindows() const {
@@ -52,7 +71,7 @@ bool Dispatch::tooManyWindows() const {
 
 bool Dispatch::follow(const QString& key) {
     if (const DispatchRow* row = dispatchRow(key)) return openWindow(*row);
-    if (key == u"PINsPasswords"_s) openPins();
+    if (key == pinsNode) openPins();
     platform::Desktop& desktop = host_.desktop();
     if (key == u"SecurityInfo"_s) desktop.load(std::make_unique<SecurityInfo>(desktop)).showModal();
     if (key == u"CategoryListHelp"_s) desktop.load(std::make_unique<CategoryListHelp>(desktop)).showModal();
@@ -98,6 +117,7 @@ bool Dispatch::changePinPassword() {
 bool Dispatch::openWindow(const DispatchRow& row) {
     if (host_.count(QString(row.counted)) == 0 && !host_.session().gbCanEdit) {
         session::showNoDataNoLogin(host_.desktop());
+        if (host_.activeForm()) host_.showFrontNode();
         return false;
     }
     session::DataWindow* window = host_.touch(row.window);

@@ -14,6 +14,8 @@ public:
     explicit Dispatch(MDIHost& host) : host_(host) {}
 
     void nodeClick(int nodeIndex);
+    /// Index of the node that opens a window: of two the one that was clicked last; 0 if no node does.
+    [[nodiscard]] int nodeOf(const QString& window) const;
 
 private:
     /// False for a refusal that ends the click there, with the node's picture as it is.

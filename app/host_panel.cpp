@@ -15,9 +15,9 @@ namespace app {
 
 namespace {
 
-constexpr int panelWidth = 290;
-/// 630 twips at 96 dpi.
-constexpr int firstRunButtonHeight = 42;
+constexpr int margin = 8;
+constexpr qreal guidanceScale = 1.15;
+constexpr qreal headingScale = 1.35;
 
 struct Guidance {
     QLatin1StringView name;
@@ -42,6 +42,13 @@ QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text) {
     return label;
 }
 
+void enlarge(QLabel& label, qreal scale, bool bold) {
+    QFont font = label.font();
+    font.setPointSizeF(font.pointSizeF() * scale);
+    font.setBold(bold);
+    label.setFont(font);
+}
+
 }  // namespace
 
 HostPanel::HostPanel(QWidget* parent)
@@ -52,7 +59,6 @@ HostPanel::HostPanel(QWidget* parent)
       tvTree_(new platform::TreeView(this)),
       guidance_(makeGuidance()) {
     setObjectName(u"Picture1"_s);
-    setFixedWidth(panelWidth);
     frame1_->setObjectName(u"Frame1"_s);
     cbPerson_->setName(u"cbPerson"_s);
     cbPerson_->setAccessibleName(frame1_->title());
@@ -64,13 +70,17 @@ HostPanel::HostPanel(QWidget* parent)
     auto* selector = new QVBoxLayout(frame1_);
     selector->addWidget(cbPerson_);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(8, 8, 8, 8);
+    column->setContentsMargins(margin, margin, margin, margin);
     column->addWidget(frame1_);
     column->addWidget(cmdAddNew_);
     column->addWidget(guidance_);
     column->addWidget(tvTree_, 1);
     column->addStretch(0);
     guidance_->hide();
+}
+
+QSize HostPanel::sizeHint() const {
+    return {tvTree_->widestNode() + 2 * margin, QWidget::sizeHint().height()};
 }
 
 QString HostPanel::usualAddCaption() {
@@ -81,8 +91,12 @@ QWidget* HostPanel::makeGuidance() {
     auto* page = new QWidget(this);
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(0, 8, 0, 0);
-    for (const Guidance& line : guidance)
-        column->addWidget(makeLabel(page, line.name, line.text));
+    for (const Guidance& line : guidance) {
+        QLabel* label = makeLabel(page, line.name, line.text);
+        const bool isHeading = &line == &guidance.front();
+        enlarge(*label, isHeading ? headingScale : guidanceScale, isHeading);
+        column->addWidget(label);
+    }
     column->addSpacing(12);
     label1_ = makeLabel(
         page, u"Label1"_s,
@@ -92,6 +106,7 @@ QWidget* HostPanel::makeGuidance() {
         "Space Bar - Used to check and uncheck the check boxes.  A mouse click will also check and uncheck a check "
         "box.  "
         "These tips are in the Help file as Keyboard/Mouse Tips."_s);
+    enlarge(*label1_, guidanceScale, false);
     column->addWidget(label1_);
     column->addStretch(1);
     return page;
@@ -103,7 +118,7 @@ void HostPanel::showFirstRun() {
     tvTree_->hide();
     guidance_->show();
     label1_->show();
-    cmdAddNew_->setMinimumHeight(firstRunButtonHeight);
+    cmdAddNew_->setMinimumHeight(cmdAddNew_->fontMetrics().lineSpacing() * 14 / 5);
     cmdAddNew_->setText(u"Head of Household\r\nClick Here To Enter"_s);
 }
 

@@ -22,6 +22,9 @@ class HostPanel : public QWidget {
 public:
     explicit HostPanel(QWidget* parent);
 
+    /// As wide as the widest node of the tree.
+    [[nodiscard]] QSize sizeHint() const override;
+
     /// Caption of the add button in its usual look; the host tells the first run by it.
     [[nodiscard]] static QString usualAddCaption();
 

@@ -9,6 +9,7 @@
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
+#include "platform/forms/icons.h"
 #include "session/definition_file.h"
 #include "session/pin_lists.h"
 #include "session/session.h"
@@ -27,6 +28,7 @@ constexpr int usualSplashSeconds = 2;
 Kinbook::Kinbook(const QString& applicationFolder)
     : desktop_(std::make_unique<platform::Desktop>()), session_(std::make_unique<session::Session>()) {
     session_->applicationFolder = applicationFolder;
+    QApplication::setWindowIcon(platform::ownIcon(u"kinbook"_s));
 }
 
 Kinbook::~Kinbook() = default;

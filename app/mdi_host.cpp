@@ -2,7 +2,6 @@
 
 #include <QGroupBox>
 #include <QGuiApplication>
-#include <QIcon>
 #include <QMenu>
 #include <QScreen>
 #include <algorithm>
@@ -19,6 +18,7 @@
 #include "platform/forms/command_button.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/form_window.h"
+#include "platform/forms/icons.h"
 #include "platform/forms/menus.h"
 #include "platform/forms/tree_view.h"
 #include "screens/child_screen.h"
@@ -56,7 +56,7 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
     desktop.setHost(this);
     setPanel(*panel_);
     setCaption(u"Larkmoor Kinbook"_s);
-    setWindowIcon(QIcon(session.path(u"TheLarkmoorIcon.ico"_s)));
+    setEmptyPicture(platform::ownIcon(u"kinbook"_s));
     // Leaves room for the frame that the desktop puts around the window.
     resize(QSize(1200, 800).boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(8, 40)));
     makeMenus();
@@ -272,6 +272,15 @@ qint64 MDIHost::count(const QString& counted) {
     const qint64 rows = rsHost_.value(u"NumRec"_s).toLongLong();
     rsHost_.close();
     return rows;
+}
+
+void MDIHost::frontChanged() {
+    showFrontNode();
+}
+
+void MDIHost::showFrontNode() {
+    const platform::Form* front = activeForm();
+    tvTree().showNode(front ? dispatch_.nodeOf(front->name()) : 0);
 }
 
 session::DataWindow* MDIHost::touch(const QString& name) {

@@ -32,6 +32,8 @@ public:
     /// Index of the tree node clicked last, 1 at start.
     [[nodiscard]] int currentNode() const { return iCurrentNode_; }
     void setCurrentNode(int index) { iCurrentNode_ = index; }
+    /// Selects the node of the window in front in the tree, or none.
+    void showFrontNode();
     /// The active child holds unsaved changes.
     [[nodiscard]] bool activeHasChanges() const;
     /// Rows behind "SELECT Count(*) from" and the given text.
@@ -71,6 +73,7 @@ public:
 
 protected:
     void closeHost() override;
+    void frontChanged() override;
 
 private:
     /// Who is selected, and whether the tree may be used.

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -122,6 +123,13 @@ void SplashWindow::layOut() {
     setMinimumSize(520, 320);
     adjustSize();
     move(QGuiApplication::primaryScreen()->geometry().center() - rect().center());
+}
+
+void SplashWindow::paintEvent(QPaintEvent* event) {
+    FormWindow::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void SplashWindow::Form_KeyPress(int /*keyAscii*/) {

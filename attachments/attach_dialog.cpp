@@ -34,17 +34,17 @@ AttachDialog::AttachDialog(platform::Desktop& desktop, session::Session& session
     : FormWindow(desktop, u"frmAttach"_s, Kind::Dialog),
       session_(session),
       store_(session.gConnection, session.applicationFolder, session.gvAttachKey),
-      lvAttach_(new platform::ListView({{u"FileName"_s, 130},
-                                        {u"FilePath"_s, 160},
-                                        {u"Type"_s, 60},
-                                        {u"FileDescription"_s, 220},
-                                        {u"OldFileName"_s, 150},
-                                        {u"Seq"_s, 40}},
+      lvAttach_(new platform::ListView({{u"FileName"_s, 16},
+                                        {u"FilePath"_s, 12},
+                                        {u"Type"_s, 8},
+                                        {u"FileDescription"_s},
+                                        {u"OldFileName"_s},
+                                        {u"Seq"_s, 6}},
                                        this)) {
     setCaption(u"Kinbook Attachments"_s);
     makePopupMenu();
     layOut(ownerName);
-    resize(820, 400);
+    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 26);
 }
 
 void AttachDialog::layOut(const QString& ownerName) {
@@ -114,8 +114,9 @@ void AttachDialog::populateListView() {
     });
 }
 
-void AttachDialog::showChanges() {
+void AttachDialog::showChanges(const QString& fileName) {
     populateListView();
+    lvAttach_->selectItem(lvAttach_->find(nameColumn, fileName));
     lvAttach_->setFocus();
 }
 
@@ -140,7 +141,7 @@ void AttachDialog::addFile(const QString& source) {
     stored.fileDesc = desktop().dialogs().inputBox(u"Please enter a description of the attachment."_s,
                                                    u"Attachment Description"_s, {});
     store_.addRow(stored);
-    showChanges();
+    showChanges(stored.fileName);
 }
 
 // View -------------------------------------------------------------------------------------------------------------
@@ -223,8 +224,9 @@ void AttachDialog::mnuEditDesc_Click() {
     const QString description =
         desktop().dialogs().inputBox(u"Enter the corrected file description."_s, u"Edit File Description"_s,
                                      lvAttach_->selectedText(descriptionColumn));
-    if (!description.isEmpty()) store_.setDescription(selectedName(), description);
-    showChanges();
+    const QString edited = selectedName();
+    if (!description.isEmpty()) store_.setDescription(edited, description);
+    showChanges(edited);
 }
 
 // Close ------------------------------------------------------------------------------------------------------------

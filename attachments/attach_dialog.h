@@ -34,8 +34,8 @@ private:
     void makePopupMenu();
 
     void populateListView();
-    /// The list anew, with the focus in it.
-    void showChanges();
+    /// The list anew, with the focus in it and the file of that stored name selected, if there is one.
+    void showChanges(const QString& fileName = {});
 
     void cmdAdd_Click();
     void addFile(const QString& source);

@@ -50,6 +50,9 @@ QString quoted(const std::vector<QLatin1StringView>& names) {
 QString declaredType(const Column& column) {
     switch (column.kind) {
         case FieldKind::Text:
+        case FieldKind::City:
+        case FieldKind::Zip:
+        case FieldKind::Phone:
             if (column.maxLength > 0) return u"TEXT(%1) COLLATE NOCASE"_s.arg(column.maxLength);
             return u"TEXT COLLATE NOCASE"_s;
         case FieldKind::LongText:

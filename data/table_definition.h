@@ -5,8 +5,9 @@
 
 namespace data {
 
-/// What a column holds. Whole is a number to count or to refer with, Number one to reckon with.
-enum class FieldKind { Text, LongText, Number, Whole, Date, YesNo };
+/// What a column holds. Whole is a number to count or to refer with, Number one to reckon with. City, Zip and Phone are
+/// texts of a usual look, which a window gives the room that it takes.
+enum class FieldKind { Text, City, Zip, Phone, LongText, Number, Whole, Date, YesNo };
 
 /// Where a window shows a column: in a box of its kind, in a combo of the state names or of the marital status, or in
 /// none.

@@ -12,7 +12,7 @@ const ListDefinition assetList{
     .window = u"frmAssetLiquidation"_s,
     .caption = u"Asset Liquidation Information"_s,
     .table = u"AssetLiquidation"_s,
-    .rowTwips = 675,
+    .rowLines = 3,
     .shares = {0.001, 0.07, 0.28, 0.615},
     .form = {u"frmAssetLiqEdit"_s,
              u"Asset Liquidation Edit Screen"_s,

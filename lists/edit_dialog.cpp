@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 namespace lists {
 
 namespace {
-constexpr int inputWidth = 420;
-constexpr int memoHeight = 150;
+constexpr int inputCharacters = 62;
+constexpr int memoLines = 9;
 }  // namespace
 
 EditDialog::EditDialog(platform::Desktop& desktop, const EditForm& form)
@@ -38,7 +38,7 @@ void EditDialog::addInput(QFormLayout& rows, const EditField& field) {
         widget = input.combo;
     } else if (field.kind == EditField::Kind::Memo) {
         auto* memo = new platform::MemoBox(this);
-        memo->setMinimumHeight(memoHeight);
+        memo->setMinimumHeight(memo->heightOfLines(memoLines));
         input.box = memo;
         widget = memo;
     } else {
@@ -48,7 +48,7 @@ void EditDialog::addInput(QFormLayout& rows, const EditField& field) {
     }
     platform::Control::of(widget)->setName(field.name);
     widget->setEnabled(field.enabled);
-    widget->setMinimumWidth(inputWidth);
+    widget->setMinimumWidth(fontMetrics().averageCharWidth() * inputCharacters);
     auto* label = new QLabel(field.label, this);
     label->setBuddy(widget);
     rows.addRow(label, widget);

@@ -12,7 +12,7 @@ const ListDefinition familyList{
     .window = u"frmFamilySequence"_s,
     .caption = u"Family Sequence Information"_s,
     .table = u"Person"_s,
-    .rowTwips = 315,
+    .rowLines = 1,
     .shares = {0.001, 0.07, 0.615, 0.28},
     .form = {u"frmFamilySeqEdit"_s,
              u"Family Sequence Edit Screen"_s,

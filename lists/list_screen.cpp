@@ -21,7 +21,7 @@ ListScreen::ListScreen(platform::Desktop& desktop, session::Session& session, se
                        const ListDefinition& definition)
     : DataWindow(desktop, session, workspace, definition.window),
       definition_(definition),
-      grdDataGrid_(new platform::DataGrid(definition.rowTwips, this)) {
+      grdDataGrid_(new platform::DataGrid(definition.rowLines, this)) {
     for (data::Recordset* recordset : {&rows_, &rsRowWrite_, &rsStatement_}) {
         recordset->setCursorLocation(data::CursorLocation::Client);
         recordset->setLockType(data::LockType::Optimistic);

@@ -23,7 +23,7 @@ struct ListDefinition {
     QString caption;
     /// The table whose rows the list edits.
     QString table;
-    int rowTwips;
+    int rowLines;  ///< of text in a row of the grid
     /// Of the grid's width, by columns. The first column is the key.
     std::vector<double> shares;
     EditForm form;

@@ -19,7 +19,7 @@ const ListDefinition logList{
     .window = u"frmMedicalLog"_s,
     .caption = u"Medical Log -- "_s,
     .table = u"MedicalLog"_s,
-    .rowTwips = 675,
+    .rowLines = 3,
     .shares = {0.001, 0.2, 0.15, 0.15, 0.2, 0.26},
     .form = {u"frmMedLogEdit"_s,
              u"Medical Log Edit"_s,

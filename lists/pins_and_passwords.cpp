@@ -20,7 +20,7 @@ const ListDefinition pinList{
     .window = u"frmPinsAndPasswords"_s,
     .caption = u"PIN and Password Information"_s,
     .table = u"PIN_Password"_s,
-    .rowTwips = 315,
+    .rowLines = 2,
     .shares = {0.001, 0.07, 0.545, 0.17, 0.21, 0.001, 0.001},
     .form = {u"frmPinsAndPassEdit"_s,
              u"PINs and Passwords Edit Screen"_s,

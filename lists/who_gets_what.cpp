@@ -10,7 +10,7 @@ const ListDefinition giftList{
     .window = u"frmWhoGetsWhat"_s,
     .caption = u"Who Gets What Information"_s,
     .table = u"WhoGetsWhat"_s,
-    .rowTwips = 675,
+    .rowLines = 3,
     .shares = {0.001, 0.6, 0.36},
     .form = {u"frmWhoGetsWhatEdit"_s,
              u"Who Gets What Edit Screen"_s,

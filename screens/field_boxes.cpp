@@ -186,18 +186,9 @@ void FieldBoxes::fillCombos(const QStringList& states) {
     }
 }
 
-void FieldBoxes::orderTabs() const {
-    QWidget* before = nullptr;
-    const auto follow = [&before](QWidget* next) {
-        if (before) QWidget::setTabOrder(before, next);
-        before = next;
-    };
-    for (const auto& [index, text] : texts_) {
-        QWidget* combo = comboOver(index);
-        follow(combo ? combo : &text.box->widget());
-    }
-    for (const Check& check : checks_)
-        follow(check.box);
+void FieldBoxes::orderTabs(const std::vector<QWidget*>& order) {
+    for (std::size_t i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 void FieldBoxes::clearUnstored() {

@@ -81,9 +81,8 @@ public:
     void writeDates(platform::RecordSource& rows) const;
     /// Fills the status combo with its own items and every other combo with the names of the states.
     void fillCombos(const QStringList& states);
-    /// Tab runs through the boxes in index order, then through the check boxes. To be called when they stand in their
-    /// frames.
-    void orderTabs() const;
+    /// Tab runs through the controls in this order. To be called when they stand in their frames.
+    static void orderTabs(const std::vector<QWidget*>& order);
     /// Clears the check boxes that no column stores: another row is on screen.
     void clearUnstored();
     /// Copies each combo's text into its shadow, for the output that walks the text boxes.

@@ -1,17 +1,17 @@
 #include "screens/frame_layout.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
+#include <QStyleOptionGroupBox>
+#include <QVBoxLayout>
 #include <utility>
 
-#include "data/table_definition.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/text_control.h"
+#include "screens/box_room.h"
 #include "screens/catalogue/screen_fields.h"
-#include "screens/field_boxes.h"
+#include "screens/field_layout.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,128 +19,116 @@ namespace screens {
 
 namespace {
 
-constexpr int columnsOfBoxes = 2;
-constexpr int cellsPerBox = 2;
-constexpr int checksPerRow = 4;
-constexpr int memoLines = 3;
+constexpr int mostColumns = 3;
 
-bool isLong(const FieldBoxes::Text& text) {
-    return text.column && text.column->kind == data::FieldKind::LongText;
-}
-
-/// One frame's grid, filled from the left to the right and down.
-class Grid {
+/// A frame that may be narrower than its caption, which is cut with an ellipsis then.
+class FrameBox : public QGroupBox {
 public:
-    Grid(QGroupBox& frame, const FieldBoxes& boxes) : frame_(frame), boxes_(boxes), grid_(new QGridLayout(&frame)) {
-        grid_->setHorizontalSpacing(8);
-        grid_->setVerticalSpacing(6);
-        for (int i = 0; i < columnsOfBoxes; ++i)
-            grid_->setColumnStretch(i * cellsPerBox + 1, 1);
-    }
+    using QGroupBox::QGroupBox;
 
-    void add(int index, const FieldBoxes::Text& text, bool alone) {
-        QWidget* box = boxes_.comboOver(index);
-        if (!box) box = &text.box->widget();
-        text.label->setParent(&frame_);
-        box->setParent(&frame_);
-        if (isLong(text)) {
-            addLong(text, *box, alone);
-            return;
+    [[nodiscard]] QSize minimumSizeHint() const override { return layout()->totalMinimumSize(); }
+
+protected:
+    void initStyleOption(QStyleOptionGroupBox* option) const override {
+        QGroupBox::initStyleOption(option);
+        option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, width(), Qt::TextShowMnemonic);
+    }
+};
+
+/// The cells of one frame, in the order of the boxes.
+class Cells {
+public:
+    /// `count`: stands behind the first box; nullptr for none.
+    Cells(const FieldBoxes& boxes, QLabel* count) : boxes_(boxes), count_(count) {}
+
+    std::vector<FieldCell> of(const FilledFrame& frame) {
+        for (const auto& [index, text] : boxes_.texts()) {
+            if (frame.boxes.holds(index)) add(frame, index, text);
         }
-        const int cell = (column_ % columnsOfBoxes) * cellsPerBox;
-        grid_->addWidget(text.label, row_, cell, Qt::AlignRight | Qt::AlignVCenter);
-        grid_->addWidget(box, row_, cell + 1);
-        if (++column_ == columnsOfBoxes) newRow();
-    }
-
-    /// Sets the sign that belongs to a rate right behind its box.
-    void addPercentSign(QWidget& box) {
-        int row = 0, column = 0, rows = 0, columns = 0;
-        grid_->getItemPosition(grid_->indexOf(&box), &row, &column, &rows, &columns);
-        auto* sign = new QLabel(u"%"_s, &frame_);
-        sign->setObjectName(u"lblPercent"_s);
-        auto* both = new QHBoxLayout;
-        both->setSpacing(4);
-        grid_->removeWidget(&box);
-        both->addWidget(&box, 1);
-        both->addWidget(sign);
-        grid_->addLayout(both, row, column);
-    }
-
-    void addChecks(Range range) {
-        newRow();
-        auto* row = new QGridLayout;
-        row->setHorizontalSpacing(24);
-        for (int i = range.first; i <= range.last; ++i) {
-            QWidget* box = boxes_.checks().at(static_cast<std::size_t>(i)).box;
-            box->setParent(&frame_);
-            row->addWidget(box, (i - range.first) / checksPerRow, (i - range.first) % checksPerRow);
+        for (int i = frame.checks.first; i <= frame.checks.last; ++i) {
+            QWidget* check = boxes_.checks().at(static_cast<std::size_t>(i)).box;
+            cells_.push_back({.kind = FieldCell::Kind::Check, .box = check});
         }
-        row->setColumnStretch(checksPerRow, 1);
-        grid_->addLayout(row, row_, 0, 1, columnsOfBoxes * cellsPerBox);
-        ++row_;
+        return std::move(cells_);
     }
-
-    void addAttachments(QLabel& count) {
-        count.setParent(&frame_);
-        grid_->addWidget(&count, row_, cellsPerBox, 1, cellsPerBox, Qt::AlignRight | Qt::AlignVCenter);
-        newRow();
-    }
-
-    [[nodiscard]] bool stretches() const { return stretches_; }
 
 private:
-    void addLong(const FieldBoxes::Text& text, QWidget& box, bool alone) {
-        newRow();
-        stretches_ = true;
-        box.setMinimumHeight(box.fontMetrics().lineSpacing() * memoLines);
-        grid_->setRowStretch(row_, 1);
-        if (alone) {
-            // The frame's caption says it already.
-            text.label->hide();
-            grid_->addWidget(&box, row_, 0, 1, columnsOfBoxes * cellsPerBox);
-        } else {
-            grid_->addWidget(text.label, row_, 0, Qt::AlignRight | Qt::AlignTop);
-            grid_->addWidget(&box, row_, 1, 1, columnsOfBoxes * cellsPerBox - 1);
+    void add(const FilledFrame& frame, int index, const FieldBoxes::Text& text) {
+        platform::Control* box = text.box;
+        if (platform::ComboBox* combo = boxes_.comboOver(index)) box = combo;
+        FieldCell cell{.label = text.label, .box = &box->widget()};
+        if (text.column && text.column->kind == data::FieldKind::LongText) {
+            addLong(frame, cell);
+            return;
         }
-        ++row_;
+        cell.room = boxRoom(text, *box);
+        cell.joins = joins(text);
+        if (text.column && text.column->isRate()) cell.tail = percentSign(*cell.box);
+        if (QLabel* count = std::exchange(count_, nullptr)) {
+            cell.tail = count;
+            cell.endsRow = true;
+        }
+        cells_.push_back(cell);
     }
 
-    void newRow() {
-        if (column_ == 0) return;
-        column_ = 0;
-        ++row_;
+    void addLong(const FilledFrame& frame, FieldCell cell) {
+        cell.kind = FieldCell::Kind::Long;
+        if (frame.boxes.count() == 1) {
+            // The frame's caption says it already.
+            cell.label->hide();
+            cell.label = nullptr;
+        }
+        cells_.push_back(cell);
     }
 
-    QGroupBox& frame_;
+    /// A city begins a row that goes on to its state, and to the Zip behind that.
+    bool joins(const FieldBoxes::Text& text) {
+        if (!text.column) return false;
+        const bool isState = text.column->shownIn == data::ShownIn::StateCombo;
+        const bool goesOn =
+            place_ == Place::City || (place_ == Place::State && text.column->kind == data::FieldKind::Zip);
+        if (text.column->kind == data::FieldKind::City) {
+            place_ = Place::City;
+            return false;
+        }
+        place_ = !goesOn ? Place::None : isState ? Place::State : place_ == Place::City ? Place::City : Place::None;
+        return goesOn;
+    }
+
+    QLabel* percentSign(const QWidget& box) const {
+        auto* sign = new QLabel(u"%"_s, box.parentWidget());
+        sign->setObjectName(u"lblPercent"_s);
+        return sign;
+    }
+
+    enum class Place { None, City, State };
+
     const FieldBoxes& boxes_;
-    QGridLayout* grid_;
-    int row_ = 0;
-    int column_ = 0;
-    bool stretches_ = false;
+    QLabel* count_;
+    std::vector<FieldCell> cells_;
+    Place place_ = Place::None;
 };
 
 }  // namespace
 
-void layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& definition, const FieldBoxes& boxes,
-                  QLabel& attachments) {
+std::vector<QWidget*> layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& definition,
+                                   const FieldBoxes& boxes, QLabel& attachments) {
+    auto sheet = std::make_shared<FieldSheet>(definition.inOneColumn ? 1 : mostColumns);
+    std::vector<QWidget*> order;
     bool stretches = false;
-    QLabel* count = &attachments;
+    QLabel* count = attachments.isHidden() ? nullptr : &attachments;
     for (const FilledFrame& frame : filledFrames(definition)) {
-        auto* box = new QGroupBox(QString(frame.caption).replace(u'&', u"&&"_s), &page);
+        auto* box = new FrameBox(QString(frame.caption).replace(u'&', u"&&"_s), &page);
         box->setObjectName(platform::indexedName(u"frFrame"_s, frame.index));
-        Grid grid(*box, boxes);
-        for (const auto& [i, text] : boxes.texts()) {
-            if (!frame.boxes.holds(i)) continue;
-            grid.add(i, text, frame.boxes.count() == 1);
-            if (text.column && text.column->isRate()) grid.addPercentSign(text.box->widget());
-            if (QLabel* label = std::exchange(count, nullptr)) grid.addAttachments(*label);
-        }
-        if (frame.checks.count() > 0) grid.addChecks(frame.checks);
-        column.addWidget(box, grid.stretches() ? 1 : 0);
-        stretches = stretches || grid.stretches();
+        auto* layout = new FieldLayout(*box, sheet);
+        layout->setCells(Cells(boxes, std::exchange(count, nullptr)).of(frame));
+        for (const FieldCell& cell : layout->cells())
+            order.push_back(cell.box);
+        column.addWidget(box, layout->stretches() ? 1 : 0);
+        stretches = stretches || layout->stretches();
     }
     if (!stretches) column.addStretch(1);
+    return order;
 }
 
 }  // namespace screens

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 class QLabel;
 class QVBoxLayout;
 class QWidget;
@@ -9,10 +11,10 @@ namespace screens {
 class FieldBoxes;
 struct ScreenDefinition;
 
-/// Stands the numbered controls of a screen in its frames, one below the other, in index order: two columns of boxes
-/// with their labels right-aligned beside them; long texts take the whole width and the height that is left. The count
-/// of attachments stands beside the very first box.
-void layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& definition, const FieldBoxes& boxes,
-                  QLabel& attachments);
+/// Stands the numbered controls of a screen in its frames, one below the other. All frames share their columns of
+/// labels and boxes; the count of attachments stands behind the very first box. Returns the boxes and check boxes in
+/// reading order.
+[[nodiscard]] std::vector<QWidget*> layOutFrames(QWidget& page, QVBoxLayout& column, const ScreenDefinition& definition,
+                                                 const FieldBoxes& boxes, QLabel& attachments);
 
 }  // namespace screens

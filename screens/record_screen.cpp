@@ -27,6 +27,8 @@ namespace screens {
 
 namespace {
 
+const QString noAttachments = u"Attachments:  0"_s;
+
 /// Name and picture of what opens a child screen, in the order of ChildKind.
 const std::pair<QString, QString> childKeys[] = {
     {u"Inventory"_s, u"view-list-details"_s}, {u"Improvements"_s, u"tools"_s}, {u"Outbuildings"_s, u"go-home"_s}};
@@ -63,12 +65,12 @@ void RecordScreen::layOut() {
     auto* page = new QWidget;
     auto* frames = new QVBoxLayout(page);
     frames->setContentsMargins(9, 0, 9, 0);
-    lblAttachments_ = new QLabel(u"Attachments:  0"_s, page);
+    lblAttachments_ = new QLabel(noAttachments, page);
     lblAttachments_->setObjectName(u"lblAttachments"_s);
     lblAttachments_->setHidden(definition_.attachmentPrefix.isEmpty());
-    layOutFrames(*page, *frames, definition_, boxes_, *lblAttachments_);
+    const std::vector<QWidget*> order = layOutFrames(*page, *frames, definition_, boxes_, *lblAttachments_);
     scroll->setWidget(page);
-    boxes_.orderTabs();
+    FieldBoxes::orderTabs(order);
     column->addWidget(scroll, 1);
 
     auto* foot = new QVBoxLayout;
@@ -198,6 +200,8 @@ void RecordScreen::beginAdd() {
     if (!(rows_.bof() && rows_.eof())) vBookmark_ = rows_.bookmark();
     rows_.addNew();
     buttons_->status().setText(u"Add record"_s);
+    countBesideAdd_ = lblAttachments_->text();
+    lblAttachments_->setText(noAttachments);
     bAdding_ = true;
     setButtons(false);
     for (const FieldBoxes::Check& check : boxes_.checks())
@@ -277,6 +281,7 @@ bool RecordScreen::finishAdd() {
 void RecordScreen::cmdCancel_Click() {
     workspace().enableTree(true);
     setButtons(true);
+    if (bAdding_) lblAttachments_->setText(countBesideAdd_);
     bEditing_ = false;
     bAdding_ = false;
     boxes_.bindDates(&rows_);

@@ -169,6 +169,8 @@ private:
     std::unique_ptr<session::WindowMenus> menus_;
     std::unique_ptr<session::RecordButtons> buttons_;
     QLabel* lblAttachments_ = nullptr;
+    /// What the count reads when an add is cancelled; a new record has no files.
+    QString countBesideAdd_;
     std::unique_ptr<HiddenBox> txtID_;
     platform::TextControl* focusWhenShown_ = nullptr;
 

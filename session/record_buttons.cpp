@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPalette>
 #include <utility>
 
 #include "platform/forms/command_button.h"
@@ -19,6 +20,9 @@ platform::CommandButton* button(QWidget& row, const QString& name, const QString
     made->setName(name);
     made->setText(caption);
     made->onClick(action);
+    // In a narrow window a button is as wide as its words.
+    const int words = made->fontMetrics().size(Qt::TextShowMnemonic, caption).width();
+    if (!caption.isEmpty()) made->setMinimumWidth(words + 3 * made->fontMetrics().averageCharWidth());
     row.layout()->addWidget(made);
     return made;
 }
@@ -29,8 +33,16 @@ platform::CommandButton* moveButton(QWidget& row, const QString& name, const QSt
     made->setIcon(platform::themeIcon(icon));
     made->setToolTip(hint);
     made->setAccessibleName(hint);
-    made->setFixedWidth(made->sizeHint().height() + 8);
+    made->setFixedWidth(made->sizeHint().height() * 4 / 3);
     return made;
+}
+
+/// The status field while a record is added or edited: dark on amber, in every palette.
+QPalette changingColours() {
+    QPalette colours;
+    colours.setColor(QPalette::Window, QColor(0xff, 0xc8, 0x4a));
+    colours.setColor(QPalette::WindowText, QColor(0x1c, 0x1c, 0x1c));
+    return colours;
 }
 
 QWidget* row(QWidget& form, QVBoxLayout& column, const QString& name) {
@@ -90,6 +102,8 @@ void RecordButtons::showBrowsing(bool browsing) {
     show({edit_, close_}, browsing);
     show({add_, delete_}, browsing && actions_.add);
     show({update_, cancel_}, !browsing);
+    status_->setAutoFillBackground(!browsing);
+    status_->setPalette(browsing ? QPalette() : changingColours());
 }
 
 void RecordButtons::addNote(QLabel& note) {

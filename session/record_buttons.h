@@ -25,7 +25,8 @@ class RecordButtons {
 public:
     RecordButtons(QWidget& form, QVBoxLayout& column, const QString& addCaption, RecordActions actions);
 
-    /// The action row shows Add, Edit, Delete and Close while browsing, Save and Cancel otherwise.
+    /// The action row shows Add, Edit, Delete and Close while browsing, Save and Cancel otherwise,
+    /// with the status field coloured.
     void showBrowsing(bool browsing);
     void enableMoves(bool enabled);
     [[nodiscard]] QLabel& status() const { return *status_; }

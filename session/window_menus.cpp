@@ -31,23 +31,25 @@ WindowMenus::WindowMenus(QWidget& form, const WindowCommands& commands) : toolba
     makeHelpMenu(form, commands);
 
     toolbar_->setObjectName(u"Toolbar1"_s);
-    toolbar_->setIconSize({22, 22});
-    addKey(u"tbNew"_s, u"document-new"_s, u"New database"_s, commands.newDatabase);
-    addKey(u"tbOpen"_s, u"document-open"_s, u"Restore database"_s, commands.restore);
-    addKey(u"tbBackup"_s, u"document-save-as"_s, u"Backup database"_s, commands.backup);
+    const int side = form.fontMetrics().height() * 3 / 2;
+    toolbar_->setIconSize({side, side});
+    addKey(u"tbNew"_s, platform::themeIcon(u"document-new"_s), u"New database"_s, commands.newDatabase);
+    addKey(u"tbOpen"_s, platform::themeIcon(u"document-open"_s), u"Restore database"_s, commands.restore);
+    addKey(u"tbBackup"_s, platform::ownIcon(u"archive"_s), u"Backup database"_s, commands.backup);
     toolbar_->addSeparator();
-    addKey(u"tbCopy"_s, u"edit-copy"_s, u"Copy highlighted text"_s, commands.copy);
-    addKey(u"tbCut"_s, u"edit-cut"_s, u"Cut highlighted text"_s, commands.cut);
-    addKey(u"tbPaste"_s, u"edit-paste"_s, u"Paste highlighted text"_s, commands.paste);
+    addKey(u"tbCopy"_s, platform::themeIcon(u"edit-copy"_s), u"Copy highlighted text"_s, commands.copy);
+    addKey(u"tbCut"_s, platform::themeIcon(u"edit-cut"_s), u"Cut highlighted text"_s, commands.cut);
+    addKey(u"tbPaste"_s, platform::themeIcon(u"edit-paste"_s), u"Paste highlighted text"_s, commands.paste);
     toolbar_->addSeparator();
-    addKey(u"tbPrint"_s, u"document-print"_s, u"Print screen"_s, commands.print);
+    addKey(u"tbPrint"_s, platform::themeIcon(u"document-print"_s), u"Print screen"_s, commands.print);
     if (commands.hasAllRecords)
-        addKey(u"tbPrintAll"_s, u"document-print-preview"_s, u"Print all screens"_s, commands.printAll);
+        addKey(u"tbPrintAll"_s, platform::ownIcon(u"print-all"_s), u"Print all screens"_s, commands.printAll);
     toolbar_->addSeparator();
     if (commands.hasAttachments)
-        addKey(u"tbAttach"_s, u"mail-attachment"_s, u"View/save attachments"_s, commands.attachments);
-    addKey(u"tbSave"_s, u"document-save"_s, u"SaveToFile"_s, commands.save);
-    if (commands.hasAllRecords) addKey(u"tbSaveAll"_s, u"document-save-all"_s, commands.saveAllHint, commands.saveAll);
+        addKey(u"tbAttach"_s, platform::ownIcon(u"clip"_s), u"View/save attachments"_s, commands.attachments);
+    addKey(u"tbSave"_s, platform::ownIcon(u"text-file"_s), u"SaveToFile"_s, commands.save);
+    if (commands.hasAllRecords)
+        addKey(u"tbSaveAll"_s, platform::ownIcon(u"text-files"_s), commands.saveAllHint, commands.saveAll);
     if (!commands.children.empty()) addChildren(commands.children);
 }
 
@@ -113,13 +115,13 @@ void WindowMenus::addChildren(const std::vector<ChildCommand>& children) {
     for (const ChildCommand& child : children) {
         entry(*options_, u'm' + child.name, child.name, child.routine);
         childEntries_.push_back(options_->actions().last());
-        addKey(u"tb"_s + child.name, child.icon, child.tooltip, child.routine);
+        addKey(u"tb"_s + child.name, platform::themeIcon(child.icon), child.tooltip, child.routine);
     }
 }
 
-void WindowMenus::addKey(const QString& key, const QString& icon, const QString& hint,
+void WindowMenus::addKey(const QString& key, const QIcon& icon, const QString& hint,
                          const std::function<void()>& routine) {
-    QAction* made = toolbar_->addAction(platform::themeIcon(icon), hint);
+    QAction* made = toolbar_->addAction(icon, hint);
     made->setObjectName(key);
     made->setEnabled(static_cast<bool>(routine));
     if (routine) QObject::connect(made, &QAction::triggered, made, [routine] { routine(); });

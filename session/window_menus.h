@@ -5,6 +5,7 @@
 #include <vector>
 
 class QAction;
+class QIcon;
 class QMenu;
 class QToolBar;
 class QWidget;
@@ -49,7 +50,7 @@ private:
     void makeWindowMenu(QWidget& form);
     void makeHelpMenu(QWidget& form, const WindowCommands& commands);
     void addChildren(const std::vector<ChildCommand>& children);
-    void addKey(const QString& key, const QString& icon, const QString& hint, const std::function<void()>& routine);
+    void addKey(const QString& key, const QIcon& icon, const QString& hint, const std::function<void()>& routine);
 
     std::vector<QMenu*> menus_;
     std::vector<QAction*> childEntries_;

@@ -46,12 +46,12 @@ constexpr Column doctors[] = {
     {"Clinic"_L1,         "Clinic:"_L1,    Text,     50},
     {"PracticeType"_L1,   "Type:"_L1,      Text,     50},
     {"AddrLine"_L1,       "Address:"_L1,   Text,     50},
-    {"City"_L1,           "City:"_L1,      Text,     50},
+    {"City"_L1,           "City:"_L1,      City,     50},
     {"State"_L1,          "State:"_L1,     Text,      0, {},              {}, StateCombo},
-    {"Zip"_L1,            "Zip:"_L1,       Text,     10},
-    {"OfficePhone"_L1,    "Office:"_L1,    Text,     50},
-    {"EmergencyPhone"_L1, "Emergency:"_L1, Text,     50},
-    {"Fax"_L1,            "Fax:"_L1,       Text,     50},
+    {"Zip"_L1,            "Zip:"_L1,       Zip,      10},
+    {"OfficePhone"_L1,    "Office:"_L1,    Phone,    50},
+    {"EmergencyPhone"_L1, "Emergency:"_L1, Phone,    50},
+    {"Fax"_L1,            "Fax:"_L1,       Phone,    50},
     {"Comment"_L1,        "Comment:"_L1,   LongText},
 };
 

@@ -1,5 +1,9 @@
 #include "platform/forms/check_box.h"
 
+#include <QStyleOptionButton>
+
+#include "platform/forms/colours.h"
+
 namespace platform {
 
 CheckBox::CheckBox(QWidget* parent) : QCheckBox(parent) {
@@ -23,6 +27,17 @@ int CheckBox::value() const {
 void CheckBox::setValue(int value) {
     setTristate(value == 2);
     setCheckState(value == 2 ? Qt::PartiallyChecked : value == 0 ? Qt::Unchecked : Qt::Checked);
+}
+
+void CheckBox::initStyleOption(QStyleOptionButton* option) const {
+    QCheckBox::initStyleOption(option);
+    if (isEnabled()) return;
+    // What can't be changed must still be read.
+    for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+        const QColor usual = option->palette.color(QPalette::Active, role);
+        const QColor window = option->palette.color(QPalette::Active, QPalette::Window);
+        option->palette.setColor(QPalette::Disabled, role, blended(usual, window, 0.3));
+    }
 }
 
 void CheckBox::showValue(const QVariant& value, ColumnKind /*kind*/, const QString& /*format*/) {

@@ -24,6 +24,9 @@ public:
     void showValue(const QVariant& value, ColumnKind kind, const QString& format) override;
     [[nodiscard]] QVariant content() const override;
 
+protected:
+    void initStyleOption(QStyleOptionButton* option) const override;
+
 private:
     std::function<void()> handler_;
 };

@@ -1,21 +1,27 @@
 #include "platform/forms/combo_box.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QKeyEvent>
-#include <QLineEdit>
+#include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
+#include <algorithm>
 #include <limits>
 #include <utility>
 
 #include "platform/base/display_format.h"
 #include "platform/base/runtime_error.h"
+#include "platform/forms/line_edit.h"
 #include "platform/forms/long_text.h"
 
 namespace platform {
 
-ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
+ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), line_(new LineEdit(this)) {
     setEditable(true);
+    setLineEdit(line_);
     setCompleter(nullptr);
     setInsertPolicy(QComboBox::NoInsert);
     setMaxVisibleItems(15);
@@ -28,6 +34,8 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
         listIndex_ = index;
         long_.clear();
         if (list(index) != currentText()) showText(list(index));
+        // The beginning of a chosen entry is in sight, not its end.
+        line_->setCursorPosition(0);
         click();
     });
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
@@ -127,7 +135,7 @@ void ComboBox::select(int start, int length) {
 }
 
 void ComboBox::selectAll() {
-    lineEdit()->selectAll();
+    line_->selectAllFromStart();
 }
 
 int ComboBox::selStart() const {
@@ -143,7 +151,35 @@ void ComboBox::showValue(const QVariant& value, ColumnKind kind, const QString& 
 }
 
 void ComboBox::showPopup() {
-    if (!locked_) QComboBox::showPopup();
+    if (locked_) return;
+    int widest = 0;
+    for (int i = 0; i < count(); ++i)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));
+    const int beside = view()->verticalScrollBar()->sizeHint().width() + 2 * fontMetrics().averageCharWidth();
+    view()->setMinimumWidth(widest + beside);
+    QComboBox::showPopup();
+}
+
+int ComboBox::widthFor(int textPixels) {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize text(line_->widthFor(textPixels), fontMetrics().height());
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this).width();
+}
+
+QString ComboBox::hint() {
+    return toolTip().isEmpty() ? line_->cutText() : toolTip();
+}
+
+bool ComboBox::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
+    showHint(*event, *this, hint());
+    return true;
+}
+
+void ComboBox::initStyleOption(QStyleOptionComboBox* option) const {
+    QComboBox::initStyleOption(option);
+    if (locked_) option->palette.setBrush(QPalette::Base, option->palette.window());
 }
 
 void ComboBox::wheelEvent(QWheelEvent* event) {

@@ -9,6 +9,8 @@
 
 namespace platform {
 
+class LineEdit;
+
 /// A drop-down list with free typing and no completion.
 class ComboBox : public QComboBox, public Control, public Bindable {
     Q_OBJECT
@@ -17,6 +19,8 @@ public:
     explicit ComboBox(QWidget* parent = nullptr);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
+    [[nodiscard]] int widthFor(int textPixels) override;
+    [[nodiscard]] QString hint() override;
     [[nodiscard]] QString text() const;
     /// Sets the text without a click; the list index becomes -1, whatever entries there are.
     void setText(const QString& text);
@@ -53,6 +57,8 @@ public:
     void showPopup() override;
 
 protected:
+    bool event(QEvent* event) override;
+    void initStyleOption(QStyleOptionComboBox* option) const override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -61,6 +67,7 @@ private:
     /// Brings a text into the box, or its beginning where it is too long to be drawn.
     void showText(const QString& text);
 
+    LineEdit* line_;
     std::function<void()> handler_;
     std::function<void()> enter_;
     int listIndex_ = -1;

@@ -1,10 +1,19 @@
 #include "platform/forms/control.h"
 
 #include <QWidget>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
+
+int Control::widthFor(int textPixels) {
+    return std::max(textPixels, widget().sizeHint().width());
+}
+
+QString Control::hint() {
+    return widget().toolTip();
+}
 
 void Control::setName(const QString& name) {
     widget().setObjectName(name);

@@ -21,6 +21,10 @@ public:
     Control& operator=(const Control&) = delete;
 
     [[nodiscard]] virtual QWidget& widget() = 0;
+    /// Width of the whole control in pixels, when its text has room for so many.
+    [[nodiscard]] virtual int widthFor(int textPixels);
+    /// What the user reads when the pointer rests on it: the told hint, else a text that the control has no room for.
+    [[nodiscard]] virtual QString hint();
     void setName(const QString& name);
     [[nodiscard]] QString name();
     void setValidate(Validate validate) { validate_ = std::move(validate); }

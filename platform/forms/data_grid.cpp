@@ -13,11 +13,12 @@
 namespace platform {
 
 namespace {
-constexpr int twipsPerPixel = 15;
-constexpr int scrollBarTwips = 315;
+/// The shares are of the width beside a scroll bar of this width: 315 twips at 96 dpi.
+constexpr int scrollBarWidth = 21;
 }  // namespace
 
-DataGrid::DataGrid(int rowTwips, QWidget* parent) : QTableView(parent), model_(std::make_unique<GridModel>()) {
+DataGrid::DataGrid(int rowLines, QWidget* parent)
+    : QTableView(parent), rowLines_(rowLines), model_(std::make_unique<GridModel>()) {
     setModel(model_.get());
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
@@ -30,12 +31,10 @@ DataGrid::DataGrid(int rowTwips, QWidget* parent) : QTableView(parent), model_(s
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(0);
-    verticalHeader()->setDefaultSectionSize(std::max(rowTwips / twipsPerPixel, fontMetrics().height() + 6));
-    QFont bold = font();
-    bold.setBold(true);
-    horizontalHeader()->setFont(bold);
     horizontalHeader()->setMinimumSectionSize(0);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
+    measure();
 }
 
 DataGrid::~DataGrid() {
@@ -75,12 +74,24 @@ void DataGrid::setShares(std::vector<double> shares) {
 }
 
 void DataGrid::spreadColumns() {
-    const int width = this->width() - scrollBarTwips / twipsPerPixel;
+    const int width = this->width() - scrollBarWidth;
     for (int column = 0; column < std::min(columnCount(), static_cast<int>(shares_.size())); ++column) {
         const int pixels = static_cast<int>(width * shares_[static_cast<std::size_t>(column)]);
         setColumnHidden(column, pixels < 2);
         if (pixels >= 2) setColumnWidth(column, pixels);
     }
+}
+
+void DataGrid::measure() {
+    verticalHeader()->setDefaultSectionSize(rowLines_ * fontMetrics().lineSpacing() + fontMetrics().height() / 2);
+    QFont bold = font();
+    bold.setBold(true);
+    horizontalHeader()->setFont(bold);
+}
+
+void DataGrid::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) measure();
 }
 
 void DataGrid::resizeEvent(QResizeEvent* event) {

@@ -20,8 +20,8 @@ class DataGrid : public QTableView, public Control {
     Q_OBJECT
 
 public:
-    /// `rowTwips`: height of a row; never less than a line of text takes.
-    explicit DataGrid(int rowTwips, QWidget* parent = nullptr);
+    /// `rowLines`: lines of text that a row has room for.
+    explicit DataGrid(int rowLines, QWidget* parent = nullptr);
     ~DataGrid() override;
 
     [[nodiscard]] QWidget& widget() override { return *this; }
@@ -44,12 +44,16 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
     void showCurrentRow();
     void spreadColumns();
+    /// Sets what depends on the font.
+    void measure();
 
+    int rowLines_;
     std::unique_ptr<GridModel> model_;
     QPointer<RowSource> source_;
     std::function<void(int)> chosen_;

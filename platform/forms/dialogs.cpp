@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "platform/forms/desktop.h"
 
@@ -40,6 +42,27 @@ protected:
 
 private:
     bool mustAnswer_;
+};
+
+/// An input box wide enough for a sentence, which comes up with the beginning of its text in sight.
+class InputBox : public QInputDialog {
+public:
+    using QInputDialog::QInputDialog;
+
+    void setVisible(bool visible) override {
+        QInputDialog::setVisible(visible);
+        auto* line = findChild<QLineEdit*>();
+        if (!visible || !line) return;
+        const auto length = static_cast<int>(line->text().size());
+        line->setSelection(length, -length);
+    }
+
+protected:
+    void showEvent(QShowEvent* event) override {
+        constexpr int characters = 72;
+        resize(std::max(width(), characters * fontMetrics().averageCharWidth()), height());
+        QInputDialog::showEvent(event);
+    }
 };
 
 QMessageBox::Icon boxIcon(Icon icon) {
@@ -109,7 +132,7 @@ QString Dialogs::runFileDialog(QFileDialog& dialog) {
 }
 
 QString Dialogs::inputBox(const QString& prompt, const QString& title, const QString& preset) {
-    QInputDialog dialog(QApplication::activeWindow());
+    InputBox dialog(QApplication::activeWindow());
     dialog.setObjectName(u"InputBox"_s);
     dialog.setWindowTitle(title);
     dialog.setLabelText(prompt);

@@ -3,6 +3,7 @@
 #include "platform/base/display_format.h"
 #include "platform/base/record_source.h"
 #include "platform/forms/desktop.h"
+#include "platform/forms/grid_delegate.h"
 #include "platform/forms/long_text.h"
 
 namespace platform {
@@ -38,6 +39,8 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignTop);
+    if (role == GridDelegate::dateRole)
+        return source_ && source_->columnKind(columns_[index.column()]) == ColumnKind::Date;
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
     // Drawing can't fail: a row that can't be read just now stays empty, and is read again when it is drawn anew.
     QString text;
@@ -49,7 +52,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || section >= columns_.size()) return {};
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
-    return role == Qt::DisplayRole ? columns_[section] : QVariant();
+    return role == Qt::DisplayRole || role == Qt::ToolTipRole ? columns_[section] : QVariant();
 }
 
 }  // namespace platform

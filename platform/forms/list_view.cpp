@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 
 #include "platform/base/runtime_error.h"
+#include "platform/forms/grid_delegate.h"
 
 namespace platform {
 
@@ -15,16 +16,31 @@ ListView::ListView(const QList<Header>& headers, QWidget* parent) : QTreeWidget(
     setAllColumnsShowFocus(true);
     setSelectionMode(SingleSelection);
     setExpandsOnDoubleClick(false);
+    setItemDelegate(new ItemDelegate(this));
+    header()->setStretchLastSection(false);
     setColumnCount(static_cast<int>(headers.size()));
     for (int column = 0; column < columnCount(); ++column) {
         headerItem()->setText(column, headers[column].text);
-        setColumnWidth(column, headers[column].width);
+        if (headers[column].characters == 0) {
+            header()->setSectionResizeMode(column, QHeaderView::Stretch);
+        } else {
+            setColumnWidth(column, headers[column].characters * fontMetrics().averageCharWidth());
+        }
     }
 }
 
 void ListView::add(const QStringList& texts) {
     auto* item = new QTreeWidgetItem(this, texts);
+    for (int column = 0; column < texts.size(); ++column)
+        item->setToolTip(column, texts[column]);
     if (count() == 1) setCurrentItem(item);
+}
+
+int ListView::find(int column, const QString& text) const {
+    for (int row = 0; row < count(); ++row) {
+        if (topLevelItem(row)->text(column) == text) return row;
+    }
+    return -1;
 }
 
 void ListView::selectItem(int row) {

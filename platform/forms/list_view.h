@@ -18,7 +18,7 @@ class ListView : public QTreeWidget, public Control {
 public:
     struct Header {
         QString text;
-        int width = 0;  ///< pixels
+        int characters = 0;  ///< width; 0 for a column that shares the rest with its like
     };
 
     explicit ListView(const QList<Header>& headers, QWidget* parent = nullptr);
@@ -29,6 +29,8 @@ public:
     void add(const QStringList& texts);
     void clearItems() { clear(); }
     [[nodiscard]] int count() const { return topLevelItemCount(); }
+    /// Place of the first item with that text in a column, from 0; -1 if there is none.
+    [[nodiscard]] int find(int column, const QString& text) const;
     /// Selects an item by its place, from 0; an empty list stays as it is.
     void selectItem(int row);
     /// Text of the selected item in a column, from 0. Throws 91 on an empty list.

@@ -1,10 +1,12 @@
 #include "platform/forms/mdi_frame.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPainter>
+#include <QSplitter>
+#include <algorithm>
 #include <utility>
 
 #include "platform/forms/desktop.h"
@@ -12,13 +14,33 @@
 
 namespace platform {
 
+/// The room of the child windows, with a picture where there is none.
+class MdiFrame::Area : public QMdiArea {
+public:
+    using QMdiArea::QMdiArea;
+
+    QIcon picture;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QMdiArea::paintEvent(event);
+        if (currentSubWindow()) return;
+        QPainter painter(viewport());
+        painter.setOpacity(faintness);
+        const int side = std::min(viewport()->width(), viewport()->height()) / 2;
+        QRect place(0, 0, side, side);
+        place.moveCenter(viewport()->rect().center());
+        picture.paint(&painter, place);
+    }
+
+private:
+    static constexpr qreal faintness = 0.18;
+};
+
 MdiFrame::MdiFrame(Desktop& desktop, const QString& name)
-    : Form(desktop, name), centre_(new QWidget(this)), area_(new QMdiArea(centre_)) {
+    : Form(desktop, name), centre_(new QSplitter(this)), area_(new Area(centre_)) {
     setObjectName(name);
-    auto* layout = new QHBoxLayout(centre_);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(area_, 1);
+    centre_->setChildrenCollapsible(false);
     area_->setBackground(palette().brush(QPalette::Window));
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
     setCentralWidget(centre_);
@@ -31,12 +53,21 @@ MdiFrame::~MdiFrame() {
 }
 
 void MdiFrame::setPanel(QWidget& panel) {
-    auto* layout = static_cast<QHBoxLayout*>(centre_->layout());
-    layout->insertWidget(0, &panel);
+    panel_ = &panel;
+    centre_->insertWidget(0, &panel);
+    centre_->setStretchFactor(0, 0);
+    centre_->setStretchFactor(1, 1);
+}
+
+void MdiFrame::setEmptyPicture(const QIcon& picture) {
+    area_->picture = picture;
 }
 
 void MdiFrame::show() {
     showMenus();
+    // The records keep half of a small window.
+    const int panel = std::min(panel_ ? panel_->sizeHint().width() : 0, width() / 2);
+    centre_->setSizes({panel, width() - panel});
     QMainWindow::show();
     activateWindow();
 }
@@ -86,8 +117,10 @@ void MdiFrame::childActivated() {
     showMenus();
     FormWindow* child = activeForm();
     QMdiSubWindow* frame = area_->currentSubWindow();
+    if (!child) frontChanged();
     if (!child || frame == front_) return;
     front_ = frame;
+    frontChanged();
     std::erase(order_, frame);
     order_.push_back(frame);
     child->desktop().run([child] { child->Form_Activate(); });

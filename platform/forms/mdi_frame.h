@@ -8,12 +8,14 @@
 
 class QMdiArea;
 class QMdiSubWindow;
+class QSplitter;
 
 namespace platform {
 
 class FormWindow;
 
-/// A host window: a panel at the left, child windows in the rest, and the active child's menus in its menu bar.
+/// A host window: a panel at the left of a divider, child windows in the rest, and the active child's menus in its menu
+/// bar.
 class MdiFrame : public QMainWindow, public Form {
     Q_OBJECT
 
@@ -38,14 +40,21 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     /// Runs the whole way down; the frame's close box and its menu entries lead here.
     virtual void closeHost() = 0;
+    /// Another child has come to the front, or the last one has gone.
+    virtual void frontChanged() {}
+    /// A picture that stands quietly where no child does.
+    void setEmptyPicture(const QIcon& picture);
 
 private:
     void showMenus();
     void arrange(const std::function<void()>& step);
     void childActivated();
 
-    QWidget* centre_;
-    QMdiArea* area_;
+    class Area;
+
+    QSplitter* centre_;
+    Area* area_;
+    QWidget* panel_ = nullptr;
     FormWindow* menuOwner_ = nullptr;
     QMdiSubWindow* front_ = nullptr;
     /// The children that have been active, the latest last.

@@ -4,6 +4,8 @@
 #include <QMimeData>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextLayout>
+#include <QtMath>
 #include <algorithm>
 #include <utility>
 
@@ -122,10 +124,29 @@ void MemoBox::showHeld() {
 
 void MemoBox::setLocked(bool locked) {
     setReadOnly(locked);
+    viewport()->setBackgroundRole(locked ? QPalette::Window : QPalette::Base);
     // A read-only box shows no caret and takes no keys otherwise; the text must stay reachable for selecting and
     // copying.
     setTextInteractionFlags(locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
                                    : Qt::TextInteractionFlags(Qt::TextEditorInteraction));
+}
+
+qreal MemoBox::lineHeight() const {
+    // What the toolkit takes for a line, which is not the font's line spacing.
+    QTextLayout sample(u"X"_s, font());
+    sample.beginLayout();
+    QTextLine line = sample.createLine();
+    line.setLineWidth(width());
+    sample.endLayout();
+    return line.height();
+}
+
+int MemoBox::heightOfLines(int lines) const {
+    return qCeil(lines * lineHeight() + document()->documentMargin()) + 2 * frameWidth();
+}
+
+int MemoBox::wholeLines(int most) const {
+    return heightOfLines(static_cast<int>((most - heightOfLines(0)) / lineHeight()));
 }
 
 int MemoBox::toText(int documentPosition) const {

@@ -32,6 +32,11 @@ public:
     void showHeld() override;
     using TextControl::selectAll;
 
+    /// Height in pixels that shows so many lines, none of them in part.
+    [[nodiscard]] int heightOfLines(int lines) const;
+    /// The greatest height up to `most` pixels that shows whole lines only.
+    [[nodiscard]] int wholeLines(int most) const;
+
 protected:
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
     void resizeEvent(QResizeEvent* event) override;
@@ -42,6 +47,7 @@ private:
     void beginningChanged(int position, int removed);
     void tellRest();
     [[nodiscard]] bool allSelected() const;
+    [[nodiscard]] qreal lineHeight() const;
     /// Position in the text with its two-character line ends, of a position in the document, and back.
     [[nodiscard]] int toText(int documentPosition) const;
     [[nodiscard]] int toDocument(int textPosition) const;

@@ -1,5 +1,6 @@
 #include "platform/forms/text_box.h"
 
+#include <QEvent>
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -20,7 +21,7 @@ QString TextControl::fitting(const QString& text) const {
     return text.left(cutsPair ? limit - 1 : limit);
 }
 
-TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
+TextBox::TextBox(QWidget* parent) : LineEdit(parent) {
     setMaxLength(0);
     connect(this, &QLineEdit::textEdited, this, &TextBox::dropHalfCharacter);
     // A change is told before the selection that it replaced is gone.
@@ -69,12 +70,22 @@ int TextBox::selStart() const {
 void TextBox::select(int start, int length) {
     const int size = static_cast<int>(QLineEdit::text().size());
     const int from = std::clamp(start, 0, size);
+    if (from == 0 && length >= size) {
+        selectAllFromStart();
+        return;
+    }
     setSelection(from, std::clamp(length, 0, size - from));
     if (length <= 0) setCursorPosition(from);
 }
 
 QString TextBox::selText() const {
     return allSelected_ ? text() : selectedText();
+}
+
+bool TextBox::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return LineEdit::event(event);
+    showHint(*event, *this, hint());
+    return true;
 }
 
 void TextBox::setSelText(const QString& text) {

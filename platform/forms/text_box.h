@@ -1,20 +1,22 @@
 #pragma once
 
-#include <QLineEdit>
 #include <optional>
 
+#include "platform/forms/line_edit.h"
 #include "platform/forms/text_control.h"
 
 namespace platform {
 
 /// A text box of one line.
-class TextBox : public QLineEdit, public TextControl {
+class TextBox : public LineEdit, public TextControl {
     Q_OBJECT
 
 public:
     explicit TextBox(QWidget* parent = nullptr);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
+    [[nodiscard]] int widthFor(int textPixels) override { return LineEdit::widthFor(textPixels); }
+    [[nodiscard]] QString hint() override { return toolTip().isEmpty() ? cutText() : toolTip(); }
     [[nodiscard]] QString text() const override { return held_ ? *held_ : QLineEdit::text() + rest_; }
     void setText(const QString& text) override;
     [[nodiscard]] bool isLocked() const override { return isReadOnly(); }
@@ -29,6 +31,9 @@ public:
     void holdDisplay() override { held_ = text(); }
     void showHeld() override;
     using TextControl::selectAll;
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     void dropHalfCharacter();

@@ -2,9 +2,11 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "platform/base/runtime_error.h"
+#include "platform/forms/grid_delegate.h"
 
 namespace platform {
 
@@ -15,7 +17,8 @@ constexpr int indexRole = Qt::UserRole;
 TreeView::TreeView(QWidget* parent) : QTreeWidget(parent) {
     setHeaderHidden(true);
     setColumnCount(1);
-    setIconSize({16, 16});
+    setItemDelegate(new ItemDelegate(this));
+    measure();
     setUniformRowHeights(true);
     setExpandsOnDoubleClick(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -47,6 +50,43 @@ int TreeView::indexOf(const QString& key) const {
 
 void TreeView::expandNode(int index) {
     at(index).item->setExpanded(true);
+}
+
+void TreeView::showNode(int index) {
+    if (index == 0) {
+        clearSelection();
+    } else {
+        setCurrentItem(at(index).item);
+        scrollToItem(at(index).item);
+    }
+}
+
+int TreeView::widestNode() const {
+    int widest = 0;
+    for (const Node& node : nodes_) {
+        int depth = 1;
+        for (const QTreeWidgetItem* above = node.item->parent(); above; above = above->parent())
+            ++depth;
+        widest = std::max(widest, depth * indentation() + sizeHintForIndex(indexFromItem(node.item)).width());
+    }
+    return widest + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+}
+
+void TreeView::measure() {
+    // The pictures stand as high as the letters beside them, with a little more.
+    const int side = fontMetrics().height() + 1;
+    setIconSize({side, side});
+}
+
+void TreeView::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    // The highlight of a short node reaches the edge too.
+    header()->setMinimumSectionSize(viewport()->width());
+}
+
+void TreeView::changeEvent(QEvent* event) {
+    QTreeWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) measure();
 }
 
 void TreeView::setImage(int index, int image) {

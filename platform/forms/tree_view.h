@@ -29,6 +29,10 @@ public:
     [[nodiscard]] bool selected(int index) const { return at(index).item->isSelected(); }
     [[nodiscard]] bool expanded(int index) const { return at(index).item->isExpanded(); }
     void expandNode(int index);
+    /// Selects a node without a click, in sight; 0 takes the selection away.
+    void showNode(int index);
+    /// Pixels that the widest node takes with everything open, scroll bar and frame included.
+    [[nodiscard]] int widestNode() const;
 
     /// Picture of a node, counted from 1 in the list of pictures; 0 for none.
     [[nodiscard]] int image(int index) const { return at(index).image; }
@@ -48,6 +52,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     struct Node {
@@ -56,6 +62,8 @@ private:
         int image = 0;
     };
     [[nodiscard]] const Node& at(int index) const;
+    /// Sets what depends on the font.
+    void measure();
     [[nodiscard]] int indexOf(const QTreeWidgetItem* item) const;
 
     std::vector<Node> nodes_;

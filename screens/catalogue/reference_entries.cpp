@@ -59,6 +59,7 @@ constexpr ScreenDefinition coverPage{
     .deleteNoun = "cover page information?"_L1,
     .query = "Select * from CoverPage"_L1,
     .frames = coverPageFrames,
+    .inOneColumn = true,
 };
 
 constexpr ScreenDefinition entries[] = {

@@ -84,6 +84,7 @@ struct ScreenDefinition {
     bool soleCombo = false;                            ///< its one combo is cbFields, without an index
     QLatin1StringView unchecked{};                     ///< a number or date whose box takes any text
     std::span<const Frame> frames;
+    bool inOneColumn = false;  ///< its boxes stand below each other at any width
 
     int parentType = 0;  ///< TypeID in the child tables of the rows that hang on this screen's
     std::span<const ChildOffer> children{};

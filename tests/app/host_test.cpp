@@ -18,6 +18,14 @@ protected:
         user.fill(selector, name);
         user.key(u"Return"_s);
     }
+    QString selectedNode() {
+        QStringList selected;
+        const QJsonArray nodes = user.tree()["nodes"_L1].toArray();
+        for (const QJsonValue& node : nodes) {
+            if (node["selected"_L1].toBool()) selected << node["key"_L1].toString();
+        }
+        return selected.join(u' ');
+    }
     QString person() {
         const QJsonObject session = user.session();
         return u"%1 '%2' %3"_s.arg(session["gPersonID"_L1].toInt())
@@ -73,6 +81,27 @@ TEST_F(Host, APictureFollowsTheTableOfItsNodeAndTheSelection) {
     EXPECT_EQ(forms().size(), 2);
     user.node(u"Assets"_s);
     EXPECT_EQ(image(u"Banking"_s), 1);
+}
+
+TEST_F(Host, TheTreeShowsTheNodeOfTheWindowInFront) {
+    addMembers({u"Ann Larkin"_s});
+    for (const char* table : {"HomeOwned", "Marriage", "LegalInfo"})
+        exec(u"INSERT INTO %1 (PersonID) VALUES (1)"_s.arg(QLatin1StringView(table)));
+    user.start();
+    select(u"Ann Larkin"_s);
+    EXPECT_EQ(selectedNode(), u"Birth"_s);
+    openNode(u"Home"_s);
+    EXPECT_EQ(selectedNode(), u"Home"_s);
+    // Of the two nodes of one window it is the one that was clicked.
+    openNode(u"Legal1"_s);
+    EXPECT_EQ(selectedNode(), u"Legal1"_s);
+    user.click(u"cmdClose"_s);
+    EXPECT_EQ(selectedNode(), u"Home"_s) << "a window was closed";
+    user.click(u"txtFields(1)"_s);
+    user.type(u"x"_s);
+    openNode(u"Marriage"_s);
+    EXPECT_EQ(dismissBox(), u"Screen Changes"_s);
+    EXPECT_EQ(selectedNode(), u"Home"_s) << "a click was refused";
 }
 
 TEST_F(Host, ANameIsAcceptedByEnterAsTheDatabaseComparesIt) {

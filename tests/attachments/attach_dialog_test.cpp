@@ -83,6 +83,20 @@ TEST_F(DialogTest, AddsWithOrWithoutADescription) {
     EXPECT_FALSE(user.state()[u"running"_s].toBool());
 }
 
+TEST_F(DialogTest, TheRowAddedOrEditedIsSelected) {
+    const auto current = [this] { return user.grid(u"lvAttach"_s)[u"current"_s].toInt(); };
+    user.start();
+    attach(u"the deed.pdf"_s, u"First"_s);
+    attach(u"the deed.pdf"_s, u"Second"_s);
+    EXPECT_EQ(current(), 1);
+    attach(u"the deed.pdf"_s, u"Third"_s);
+    user.select(u"lvAttach"_s, 1);
+    user.click(u"cmdEditDesc"_s);
+    user.enter(u"Second, corrected"_s);
+    EXPECT_EQ(current(), 1);
+    EXPECT_EQ(cell(1, 3), u"Second, corrected"_s);
+}
+
 TEST_F(DialogTest, AddsNothingWithoutAFile) {
     user.start();
     user.click(u"cmdAdd"_s);

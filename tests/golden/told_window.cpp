@@ -74,6 +74,9 @@ QMap<QString, QString> looksOf(const data::Table& table, int index) {
 QString kindOf(const data::Column& column) {
     switch (column.kind) {
         case data::FieldKind::Text:
+        case data::FieldKind::City:
+        case data::FieldKind::Zip:
+        case data::FieldKind::Phone:
             return u"text"_s;
         case data::FieldKind::LongText:
             return u"long text"_s;

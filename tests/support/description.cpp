@@ -236,14 +236,14 @@ QJsonObject describeSession(const session::Session& session) {
 
 QJsonObject describeForm(platform::Form& form) {
     QJsonArray controls;
-    for (const QWidget* control : Finder::controls(form))
+    for (QWidget* control : Finder::controls(form))
         controls.append(describeControl(*control));
     for (const QAction* action : Finder::actions(form))
         controls.append(describeAction(*action));
     return {{u"name"_s, form.name()}, {u"caption"_s, form.caption()}, {u"controls"_s, controls}};
 }
 
-QJsonObject describeControl(const QWidget& control) {
+QJsonObject describeControl(QWidget& control) {
     QJsonObject seen = plainControl(control.objectName(), typeOf(control), textOf(control));
     if (const auto* box = dynamic_cast<const platform::TextControl*>(&control)) addText(seen, *box);
     if (const auto* check = dynamic_cast<const platform::CheckBox*>(&control)) seen[u"value"_s] = check->value();
@@ -254,7 +254,8 @@ QJsonObject describeControl(const QWidget& control) {
     }
     seen[u"visible"_s] = control.isVisible();
     seen[u"enabled"_s] = control.isEnabled();
-    seen[u"tooltip"_s] = control.toolTip();
+    auto* known = dynamic_cast<platform::Control*>(&control);
+    seen[u"tooltip"_s] = known ? known->hint() : control.toolTip();
     seen[u"label"_s] = labelOf(control);
     seen[u"frame"_s] = frameOf(control);
     return seen;

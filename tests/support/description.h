@@ -26,7 +26,7 @@ namespace support {
 [[nodiscard]] QJsonObject describeSession(const session::Session& session);
 /// A form with all its controls.
 [[nodiscard]] QJsonObject describeForm(platform::Form& form);
-[[nodiscard]] QJsonObject describeControl(const QWidget& control);
+[[nodiscard]] QJsonObject describeControl(QWidget& control);
 [[nodiscard]] QJsonObject describeAction(const QAction& action);
 [[nodiscard]] QJsonObject describeTree(const platform::TreeView& tree);
 /// Columns with their widths in pixels, all rows as shown, and the current row.
