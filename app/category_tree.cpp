@@ -55,8 +55,7 @@ void CategoryTree::setImage(int nodeIndex) {
         if (nodeIndex == helpNode) view_.setImage(nodeIndex, withoutData);
         if (const int child = view_.firstChild(nodeIndex); child > 0) setParent(child);
     } catch (const platform::RuntimeError& error) {
-        qCritical("The category tree can't be drawn: %s", qUtf8Printable(error.report()));
-        throw platform::RunEnded();
+        throw platform::RunEnded{.words = error.report(), .title = u"SetImage Error"_s};
     }
 }
 

@@ -1,13 +1,17 @@
 #include "app/database_commands.h"
 
 #include "app/mdi_host.h"
+#include "app/read_only_file.h"
 #include "app/restore_source.h"
+#include "data/book_replacement.h"
 #include "data/database_files.h"
 #include "data/pin_secrets.h"
 #include "platform/base/conversions.h"
-#include "platform/base/file_replacement.h"
+#include "platform/base/file_identity.h"
 #include "platform/base/files.h"
+#include "platform/base/folder_replacement.h"
 #include "platform/base/runtime_error.h"
+#include "platform/base/unfinished.h"
 #include "platform/forms/desktop.h"
 #include "session/book_files.h"
 #include "session/session.h"
@@ -91,8 +95,9 @@ void DatabaseCommands::startFresh() {
         return;
     }
     if (!closeWindows()) return;
-    replaceLive(source);
-    data::emptyFolder(attachments());
+    data::BookReplacement book = replacement();
+    replaceLive(book, source, {});
+    book.replaceAttachments();
     desktop().setPointer(Pointer::Default);
     desktop().notice(u"Your database, "_s + session_.gsDatabaseName + u", has been created and is ready for use."_s);
     host_.loadFamily();
@@ -132,11 +137,12 @@ void DatabaseCommands::restore() {
     if (!closeWindows()) return;
     // Taking the old attachments away must not take the backup's.
     data::requireApart(companion, attachments());
-    replaceLive(chosen);
-    copyAttachments(chosen);
+    data::BookReplacement book = replacement();
+    replaceLive(book, chosen, companion);
+    const bool whole = copyAttachments(book);
     const Sizes copied{fileKilobytes(session_.gsDatabasePath), folderKilobytes(attachments())};
     desktop().setPointer(Pointer::Default);
-    if (copied == expected) {
+    if (whole && copied == expected) {
         desktop().notice(u"Your database, "_s + files::nameOf(chosen) + u", has been restored as \r\n"_s +
                              session::Session::liveDatabaseName() + u", and is ready for use."_s,
                          u"Database Restored"_s);
@@ -144,14 +150,11 @@ void DatabaseCommands::restore() {
         tellIncomplete();
     }
     host_.loadFamily();
+    tellIfReadOnly(desktop(), session_);
 }
 
-void DatabaseCommands::copyAttachments(const QString& source) {
-    desktop().attempt(u"CopyAttachments"_s, [&] {
-        if (files::folderExists(attachments())) files::deleteAllFiles(attachments(), true);
-        const QString companion = data::companionFolder(source);
-        if (files::folderExists(companion)) files::copyAllFiles(companion, attachments());
-    });
+bool DatabaseCommands::copyAttachments(data::BookReplacement& book) {
+    return desktop().attempt(u"CopyAttachments"_s, [&book] { book.replaceAttachments(); });
 }
 
 // Replacing the live file ------------------------------------------------------------------------------------------
@@ -167,9 +170,13 @@ bool DatabaseCommands::closeWindows() {
     return closed;
 }
 
-void DatabaseCommands::replaceLive(const QString& source) {
+data::BookReplacement DatabaseCommands::replacement() const {
+    return {session_.gsDatabasePath, attachments()};
+}
+
+void DatabaseCommands::replaceLive(data::BookReplacement& book, const QString& source, const QString& companion) {
     if (session_.gConnection.isOpen()) session_.gConnection.close();
-    platform::Desktop::attempt([&] { data::replaceDatabase(source, session_.gsDatabasePath); },
+    platform::Desktop::attempt([&] { book.replaceDatabase(source, companion); },
                                [&](const RuntimeError& failure) {
                                    platform::Desktop::passOver([this] { openLive(); });
                                    throw failure;
@@ -189,11 +196,12 @@ void DatabaseCommands::backupDB() {
 }
 
 QString DatabaseCommands::chooseTarget() {
+    const QString usual = session_.path(u"Backup"_s);
     return desktop().dialogs().fileDialog({.mode = platform::FileRequest::Mode::Save,
-                                           .folder = session_.path(u"Backup"_s),
+                                           .folder = files::folderExists(usual) ? usual : session_.applicationFolder,
                                            .filterText = u"Database Files (*.mdb)"_s,
                                            .filterPattern = u"*.mdb"_s,
-                                           .fileName = session_.path(u"FamilyInfoBackup.mdb"_s)});
+                                           .fileName = u"FamilyInfoBackup.mdb"_s});
 }
 
 bool DatabaseCommands::confirmBackup(const Sizes& sizes) {
@@ -216,7 +224,8 @@ void DatabaseCommands::backup() {
     const QString companion = data::companionFolder(target);
     Sizes expected{.attachments = folderKilobytesIfAny(attachments())};
     const QString source = session_.gsDatabasePath;
-    if (!files::fileExists(source)) {
+    // After a refused restore the session's database is the refused file.
+    if (!files::isSameFile(source, session_.path(session::Session::liveDatabaseName()))) {
         desktop().notice(u"The original database does not exist."_s, u"No Source Database"_s);
         return;
     }
@@ -227,21 +236,21 @@ void DatabaseCommands::backup() {
     data::requireApart(companion, attachments());
     files::discardUnfinished(files::folderOf(target));
     expected.database = data::kilobytes(data::backUpDatabase(source, target));
-    saveAttachments(target);
+    const bool whole = saveAttachments(target);
     const Sizes copied{fileKilobytes(target), folderKilobytes(companion)};
     desktop().setPointer(Pointer::Default);
-    if (copied != expected) return tellIncomplete();
+    if (!whole || copied != expected) return tellIncomplete();
     desktop().notice(u"Your backup database is:  "_s + target + u"\r\nIt contains "_s + numberText(copied.database) +
                          u" kilobytes.\r\n\r\nYour attachments are contained in: "_s + companion + u"\r\nThere are "_s +
                          numberText(copied.attachments) + u" kilobytes of attachments. "_s,
                      u"Backup Database Information"_s);
 }
 
-void DatabaseCommands::saveAttachments(const QString& target) {
-    desktop().attempt(u"SaveAttachments"_s, [&] {
-        const QString companion = data::companionFolder(target);
-        if (files::folderExists(companion)) files::deleteFolder(companion, true);
-        if (files::folderExists(attachments())) files::copyFolder(attachments(), companion);
+bool DatabaseCommands::saveAttachments(const QString& target) {
+    return desktop().attempt(u"SaveAttachments"_s, [&] {
+        files::FolderReplacement companion(data::companionFolder(target));
+        if (files::folderExists(attachments())) files::copyFolder(attachments(), companion.path());
+        companion.place();
     });
 }
 

@@ -11,6 +11,10 @@ namespace session {
 struct Session;
 }
 
+namespace data {
+class BookReplacement;
+}
+
 namespace app {
 
 class MDIHost;
@@ -19,7 +23,7 @@ class MDIHost;
 ///
 /// New and Restore close every window but the host, which also lets the list of PINs encipher itself, and put another
 /// file in the place of the live one. When that fails the old file is whole and open again. Attached files are replaced
-/// one by one behind that, without a way back.
+/// one by one behind that, without a way back; a run that dies among them is finished by the next one.
 class DatabaseCommands {
 public:
     explicit DatabaseCommands(MDIHost& host);
@@ -50,16 +54,18 @@ private:
     void backup();
     [[nodiscard]] QString chooseTarget();
     [[nodiscard]] bool confirmBackup(const Sizes& sizes);
-    void copyAttachments(const QString& source);
-    void saveAttachments(const QString& target);
+    /// False when it ended in its box.
+    [[nodiscard]] bool copyAttachments(data::BookReplacement& book);
+    [[nodiscard]] bool saveAttachments(const QString& target);
 
     /// Closes every window but the host; false when the user keeps one with its changes. From here on the session's
     /// database is the live file again.
     [[nodiscard]] bool closeWindows();
     /// Closes the connection, puts a copy in the place of the live file and opens what stands there, also after a
-    /// failure.
-    void replaceLive(const QString& source);
+    /// failure. `companion`: where its attached files will come from.
+    void replaceLive(data::BookReplacement& book, const QString& source, const QString& companion);
     void openLive();
+    [[nodiscard]] data::BookReplacement replacement() const;
 
     void tellIncomplete();
     [[nodiscard]] platform::Desktop& desktop() const;

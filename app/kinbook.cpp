@@ -3,9 +3,12 @@
 #include <QApplication>
 
 #include "app/mdi_host.h"
+#include "app/read_only_file.h"
 #include "app/restore_source.h"
 #include "app/splash_window.h"
-#include "data/database_files.h"
+#include "data/book_check.h"
+#include "data/book_replacement.h"
+#include "data/provider_error.h"
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
@@ -15,12 +18,12 @@
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
+namespace files = platform::files;
 
 namespace app {
 
 namespace {
 
-constexpr int cannotOpenDatabase = -2147467259;
 constexpr int usualSplashSeconds = 2;
 
 }  // namespace
@@ -51,22 +54,26 @@ void Kinbook::start() {
     const int seconds = session_->definition.giSplashSeconds;
     desktop_->wait(seconds != 0 ? seconds : usualSplashSeconds);
 
-    const QString live = session_->path(session::Session::liveDatabaseName());
-    data::discardUnfinishedRestore(live, session_->path(u"Attachments"_s));
-    session_->gConnection.setCursorLocation(data::CursorLocation::Client);
-    try {
-        session_->gConnection.open(live);
-    } catch (const platform::RuntimeError& error) {
-        if (error.number() != cannotOpenDatabase) throw;
-        if (!restoreMissingDatabase()) {
-            unloadSplash();
-            return;
-        }
+    finishReplacement();
+    if (!openDatabase()) {
+        unloadSplash();
+        return;
     }
+    // Attaching and restoring make it too, where it can't be made now.
+    platform::Desktop::passOver([this] { files::makeFolder(attachments()); });
     session_->useLiveDatabase();
     desktop_->load(std::make_unique<MDIHost>(*desktop_, *session_)).show();
     session::hidePinsLeftPlain(*desktop_, session_->gConnection);
     unloadSplash();
+    tellIfReadOnly(*desktop_, *session_);
+}
+
+QString Kinbook::live() const {
+    return session_->path(session::Session::liveDatabaseName());
+}
+
+QString Kinbook::attachments() const {
+    return session_->path(u"Attachments"_s);
 }
 
 bool Kinbook::getSplashValues() {
@@ -90,6 +97,45 @@ bool Kinbook::getSplashValues() {
     return true;
 }
 
+// Database ---------------------------------------------------------------------------------------------------------
+
+void Kinbook::finishReplacement() {
+    data::BookReplacement book(live(), attachments());
+    if (!book.isClaimed()) return;
+    book.discardRemains();
+    if (book.isUnfinished()) tellFinished(book);
+}
+
+void Kinbook::tellFinished(data::BookReplacement& book) {
+    const QString companion = book.companion();
+    const auto done = [&] {
+        book.replaceAttachments();
+        desktop_->notice(
+            u"The last time your database was replaced, Kinbook was cut off before all attached files were in place.  "
+            "They are in place now."_s,
+            u"Restore Completed"_s);
+    };
+    platform::Desktop::attempt(done, [&](const platform::RuntimeError& error) {
+        desktop_->notice(
+            u"The last time your database was replaced, Kinbook was cut off before all attached files were in place.  "
+            "They could not be brought from "_s +
+                companion + u" now: "_s + error.report() + u".  Please restore that backup again."_s,
+            u"Restore Incomplete"_s, platform::Icon::Critical);
+    });
+}
+
+bool Kinbook::openDatabase() {
+    data::Connection& connection = session_->gConnection;
+    connection.setCursorLocation(data::CursorLocation::Client);
+    try {
+        connection.open(live());
+        data::checkTables(connection);
+        return true;
+    } catch (const data::NoDatabase& lack) {
+        return restoreMissingDatabase(connection.isOpen() ? lack.description() : QString());
+    }
+}
+
 SplashWindow& Kinbook::splash() {
     if (auto* loaded = dynamic_cast<SplashWindow*>(desktop_->find(SplashWindow::formName()))) return *loaded;
     return desktop_->load(std::make_unique<SplashWindow>(*desktop_, *session_));
@@ -99,8 +145,9 @@ void Kinbook::unloadSplash() {
     if (platform::Form* loaded = desktop_->find(SplashWindow::formName())) loaded->unload();
 }
 
-bool Kinbook::restoreMissingDatabase() {
-    desktop_->notice(u"No FamilyInfo database was found.  You must restore a database in order to proceed."_s);
+bool Kinbook::restoreMissingDatabase(const QString& lack) {
+    const QString reason = lack.isEmpty() ? QString() : u"\r\n\r\n"_s + lack;
+    desktop_->notice(u"No FamilyInfo database was found.  You must restore a database in order to proceed."_s + reason);
     unloadSplash();
     const bool goesOn = desktop_->ask(
         u"When you restore a database, the current database will be destroyed.  If, for some reason, you are wanting "
@@ -125,7 +172,7 @@ void Kinbook::replaceDatabase(const QString& chosen) {
     session_->useLiveDatabase();
     if (session_->gConnection.isOpen()) session_->gConnection.close();
     desktop_->unloadAll([](const platform::Form& form) { return form.name() != MDIHost::formName(); });
-    data::replaceDatabase(chosen, session_->gsDatabasePath);
+    data::BookReplacement(live(), attachments()).replaceLostDatabase(chosen);
     session_->gConnection.setCursorLocation(data::CursorLocation::Client);
     session_->gConnection.open(session_->gsDatabasePath);
     desktop_->notice(u"Your database, "_s + chosenName + u", has been restored as "_s + session_->gsDatabaseName +

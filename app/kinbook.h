@@ -11,6 +11,10 @@ namespace session {
 struct Session;
 }
 
+namespace data {
+class BookReplacement;
+}
+
 namespace app {
 
 class SplashWindow;
@@ -34,9 +38,17 @@ private:
     [[nodiscard]] bool getSplashValues();
     [[nodiscard]] SplashWindow& splash();
     void unloadSplash();
-    /// Offers to restore a database in place of one that can't be opened; false when the start is given up.
-    [[nodiscard]] bool restoreMissingDatabase();
+    /// Finishes what a run that died while it replaced the book left undone, unless another run is at it right now.
+    void finishReplacement();
+    void tellFinished(data::BookReplacement& book);
+    /// Opens the family's database, or one that is restored in its place; false when the start is given up.
+    [[nodiscard]] bool openDatabase();
+    /// Offers to restore a database in place of one that is missing or can't be used; false when the start is given up.
+    /// `lack`: what a whole database lacks to be a book of this program; empty for all others.
+    [[nodiscard]] bool restoreMissingDatabase(const QString& lack);
     void replaceDatabase(const QString& chosen);
+    [[nodiscard]] QString live() const;
+    [[nodiscard]] QString attachments() const;
 
     std::unique_ptr<platform::Desktop> desktop_;
     std::unique_ptr<session::Session> session_;

@@ -13,9 +13,11 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "data/book_replacement.h"
 #include "data/database_files.h"
 #include "data/template.h"
 #include "platform/base/files.h"
+#include "platform/base/folder_replacement.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
@@ -63,14 +65,15 @@ struct Fastest {
 void backUp(const QString& live, const QString& target) {
     const QString companion = data::companionFolder(target);
     files::copyFile(live + u"/FamilyInfo.mdb"_s, target);
-    if (files::folderExists(companion)) files::deleteFolder(companion, true);
-    files::copyFolder(live + u"/Attachments"_s, companion);
+    files::FolderReplacement folder(companion);
+    files::copyFolder(live + u"/Attachments"_s, folder.path());
+    folder.place();
 }
 
 void restore(const QString& source, const QString& live) {
-    data::replaceDatabase(source, live + u"/FamilyInfo.mdb"_s);
-    files::deleteAllFiles(live + u"/Attachments"_s, true);
-    files::copyAllFiles(data::companionFolder(source), live + u"/Attachments"_s);
+    data::BookReplacement book(live + u"/FamilyInfo.mdb"_s, live + u"/Attachments"_s);
+    book.replaceDatabase(source, data::companionFolder(source));
+    book.replaceAttachments();
 }
 
 void copyAll(const QString& from, const QString& to) {

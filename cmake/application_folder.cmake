@@ -25,6 +25,7 @@ install(CODE [[
 ]])
 install(CODE "
   set(folder \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
+  file(MAKE_DIRECTORY \"\${folder}/Attachments\" \"\${folder}/Backup\")
   lay_down_once(\"${CMAKE_BINARY_DIR}/FamilyInfo_Empty.mdb\" \"\${folder}/FamilyInfo.mdb\")
   lay_down_once(\"${PROJECT_SOURCE_DIR}/resources/SplashDef.txt\" \"\${folder}/SplashDef.txt\")
 ")

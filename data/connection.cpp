@@ -8,8 +8,10 @@
 #include "data/connection_private.h"
 #include "data/engine_files.h"
 #include "data/recordset.h"
+#include "platform/base/files.h"
 
 using namespace Qt::StringLiterals;
+namespace files = platform::files;
 
 namespace data {
 
@@ -24,11 +26,11 @@ constexpr int busyMilliseconds = 2000;
 void refuseWhatIsNoFile(const QString& path) {
     const QFileInfo file(path);
     if (!file.dir().exists())
-        throw providerError(ProviderError::Failed,
-                            u"'%1' is not a valid path.  Make sure that the path name is spelled correctly and that "
-                            "you are connected to the server on which the file resides."_s.arg(path));
-    if (!file.isFile()) throw providerError(ProviderError::Failed, u"Could not find file '%1'."_s.arg(path));
-    if (file.size() == 0) throw providerError(ProviderError::Failed, u"Unrecognized database format '%1'."_s.arg(path));
+        throw NoDatabase(
+            u"'%1' is not a valid path.  Make sure that the path name is spelled correctly and that "
+            "you are connected to the server on which the file resides."_s.arg(path));
+    if (files::isMissing(path) || file.isDir()) throw NoDatabase(u"Could not find file '%1'."_s.arg(path));
+    if (file.size() == 0) throw NoDatabase(u"Unrecognized database format '%1'."_s.arg(path));
 }
 
 /// Deleting the journal ends a save, so that one file is always the whole database; EXTRA also flushes the folder
@@ -47,8 +49,7 @@ void checkWhole(SQLite::Database& database, const QString& path) {
     database.execAndGet("SELECT count(*) FROM sqlite_schema");
     const qint64 pages = database.execAndGet("PRAGMA page_count").getInt64();
     const qint64 pageSize = database.execAndGet("PRAGMA page_size").getInt64();
-    if (QFileInfo(path).size() < pages * pageSize)
-        throw providerError(ProviderError::Failed, u"Unrecognized database format '%1'."_s.arg(path));
+    if (QFileInfo(path).size() < pages * pageSize) throw NoDatabase(u"Unrecognized database format '%1'."_s.arg(path));
 }
 
 std::unique_ptr<SQLite::Database> openDatabase(const QString& path) {
@@ -60,7 +61,7 @@ std::unique_ptr<SQLite::Database> openDatabase(const QString& path) {
         checkWhole(*database, path);
         return database;
     } catch (const SQLite::Exception& cause) {
-        throw openingError(cause, path);
+        throwOpeningError(cause, path);
     }
 }
 
@@ -97,6 +98,13 @@ void Connection::close() {
 
 bool Connection::isOpen() const {
     return d_->database != nullptr;
+}
+
+bool Connection::isReadOnly() const {
+    if (!isOpen()) throw RuntimeError(3709);
+    if (sqlite3_db_readonly(d_->database->getHandle(), "main") == 1) return true;
+    // Each save begins with a journal beside the file.
+    return !files::mayChange(QFileInfo(QFileInfo(d_->path).canonicalFilePath()).absolutePath());
 }
 
 QString Connection::path() const {

@@ -22,12 +22,15 @@ public:
     void setCursorLocation(CursorLocation location);
     [[nodiscard]] CursorLocation cursorLocation() const;
 
-    /// Opens an existing file for reading and writing; never makes one. Throws RuntimeError -2147467259 with the
-    /// provider's words for a missing, unreadable, empty, truncated or foreign file, 3705 when open already.
+    /// Opens an existing file for reading and writing, or for reading where no more is allowed; never makes one. Throws
+    /// RuntimeError -2147467259 with the provider's words: NoDatabase for a missing, empty, truncated or foreign file,
+    /// the plain error for a locked or unreadable one; 3705 when open already.
     void open(const QString& path);
     /// Closes every recordset opened here, dropping their pending changes, then the file.
     void close();
     [[nodiscard]] bool isOpen() const;
+    /// The open file, or the folder in which a save keeps its journal, may not be written.
+    [[nodiscard]] bool isReadOnly() const;
     [[nodiscard]] QString path() const;
 
     /// Names of the file's tables and views, system tables left out of none, ordered by type, then name.

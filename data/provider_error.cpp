@@ -6,6 +6,7 @@
 #include <cerrno>
 
 #include "data/syntax_words.h"
+#include "platform/base/files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,8 +52,15 @@ RuntimeError fileInUse(const QString& path) {
     return providerError(ProviderError::Failed, u"Could not use '%1'; file already in use."_s.arg(path));
 }
 
-RuntimeError unrecognized(const QString& path) {
-    return providerError(ProviderError::Failed, u"Unrecognized database format '%1'."_s.arg(path));
+QString unrecognizedWords(const QString& path) {
+    return u"Unrecognized database format '%1'."_s.arg(path);
+}
+
+RuntimeError cantOpen(const QString& path) {
+    if (platform::files::mayRead(path))
+        return providerError(ProviderError::Failed, u"Could not open '%1'."_s.arg(path));
+    return providerError(ProviderError::Failed,
+                         u"Could not open '%1'; you do not have permission to read it."_s.arg(path));
 }
 
 bool meansNoRoom(int systemError) {
@@ -102,6 +110,8 @@ RuntimeError constraintError(int extended) {
 
 }  // namespace
 
+NoDatabase::NoDatabase(const QString& words) : RuntimeError(static_cast<int>(ProviderError::Failed), words) {}
+
 RuntimeError providerError(ProviderError number, const QString& words) {
     return RuntimeError(static_cast<int>(number), words);
 }
@@ -127,7 +137,7 @@ RuntimeError statementError(const SQLite::Exception& cause, SQLite::Database& da
             return readOnly();
         case SQLITE_CORRUPT:
         case SQLITE_NOTADB:
-            return unrecognized(path);
+            return providerError(ProviderError::Failed, unrecognizedWords(path));
         case SQLITE_IOERR:
             return providerError(ProviderError::Failed, u"Disk or network error."_s);
         default:
@@ -135,12 +145,26 @@ RuntimeError statementError(const SQLite::Exception& cause, SQLite::Database& da
     }
 }
 
-RuntimeError openingError(const SQLite::Exception& cause, const QString& path) {
-    const int code = cause.getErrorCode();
-    if (code == SQLITE_BUSY || code == SQLITE_LOCKED || code == SQLITE_CANTOPEN) return fileInUse(path);
-    if (code == SQLITE_READONLY) return readOnly();
-    return code == SQLITE_IOERR ? providerError(ProviderError::Failed, u"Disk or network error."_s)
-                                : unrecognized(path);
+void throwOpeningError(const SQLite::Exception& cause, const QString& path) {
+    switch (cause.getErrorCode()) {
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+        // A schema, or a version of the format, that the engine doesn't understand.
+        case SQLITE_ERROR:
+            throw NoDatabase(unrecognizedWords(path));
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            throw fileInUse(path);
+        case SQLITE_CANTOPEN:
+        case SQLITE_PERM:
+            throw cantOpen(path);
+        case SQLITE_READONLY:
+            throw readOnly();
+        case SQLITE_IOERR:
+            throw providerError(ProviderError::Failed, u"Disk or network error."_s);
+        default:
+            throw providerError(ProviderError::Failed, QString::fromUtf8(cause.what()));
+    }
 }
 
 }  // namespace data

@@ -25,6 +25,12 @@ enum class ProviderError : int {
     RowChanged = -2147217864,
 };
 
+/// What lies in the place of a family's database is none: nothing at all, or a file that is empty, damaged or foreign.
+class NoDatabase : public platform::RuntimeError {
+public:
+    explicit NoDatabase(const QString& words);
+};
+
 /// The error with its standing words; Failed and Syntax have none of their own and take them from the place.
 [[nodiscard]] platform::RuntimeError providerError(ProviderError number);
 [[nodiscard]] platform::RuntimeError providerError(ProviderError number, const QString& words);
@@ -33,7 +39,7 @@ enum class ProviderError : int {
 [[nodiscard]] platform::RuntimeError statementError(const SQLite::Exception& cause, SQLite::Database& database,
                                                     const QString& statement);
 
-/// What the provider says when the file can't be opened or turns out to be no database.
-[[nodiscard]] platform::RuntimeError openingError(const SQLite::Exception& cause, const QString& path);
+/// What the provider says when the file can't be opened: NoDatabase for one that is damaged or no database.
+[[noreturn]] void throwOpeningError(const SQLite::Exception& cause, const QString& path);
 
 }  // namespace data

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 
 #include "platform/base/file_errors.h"
 #include "platform/base/file_replacement.h"
@@ -113,50 +114,48 @@ private:
     bool inKernel_ = true;
 };
 
+struct CopyOptions {
+    CopyProgress progress{};
+    CopyFinish finish{};
+    std::optional<unsigned> mode{};  ///< permission bits of the copy; the source's otherwise
+    FileReplacement::Flush flush = FileReplacement::Flush::Now;
+};
+
 /// Copies one file, and gives the folder that is to be synced before the copy is lasting.
-QString copyUnsynced(const QString& source, const QString& target, const CopyProgress& progress = {},
-                     const CopyFinish& finish = {}, FileReplacement::Flush flush = FileReplacement::Flush::Now) {
+QString copyUnsynced(const QString& source, const QString& target, const CopyOptions& options = {}) {
     const SourceFile from(source);
     if (from.isSameAs(target)) throw RuntimeError(70);
     FileReplacement to(target);
-    ContentCopy(from, to, progress).run();
-    if (finish) finish(to.path());
-    to.setMode(from.mode());
-    to.place(flush);
+    const unsigned mode = options.mode.value_or(from.mode() & to.usualMode());
+    // Nobody else reads in the copy while it is made; what is made read-only may still be finished.
+    constexpr unsigned ownersAlone = 0600;
+    to.setMode(ownersAlone);
+    ContentCopy(from, to, options.progress).run();
+    if (options.finish) options.finish(to.path());
+    to.setMode(mode);
+    to.place(options.flush);
     return to.folder();
 }
 
-/// Waits until all that was written on the disk of a file or folder is there. Hundreds of files are copied in half the
-/// time that they take with a wait at each.
-void flushDisk(const QString& path) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    const int error = descriptor >= 0 && ::syncfs(descriptor) == 0 ? 0 : errno;
-    if (descriptor >= 0) ::close(descriptor);
-    if (error != 0) throwSystemError(error, 76);
-}
-
-void copyFilesUnflushed(const QStringList& names, const QString& folder, const QString& targetFolder) {
+/// Each file is on the disk before it bears its name, so that a power cut leaves none of the right name torn.
+void copyFiles(const QStringList& names, const QString& folder, const QString& targetFolder) {
     for (const QString& name : names)
-        copyFileUnflushed(join(folder, name), join(targetFolder, name));
-}
-
-void copyFolderUnflushed(const QString& source, const QString& target) {
-    // Listed before the target is made, so that a folder copied into itself comes to an end.
-    const FolderEntries entries = entriesOf(source);
-    makeFolder(target);
-    copyFilesUnflushed(entries.files, source, target);
-    for (const QString& name : entries.folders)
-        copyFolderUnflushed(join(source, name), join(target, name));
+        copyUnsynced(join(folder, name), join(targetFolder, name));
+    syncFolder(targetFolder);
 }
 
 }  // namespace
 
 void copyFile(const QString& source, const QString& target, const CopyProgress& progress, const CopyFinish& finish) {
-    syncFolder(copyUnsynced(source, target, progress, finish));
+    syncFolder(copyUnsynced(source, target, {.progress = progress, .finish = finish}));
+}
+
+void copyFileWithMode(const QString& source, const QString& target, unsigned mode) {
+    syncFolder(copyUnsynced(source, target, {.mode = mode}));
 }
 
 void copyFileUnflushed(const QString& source, const QString& target) {
-    copyUnsynced(source, target, {}, {}, FileReplacement::Flush::Later);
+    copyUnsynced(source, target, {.flush = FileReplacement::Flush::Later});
 }
 
 void flush(const QString& path) {
@@ -171,8 +170,7 @@ void copyAllFiles(const QString& folder, const QString& targetFolder) {
     const QStringList names = entriesOf(folder).files;
     if (names.isEmpty()) throw RuntimeError(53);
     if (!folderExists(targetFolder)) throw RuntimeError(76);
-    copyFilesUnflushed(names, folder, targetFolder);
-    flushDisk(targetFolder);
+    copyFiles(names, folder, targetFolder);
 }
 
 void makeFolder(const QString& path) {
@@ -184,8 +182,12 @@ void makeFolder(const QString& path) {
 void copyFolder(const QString& source, const QString& target) {
     // A closing separator names what lies in the folder, not the folder.
     if (source.endsWith(separator())) throw RuntimeError(76);
-    copyFolderUnflushed(source, target);
-    flushDisk(target);
+    // Listed before the target is made, so that a folder copied into itself comes to an end.
+    const FolderEntries entries = entriesOf(source);
+    makeFolder(target);
+    copyFiles(entries.files, source, target);
+    for (const QString& name : entries.folders)
+        copyFolder(join(source, name), join(target, name));
 }
 
 }  // namespace platform::files

@@ -4,25 +4,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QUuid>
 #include <cerrno>
 
 #include "platform/base/file_errors.h"
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
-
-using namespace Qt::StringLiterals;
+#include "platform/base/unfinished.h"
 
 namespace platform::files {
-
-namespace {
-
-const QString temporaryPrefix = u".kinbook-"_s;
-
-}  // namespace
 
 FileReplacement::FileReplacement(const QString& target) {
     // A link to a file stays a link: what it leads to is replaced.
@@ -35,10 +26,15 @@ FileReplacement::FileReplacement(const QString& target) {
     if (place.exists() && !place.isFile()) throw RuntimeError(70);
     if (place.exists() && isReadOnly(target)) throw RuntimeError(70);
 
-    const QString name = temporaryPrefix + QUuid::createUuid().toString(QUuid::Id128);
-    temporary_ = QFile::encodeName(join(folder_, name));
+    temporary_ = QFile::encodeName(unfinishedPath(folder_));
     descriptor_ = ::open(temporary_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (descriptor_ < 0) throwSystemError(errno, 76);
+    claim(descriptor_);
+}
+
+unsigned FileReplacement::usualMode() const {
+    struct stat status {};
+    return ::fstat(descriptor_, &status) == 0 ? status.st_mode & 0777 : 0600;
 }
 
 FileReplacement::~FileReplacement() {
@@ -78,15 +74,6 @@ void FileReplacement::place(Flush flush) {
     if (flush == Flush::Now && ::fsync(descriptor_) != 0) throwSystemError(errno, 76);
     if (::rename(temporary_.constData(), target_.constData()) != 0) throwSystemError(errno, 76);
     temporary_.clear();
-}
-
-void discardUnfinished(const QString& folder) {
-    const QDir inside(folder);
-    const QString unfinished = temporaryPrefix + u"?"_s.repeated(32);
-    // A database may have been changed under its temporary name.
-    const QStringList names = inside.entryList({unfinished, unfinished + u"-journal"_s}, QDir::Files | QDir::Hidden);
-    for (const QString& name : names)
-        QFile::remove(inside.filePath(name));
 }
 
 void syncFolder(const QString& folder) {

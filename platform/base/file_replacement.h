@@ -24,6 +24,8 @@ public:
     [[nodiscard]] const QString& folder() const { return folder_; }
     /// Error 61 when the disk is full.
     void write(const QByteArray& bytes);
+    /// The permission bits of a new file of this user, as long as no others are set.
+    [[nodiscard]] unsigned usualMode() const;
     /// Gives the file these permission bits.
     void setMode(unsigned mode);
     /// Gives the file the permission bits of the one that it replaces, if there is one.
@@ -39,9 +41,6 @@ private:
     QByteArray temporary_;
     int descriptor_ = -1;
 };
-
-/// Deletes what a run that died in the middle left of its replacements in a folder, as far as that can be deleted.
-void discardUnfinished(const QString& folder);
 
 /// Makes the names in a folder last through a power cut.
 void syncFolder(const QString& folder);

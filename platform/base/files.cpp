@@ -1,5 +1,6 @@
 #include "platform/base/files.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -98,6 +99,42 @@ void deleteFolder(const QString& path, bool force) {
     for (const QString& name : entries.links)
         unlinkName(join(path, name));
     if (::rmdir(QFile::encodeName(path).constData()) != 0) throwSystemError(errno, 76);
+}
+
+void moveFile(const QString& path, const QString& target) {
+    if (::rename(QFile::encodeName(path).constData(), QFile::encodeName(target).constData()) != 0)
+        throwSystemError(errno, 53);
+}
+
+void keepUnder(const QString& path, const QString& keptPath) {
+    const QByteArray from = QFile::encodeName(path);
+    const QByteArray to = QFile::encodeName(keptPath);
+    if (::link(from.constData(), to.constData()) != 0 && ::rename(from.constData(), to.constData()) != 0)
+        throwSystemError(errno, 53);
+}
+
+bool isTaken(const QString& path) {
+    struct stat status {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+bool isMissing(const QString& path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0) return false;
+    if (errno == ENOENT || errno == ENOTDIR) return true;
+    throwSystemError(errno, 53);
+}
+
+bool mayRead(const QString& path) {
+    return ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), R_OK, AT_EACCESS) == 0;
+}
+
+bool mayChange(const QString& folder) {
+    return ::faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+unsigned modeOf(const QString& path) {
+    return statusOf(path).st_mode & 0777;
 }
 
 bool isReadOnly(const QString& path) {

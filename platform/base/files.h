@@ -32,20 +32,39 @@ using CopyFinish = std::function<void(const QString& copy)>;
 /// Bytes of all files in it and in its subfolders; error 76 for a missing folder, 70 for a part that can't be read.
 [[nodiscard]] qint64 folderSize(const QString& folder);
 
-/// Copies a file with its attributes. The target is replaced whole, on the disk when this returns, or left as it was.
-/// Errors: 53 no source, 76 no folder for the target, 70 a read-only target or the source itself, 61 disk full.
+/// Copies a file with its attributes, as far as a new file of this user may have them. The target is replaced whole, on
+/// the disk when this returns, or left as it was. Errors: 53 no source, 76 no folder for the target, 70 a read-only
+/// target or the source itself, 61 disk full.
 void copyFile(const QString& source, const QString& target, const CopyProgress& progress = {},
               const CopyFinish& finish = {});
-/// The same without the wait for the disk: flush() must follow before anything relies on the copy.
+/// The same with these permission bits.
+void copyFileWithMode(const QString& source, const QString& target, unsigned mode);
+/// The same as copyFile() without the wait for the disk: flush() must follow before anything relies on the copy.
 void copyFileUnflushed(const QString& source, const QString& target);
 /// Returns when a file and its name are on the disk. Errors: 53 missing, 61 disk full.
 void flush(const QString& path);
-/// Copies the files of a folder, not its subfolders; stops at the first error. 53 when there are none.
+/// Copies the files of a folder, not its subfolders, each as copyFile(); stops at the first error. 53 when there are
+/// none.
 void copyAllFiles(const QString& folder, const QString& targetFolder);
 /// Errors: 53 missing, 70 read-only and not forced.
 void deleteFile(const QString& path, bool force);
 /// Deletes the files of a folder, not its subfolders; stops at the first error. 53 when there are none.
 void deleteAllFiles(const QString& folder, bool force);
+
+/// Renames a file over another one, or into a name that is free. The new name is lasting after syncFolder().
+void moveFile(const QString& path, const QString& target);
+/// Gives what lies at a path another name in the same folder, which must be free. Where the file system can, the old
+/// name stays until something else takes it.
+void keepUnder(const QString& path, const QString& keptPath);
+/// False when nothing lies at the path; a link to nothing is something.
+[[nodiscard]] bool isTaken(const QString& path);
+/// True when no file or folder is to be found at the path. Throws the system's error where that can't be told, as in a
+/// folder that this user may not enter.
+[[nodiscard]] bool isMissing(const QString& path);
+/// This user may read the file.
+[[nodiscard]] bool mayRead(const QString& path);
+/// This user may make and delete files in the folder.
+[[nodiscard]] bool mayChange(const QString& folder);
 
 /// Copies what a folder holds, with its subfolders but without links to folders, into a folder that is made or merged
 /// into. Error 76 for a source that is missing or has a separator at its end, otherwise as copyFile().
@@ -56,6 +75,8 @@ void makeFolder(const QString& path);
 /// inside that isn't forced.
 void deleteFolder(const QString& path, bool force);
 
+/// The permission bits of a file; error 53 for a missing one.
+[[nodiscard]] unsigned modeOf(const QString& path);
 /// Error 53 for a missing file.
 [[nodiscard]] bool isReadOnly(const QString& path);
 void setReadOnly(const QString& path, bool readOnly = true);

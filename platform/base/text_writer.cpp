@@ -2,6 +2,7 @@
 
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
+#include "platform/base/unfinished.h"
 
 using namespace Qt::StringLiterals;
 

@@ -104,7 +104,8 @@ bool Desktop::attempt(const std::function<void()>& routine, const std::function<
 void Desktop::run(const std::function<void()>& handler) {
     try {
         attempt(programTitle(), handler);
-    } catch (const RunEnded&) {
+    } catch (const RunEnded& end) {
+        notice(end.words, end.title, Icon::Critical);
         endRun();
     }
 }

@@ -17,8 +17,12 @@ class RuntimeError;
 
 enum class Pointer { Default, Hourglass };
 
-/// Thrown by what the program can't go on without: nothing catches it but the event that set it off, and the run ends.
-struct RunEnded {};
+/// Thrown by what the program can't go on without: nothing catches it but the event that set it off, a box says why,
+/// and the run ends.
+struct RunEnded {
+    QString words;
+    QString title;
+};
 
 /// What all forms of one run share: the collection of loaded forms, the dialogs, the pointer, and the last net under
 /// a failure that no routine handles.

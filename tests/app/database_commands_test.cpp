@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -12,31 +10,12 @@
 #include "platform/base/files.h"
 #include "tests/data/hostile_disk.h"
 #include "tests/support/household.h"
+#include "tests/support/ordinary_family.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
 
 namespace {
-
-/// While it lives, a folder belongs to a user without the administrator's powers, and the program runs as his.
-class OrdinaryFamily {
-public:
-    explicit OrdinaryFamily(const QString& folder) {
-        if (::geteuid() != 0) return;
-        constexpr uid_t nobody = 65534;
-        EXPECT_EQ(::chown(qPrintable(folder), nobody, nobody), 0);
-        QDirIterator inside(folder, QDir::AllEntries | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-        while (inside.hasNext())
-            EXPECT_EQ(::chown(qPrintable(inside.next()), nobody, nobody), 0);
-        EXPECT_EQ(::seteuid(nobody), 0);
-    }
-    ~OrdinaryFamily() { EXPECT_EQ(::seteuid(before_), 0); }
-    OrdinaryFamily(const OrdinaryFamily&) = delete;
-    OrdinaryFamily& operator=(const OrdinaryFamily&) = delete;
-
-private:
-    uid_t before_ = ::geteuid();
-};
 
 /// The family of Ann, with two attached files and a folder for backups.
 class DatabaseCommands : public support::Household {
@@ -69,14 +48,6 @@ protected:
     [[nodiscard]] QStringList selector() {
         return user.control(u"MDIHost.cbPerson"_s)["items"_L1].toVariant().toStringList();
     }
-    [[nodiscard]] QStringList namesIn(const QString& folder) const {
-        return QDir(path(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-    [[nodiscard]] QByteArray bytesOf(const QString& name) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll();
-    }
     [[nodiscard]] double kilobytes() const {
         return static_cast<double>(files::fileSize(path(u"FamilyInfo.mdb"_s))) / 1024;
     }
@@ -95,9 +66,15 @@ TEST_F(DatabaseCommands, WhatWasBackedUpIsRestoredWithItsAttachments) {
     startWithAnn();
     user.tool(u"tbBackup"_s);
     const QJsonObject dialog = user.dialog();
+    EXPECT_EQ(dialog["folder"_L1].toString(), path({}));
     EXPECT_EQ(dialog["filter"_L1].toString(), u"Database Files (*.mdb)"_s);
     EXPECT_EQ(dialog["file"_L1].toString(), u"FamilyInfoBackup.mdb"_s);
     EXPECT_EQ(dialog["mode"_L1].toString(), u"save"_s);
+    user.cancel();
+    dismissBox();
+    QDir(path({})).mkpath(u"Backup"_s);
+    user.tool(u"tbBackup"_s);
+    EXPECT_EQ(user.dialog()["folder"_L1].toString(), path(u"Backup"_s));
     // The name may be anything with a dot; an older backup's files of it go.
     QDir(path({})).mkpath(u"b/Größe 1.2Attachments/sub"_s);
     writeFile(u"b/Größe 1.2Attachments/old"_s, "old");
@@ -255,9 +232,16 @@ TEST_F(DatabaseCommands, ABackupNeverTouchesTheLiveFiles) {
         }
         for (const auto& target : {u"FamilyInfo.mdb"_s, u".mdb"_s, u"Attachments/x.mdb"_s}) {
             SCOPED_TRACE(target.toStdString());
-            backUp(path(target));
-            EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
-            EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
+            user.menu(u"mBackup"_s);
+            user.choose(path(target));
+            if (source.isEmpty()) {
+                user.answer(u"Yes"_s);
+                EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
+                EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
+            } else {
+                EXPECT_EQ(boxText(), u"The original database does not exist."_s);
+                EXPECT_EQ(dismissBox(), u"No Source Database"_s);
+            }
             EXPECT_EQ(pointer(), u"normal"_s);
             EXPECT_EQ(bytesOf(u"FamilyInfo.mdb"_s), whole);
             EXPECT_EQ(namesIn(u"Attachments"_s), QStringList({u"FI_1.txt"_s, u"FI_2.txt"_s}));
@@ -305,7 +289,7 @@ TEST_F(DatabaseCommands, SizesThatDifferAndMissingFoldersAreTold) {
     // One of the backup's files can't be read.
     ASSERT_EQ(::chmod(qPrintable(path(u"b/MonAttachments/FI_2.txt"_s)), 0), 0);
     {
-        const OrdinaryFamily family(path({}));
+        const support::OrdinaryFamily family(path({}));
         restore(path(u"b/Mon.mdb"_s));
         EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
         EXPECT_EQ(dismissBox(), u"CopyAttachments"_s);
@@ -314,17 +298,79 @@ TEST_F(DatabaseCommands, SizesThatDifferAndMissingFoldersAreTold) {
     EXPECT_EQ(dismissBox(), u"Backup Failure"_s);
     expectAnnIsThere();
     EXPECT_EQ(namesIn(u"Attachments"_s), QStringList{u"FI_1.txt"_s});
-    // An empty folder has nothing that could be deleted, which ends the copying.
-    files::deleteFile(path(u"Attachments/FI_1.txt"_s), true);
-    restore(path(u"b/Mon.mdb"_s));
-    EXPECT_EQ(boxText(), u"53 - File not found"_s);
-    EXPECT_EQ(dismissBox(), u"CopyAttachments"_s);
-    EXPECT_EQ(dismissBox(), u"Backup Failure"_s);
+}
+
+TEST_F(DatabaseCommands, ARestoreBringsTheFilesBackWhateverLiesInTheirPlace) {
+    user.start();
+    backUp(path(u"b/Mon.mdb"_s));
+    EXPECT_EQ(dismissBox(), u"Backup Database Information"_s);
+    const auto empty = [this] {
+        QFile::remove(path(u"Attachments/FI_1.txt"_s)), QFile::remove(path(u"Attachments/FI_2.txt"_s));
+    };
+    const std::function<void()> before[] = {[] {}, empty, [&] { empty(), QDir(path({})).rmdir(u"Attachments"_s); }};
+    for (const auto& prepare : before) {
+        prepare();
+        restore(path(u"b/Mon.mdb"_s));
+        EXPECT_EQ(dismissBox(), u"Database Restored"_s);
+        EXPECT_EQ(namesIn(u"Attachments"_s), QStringList({u"FI_1.txt"_s, u"FI_2.txt"_s}));
+        EXPECT_EQ(bytesOf(u"Attachments/FI_2.txt"_s), QByteArray(2000, 'b'));
+    }
+    // A family without attached files: its backup is whole, and brings none back.
+    empty();
     QDir(path({})).rmdir(u"Attachments"_s);
     backUp(path(u"b/Tue.mdb"_s));
-    EXPECT_EQ(boxText(), u"76 - Path not found"_s);
-    EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
-    EXPECT_EQ(bytesOf(u"b/Tue.mdb"_s), bytesOf(u"FamilyInfo.mdb"_s));
+    EXPECT_TRUE(boxText().contains(u"There are 0 kilobytes of attachments. "_s)) << boxText().toStdString();
+    EXPECT_EQ(dismissBox(), u"Backup Database Information"_s);
+    EXPECT_EQ(namesIn(u"b/TueAttachments"_s), QStringList());
+    restore(path(u"b/Tue.mdb"_s));
+    EXPECT_EQ(dismissBox(), u"Database Restored"_s);
+    EXPECT_EQ(namesIn(u"Attachments"_s), QStringList());
+}
+
+TEST_F(DatabaseCommands, AnOldBackupsFilesGoOnlyWhenTheNewOnesAreThere) {
+    startWithAnn();
+    backUp(path(u"b/Mon.mdb"_s));
+    dismissBox();
+    // Of the same size, but not to be read.
+    writeFile(u"Attachments/FI_2.txt"_s, QByteArray(2000, 'c'));
+    ASSERT_EQ(::chmod(qPrintable(path(u"Attachments/FI_2.txt"_s)), 0), 0);
+    {
+        const support::OrdinaryFamily family(path({}));
+        backUp(path(u"b/Mon.mdb"_s));
+        EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
+        EXPECT_EQ(dismissBox(), u"SaveAttachments"_s);
+        EXPECT_EQ(dismissBox(), u"Backup Failure"_s);
+    }
+    EXPECT_EQ(bytesOf(u"b/MonAttachments/FI_2.txt"_s), QByteArray(2000, 'b'));
+    EXPECT_EQ(namesIn(u"b"_s), QStringList({u"Mon.mdb"_s, u"MonAttachments"_s}));
+    ASSERT_EQ(::chmod(qPrintable(path(u"Attachments/FI_2.txt"_s)), 0644), 0);
+    backUp(path(u"b/Mon.mdb"_s));
+    EXPECT_EQ(dismissBox(), u"Backup Database Information"_s);
+    EXPECT_EQ(bytesOf(u"b/MonAttachments/FI_2.txt"_s), QByteArray(2000, 'c'));
+    EXPECT_EQ(namesIn(u"b"_s), QStringList({u"Mon.mdb"_s, u"MonAttachments"_s}));
+}
+
+TEST_F(DatabaseCommands, NobodyGetsToReadABookThatHeMayNotReadNow) {
+    const auto mode = [this](const QString& name) { return files::modeOf(path(name)); };
+    ASSERT_EQ(::chmod(qPrintable(path(u"FamilyInfo.mdb"_s)), 0600), 0);
+    user.start();
+    backUp(path(u"b/Mon.mdb"_s));
+    dismissBox();
+    EXPECT_EQ(mode(u"b/Mon.mdb"_s), 0600U);
+    ASSERT_EQ(::chmod(qPrintable(path(u"b/Mon.mdb"_s)), 0644), 0);
+    restore(path(u"b/Mon.mdb"_s));
+    dismissBox();
+    EXPECT_EQ(mode(u"FamilyInfo.mdb"_s), 0600U);
+    user.menu(u"mNew"_s);
+    user.answer(u"Yes"_s);
+    dismissBox();
+    EXPECT_EQ(mode(u"FamilyInfo.mdb"_s), 0600U);
+    ASSERT_EQ(::chmod(qPrintable(path(u"FamilyInfo.mdb"_s)), 0644), 0);
+    const mode_t before = ::umask(077);
+    backUp(path(u"b/Tue.mdb"_s));
+    ::umask(before);
+    dismissBox();
+    EXPECT_EQ(mode(u"b/Tue.mdb"_s), 0600U);
 }
 
 TEST_F(DatabaseCommands, SecretsOfAnOpenListAreEncipheredBeforeItsFileIsClosed) {

@@ -1,13 +1,19 @@
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
 #include <QJsonObject>
 
 #include "data/template.h"
+#include "platform/base/files.h"
+#include "platform/base/unfinished.h"
 #include "tests/support/household.h"
+#include "tests/support/ordinary_family.h"
 
 using namespace Qt::StringLiterals;
+namespace files = platform::files;
 
 namespace {
 
@@ -125,21 +131,161 @@ TEST_F(Start, ARestoredDatabaseIsOpenedUnderItsUsualName) {
     EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Ann Larkin"_s);
 }
 
-TEST_F(Start, ATreeThatCantBeCountedEndsTheRunWithoutABox) {
-    exec(u"DROP TABLE CDs"_s);
+TEST_F(Start, ATreeThatCantBeCountedSaysWhyTheRunEnds) {
+    addMembers({u"Ann Larkin"_s});
     user.start();
-    EXPECT_TRUE(user.dialog().isEmpty());
+    exec(u"DROP TABLE CDs"_s);
+    user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+    EXPECT_TRUE(boxText().startsWith(u"-2147217865 - "_s)) << boxText().toStdString();
+    EXPECT_EQ(boxIcon(), u"critical"_s);
+    EXPECT_EQ(dismissBox(), u"SetImage Error"_s);
     EXPECT_FALSE(running());
 }
 
 TEST_F(Start, ALostTableIsReportedByTheScreenThatNeedsIt) {
-    exec(u"DROP TABLE Attachments"_s);
     addMembers({u"Ann Larkin"_s});
     user.start();
+    exec(u"DROP TABLE Attachments"_s);
     user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
     EXPECT_TRUE(boxText().startsWith(u"-2147217865 - "_s));
     EXPECT_EQ(dismissBox(), u"SetNumAttachments Error"_s);
     EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Ann Larkin"_s);
+}
+
+TEST_F(Start, AFileThatIsNotOurBookIsNotStartedOnAndSaysWhatItLacks) {
+    const struct {
+        const char* what;
+        QString statements;
+        QString lack;
+    } cases[] = {
+        {"a view that never ends",
+         u"DROP TABLE Person; CREATE VIEW Person AS WITH RECURSIVE n(ID) AS (SELECT 1 UNION ALL SELECT ID + 1 FROM n) "
+         "SELECT ID, 'Ann' AS LegalName, 1 AS Seq FROM n"_s,
+         u"it has no table 'Person'."_s},
+        {"no column", u"ALTER TABLE Taxes DROP COLUMN Comment"_s, u"its table 'Taxes' has no column 'Comment'."_s},
+    };
+    for (const auto& [what, statements, lack] : cases) {
+        SCOPED_TRACE(what);
+        exec(statements);
+        user.start();
+        EXPECT_TRUE(
+            boxText().startsWith(u"No FamilyInfo database was found.  You must restore a database in order to "
+                                 "proceed.\r\n\r\n"_s));
+        EXPECT_TRUE(boxText().endsWith(lack)) << boxText().toStdString();
+        dismissBox();
+        user.answer(u"No"_s);
+        EXPECT_FALSE(running());
+        QFile::remove(path(u"FamilyInfo.mdb"_s));
+        data::createTemplate(path(u"FamilyInfo.mdb"_s));
+    }
+}
+
+TEST_F(Start, AReplacedFileIsKeptBesideTheNewOne) {
+    data::createTemplate(path(u"Good.mdb"_s));
+    for (const QByteArray& bytes : {QByteArray("first"), QByteArray("second")}) {
+        writeFile(u"FamilyInfo.mdb"_s, bytes);
+        startWithoutDatabase();
+        user.answer(u"Yes"_s);
+        user.choose(path(u"Good.mdb"_s));
+        dismissBox();
+        EXPECT_EQ(forms(), QStringList{u"MDIHost"_s});
+        EXPECT_EQ(bytesOf(u"FamilyInfo.damaged.mdb"_s), bytes);
+        user.close();
+    }
+    EXPECT_EQ(bytesOf(u"FamilyInfo.damaged.1.mdb"_s), "first");
+    EXPECT_EQ(bytesOf(u"FamilyInfo.mdb"_s), bytesOf(u"Good.mdb"_s));
+}
+
+TEST_F(Start, AFileThatIsLockedOrMayNotBeReadIsNeverOfferedToBeReplaced) {
+    {
+        SQLite::Database other(path(u"FamilyInfo.mdb"_s).toStdString(), SQLite::OPEN_READWRITE);
+        other.exec("BEGIN EXCLUSIVE");
+        user.start();
+        EXPECT_TRUE(boxText().endsWith(u"file already in use."_s)) << boxText().toStdString();
+        EXPECT_EQ(dismissBox(), u"Main Error"_s);
+        EXPECT_FALSE(running());
+    }
+    const QString live = path(u"FamilyInfo.mdb"_s);
+    ASSERT_EQ(::chmod(qPrintable(live), 0), 0);
+    {
+        const support::OrdinaryFamily family(path({}));
+        user.start();
+        EXPECT_TRUE(boxText().endsWith(u"you do not have permission to read it."_s)) << boxText().toStdString();
+        EXPECT_EQ(dismissBox(), u"Main Error"_s);
+        EXPECT_FALSE(running());
+    }
+}
+
+TEST_F(Start, AFileThatCanOnlyBeReadIsToldOnce) {
+    addMembers({u"Ann Larkin"_s});
+    const QString live = path(u"FamilyInfo.mdb"_s);
+    for (const QString& locked : {live, path({})}) {
+        const support::OrdinaryFamily family(path({}));
+        const mode_t mode = files::folderExists(locked) ? 0755 : 0644;
+        ASSERT_EQ(::chmod(qPrintable(locked), mode & ~0222U), 0);
+        user.start();
+        EXPECT_TRUE(boxText().contains(u"can only be read"_s)) << locked.toStdString();
+        EXPECT_EQ(dismissBox(), u"Read-Only Database"_s);
+        EXPECT_EQ(boxTitle(), QString());
+        EXPECT_EQ(forms(), QStringList{u"MDIHost"_s});
+        user.close();
+        ASSERT_EQ(::chmod(qPrintable(locked), mode), 0);
+    }
+    user.start();
+    EXPECT_EQ(boxTitle(), QString());
+}
+
+TEST_F(Start, WhatARunThatDiedLeftOfARestoreIsFinishedOrTold) {
+    const QString companion = path(u"b/MonAttachments"_s);
+    QDir(path({})).mkpath(u"Attachments"_s);
+    QDir().mkpath(companion);
+    writeFile(u"b/MonAttachments/new.txt"_s, "new");
+    const QString half = u".kinbook-0123456789abcdef0123456789abcdef"_s;
+    const struct {
+        const char* what;
+        bool isReplaced;
+        QString companion;
+        QString box;
+        QStringList attachments;
+    } cases[] = {
+        {"before the database", false, companion, {}, {u"old.txt"_s}},
+        {"after the database", true, companion, u"Restore Completed"_s, {u"new.txt"_s}},
+        {"a fresh start", true, {}, u"Restore Completed"_s, {}},
+        {"the stick is gone", true, path(u"gone/MonAttachments"_s), u"Restore Incomplete"_s, {u"old.txt"_s}},
+    };
+    for (const auto& [what, isReplaced, from, box, attachments] : cases) {
+        SCOPED_TRACE(what);
+        QFile::remove(path(u"Attachments/new.txt"_s));
+        writeFile(u"Attachments/old.txt"_s, "old");
+        writeFile(u"Attachments/"_s + half, "half");
+        writeFile(half, "half");
+        if (!isReplaced) writeFile(u"FamilyInfo.mdb.new"_s, "half");
+        writeFile(u"FamilyInfo.mdb.restoring"_s, from.toUtf8());
+        user.start();
+        if (!box.isEmpty()) {
+            EXPECT_EQ(dismissBox(), box);
+        }
+        EXPECT_EQ(boxTitle(), QString());
+        EXPECT_EQ(forms(), QStringList{u"MDIHost"_s});
+        EXPECT_EQ(namesIn(u"Attachments"_s), attachments);
+        EXPECT_EQ(namesIn({}), QStringList({u"Attachments"_s, u"FamilyInfo.mdb"_s, u"SplashDef.txt"_s, u"b"_s}));
+        user.close();
+    }
+}
+
+TEST_F(Start, ARunningRestoreOfAnotherRunIsLeftAlone) {
+    writeFile(u"FamilyInfo.mdb.new"_s, "half");
+    writeFile(u"FamilyInfo.mdb.restoring"_s, {});
+    {
+        const files::FolderClaim other(path({}));
+        user.start();
+        EXPECT_EQ(forms(), QStringList{u"MDIHost"_s});
+        EXPECT_TRUE(QFile::exists(path(u"FamilyInfo.mdb.new"_s)));
+        EXPECT_TRUE(QFile::exists(path(u"FamilyInfo.mdb.restoring"_s)));
+        user.close();
+    }
+    user.start();
+    EXPECT_FALSE(QFile::exists(path(u"FamilyInfo.mdb.new"_s)));
 }
 
 }  // namespace

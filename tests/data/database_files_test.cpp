@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <csignal>
 
+#include "data/book_check.h"
+#include "data/book_replacement.h"
 #include "data/template.h"
 #include "hostile_disk.h"
 #include "platform/base/files.h"
@@ -45,6 +47,12 @@ void write(const QString& path, const QByteArray& bytes) {
 
 void exec(const QString& path, const char* statements) {
     SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec(statements);
+}
+
+/// Without a word about attached files, as after the last of them.
+void replaceDatabase(const QString& source, const QString& live) {
+    data::BookReplacement(live, {}).replaceDatabase(source, {});
+    QFile::remove(live + u".restoring"_s);
 }
 
 class DatabaseFiles : public testing::Test {
@@ -143,6 +151,14 @@ TEST_F(DatabaseFiles, AFileThatIsNotAWholeDatabaseIsRefusedInWordsThatSayWhy) {
         {changed(18, "\3\3"), "", u"it was written by a newer version of Kinbook."_s},
         {whole, "PRAGMA user_version = 7", u"it was written by a newer version of Kinbook."_s},
         {whole, "DROP TABLE Attachments", u"it is no Kinbook database, for it has no table 'Attachments'."_s},
+        {whole, "ALTER TABLE CDs DROP COLUMN MaturityDate",
+         u"it is no Kinbook database, for its table 'CDs' has no column 'MaturityDate'."_s},
+        {whole, "DROP TABLE Person; CREATE VIRTUAL TABLE Person USING fts5(LegalName)",
+         u"it is no Kinbook database, for it has no table 'Person'."_s},
+        {whole,
+         "DROP TABLE Person; CREATE VIEW Person AS WITH RECURSIVE n(ID) AS (SELECT 1 UNION ALL SELECT ID + 1 FROM n) "
+         "SELECT ID, 'Ann' AS LegalName, 1 AS Seq FROM n",
+         u"it is no Kinbook database, for it has no table 'Person'."_s},
     };
     const QString file = path(u"Her 100% ?#.mdb"_s);
     for (const auto& [bytes, statements, reason] : cases) {
@@ -165,7 +181,7 @@ TEST_F(DatabaseFiles, TheLiveFileIsReplacedAndKeepsNothingOfTheOldOne) {
     write(path(u"live.mdb"_s), "old");
     write(path(u"live.mdb-journal"_s), "of the old file");
     write(path(u"live.mdb.new"_s), "of a killed run");
-    data::replaceDatabase(source, path(u"live.mdb"_s));
+    replaceDatabase(source, path(u"live.mdb"_s));
     EXPECT_EQ(bytesOf(path(u"live.mdb"_s)), bytesOf(source));
     EXPECT_FALSE(files::isReadOnly(path(u"live.mdb"_s)));
     EXPECT_EQ(names(), QStringList({u"live.mdb"_s, u"source.mdb"_s}));
@@ -176,7 +192,7 @@ TEST_F(DatabaseFiles, TheLiveFileIsNotReplacedByItself) {
     QFile::link(live, path(u"link.mdb"_s));
     ASSERT_EQ(::link(qPrintable(live), qPrintable(path(u"hard.mdb"_s))), 0);
     for (const auto& name : {u"live.mdb"_s, u"./live.mdb"_s, u"link.mdb"_s, u"hard.mdb"_s})
-        EXPECT_EQ(errorOf([&] { data::replaceDatabase(path(name), live); }), u"70 - Permission denied"_s);
+        EXPECT_EQ(errorOf([&] { replaceDatabase(path(name), live); }), u"70 - Permission denied"_s);
     EXPECT_EQ(errorOf([&] { data::checkDatabase(live); }), QString());
 }
 
@@ -187,7 +203,7 @@ TEST_F(DatabaseFiles, AFailedReplacementLeavesTheOldFileAlone) {
     const QString onDisk = disk.folder() + u"/live.mdb"_s;
     write(onDisk, "old");
     disk.fill();
-    EXPECT_EQ(errorOf([&] { data::replaceDatabase(source, onDisk); }), u"61 - Disk full"_s);
+    EXPECT_EQ(errorOf([&] { replaceDatabase(source, onDisk); }), u"61 - Disk full"_s);
     disk.makeRoom();
     EXPECT_EQ(bytesOf(onDisk), "old");
     EXPECT_EQ(QDir(disk.folder()).entryList(QDir::Files | QDir::Hidden), QStringList{u"live.mdb"_s});
@@ -198,7 +214,7 @@ TEST_F(DatabaseFiles, AFailedReplacementLeavesTheOldFileAlone) {
     for (const bool folderOnly : {true, false}) {
         ASSERT_EQ(::chmod(qPrintable(folder_.path()), 0755), 0);
         const OrdinaryUser user(path(u"locked"_s), locked, folderOnly);
-        EXPECT_EQ(errorOf([&] { data::replaceDatabase(source, locked); }), u"70 - Permission denied"_s);
+        EXPECT_EQ(errorOf([&] { replaceDatabase(source, locked); }), u"70 - Permission denied"_s);
     }
     EXPECT_EQ(bytesOf(locked), "old");
 }
@@ -213,7 +229,7 @@ TEST_F(DatabaseFiles, ARunKilledWhileItReplacesLeavesOneOfTheTwoFilesWhole) {
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
         for (int i = 0; child == 0; ++i)
-            data::replaceDatabase(i % 2 == 0 ? second : first, live);
+            replaceDatabase(i % 2 == 0 ? second : first, live);
         ::usleep(static_cast<useconds_t>(15'000 + kill * 1'700));
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
@@ -222,7 +238,8 @@ TEST_F(DatabaseFiles, ARunKilledWhileItReplacesLeavesOneOfTheTwoFilesWhole) {
         EXPECT_TRUE(found == bytesOf(first) || found == bytesOf(second));
     }
     EXPECT_GT(interrupted, 0) << "no kill ever met a file half copied";
-    data::discardUnfinishedRestore(live, path(u"Attachments"_s));
+    data::BookReplacement(live, path(u"Attachments"_s)).discardRemains();
+    QFile::remove(live + u".restoring"_s);
     EXPECT_EQ(names(), QStringList({u"first.mdb"_s, u"live.mdb"_s, u"second.mdb"_s}));
 }
 

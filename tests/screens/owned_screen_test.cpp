@@ -236,8 +236,8 @@ TEST_F(OwnedScreen, AMoveBeyondAnEndStaysOnTheRow) {
 
 TEST_F(OwnedScreen, ALoadThatFailsIsReportedByTheScreenOrByTheHost) {
     addMembers({u"Ann Larkin"_s});
-    exec(u"DROP TABLE LUStates"_s);
     user.start();
+    exec(u"DROP TABLE LUStates"_s);
     user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
     EXPECT_EQ(dismissBox(), u"Form Load Error"_s);
     openNode(u"Home"_s);

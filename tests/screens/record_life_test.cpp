@@ -206,8 +206,8 @@ TEST_F(RecordLife, ALoadThatFailedIsDoneAgainAtTheNextClick) {
 TEST_F(RecordLife, ASaveInAWindowThatCameUpWithoutItsStatesKeepsTheRowsState) {
     addMembers({u"Ann Larkin"_s});
     exec(u"UPDATE Person SET BirthState = 'Ohio'"_s);
-    exec(u"ALTER TABLE LUStates RENAME TO Kept"_s);
     user.start();
+    exec(u"ALTER TABLE LUStates RENAME TO Kept"_s);
     user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
     EXPECT_EQ(dismissBox(), u"Form Load Error"_s);
     user.click(u"cmdEdit"_s);

@@ -18,6 +18,9 @@ protected:
     /// A path in the application folder.
     [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
     void writeFile(const QString& name, const QByteArray& bytes) const;
+    [[nodiscard]] QByteArray bytesOf(const QString& name) const;
+    /// All that lies in a folder of the application folder, by name.
+    [[nodiscard]] QStringList namesIn(const QString& folder) const;
     /// Changes the database file from outside the program.
     void exec(const QString& statement) const;
     /// First column of the statement's first row as text; "null" for a null and for no row.

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace support {
+
+/// What the program asks of the disk while this lives, by whichever library: "write PATH", "flush PATH", "rename PATH
+/// TARGET" and "remove PATH", in their order. Linked into a test it stands before the system's own functions.
+class WatchedDisk {
+public:
+    WatchedDisk();
+    ~WatchedDisk();
+    WatchedDisk(const WatchedDisk&) = delete;
+    WatchedDisk& operator=(const WatchedDisk&) = delete;
+
+    /// All operations so far.
+    [[nodiscard]] QStringList operations() const;
+    /// Place of the last operation of that kind before `end`; -1 for none.
+    [[nodiscard]] qsizetype last(const QString& operation, qsizetype end = -1) const;
+};
+
+}  // namespace support
