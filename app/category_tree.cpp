@@ -1,7 +1,5 @@
 #include "app/category_tree.h"
 
-#include <algorithm>
-
 #include "app/category_nodes.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
@@ -16,12 +14,6 @@ namespace {
 
 constexpr int withoutData = 1;
 constexpr int withData = 2;
-constexpr int helpNode = 2;
-constexpr int personNode = 4;
-constexpr int firstSecurityNode = 79;
-constexpr int lastSecurityNode = 82;
-/// Nodes whose tables belong to nobody in particular: they are counted over all rows, whoever is selected.
-constexpr std::array familyNodes{47, 69, 73, 77, 83};
 
 }  // namespace
 
@@ -29,11 +21,12 @@ CategoryTree::CategoryTree(platform::TreeView& view, session::Session& session, 
     : view_(view), session_(session), rsHost_(rsHost) {}
 
 void CategoryTree::build() {
-    nodeTable_.fill(QString());
-    for (const CategoryNode& node : categoryNodes()) {
-        const int index = view_.addNode(node.parent, node.key, node.text);
-        nodeTable_.at(static_cast<std::size_t>(index)) = node.table;
-    }
+    for (const CategoryNode& node : categoryNodes())
+        view_.addNode(node.parent, node.key, node.text);
+}
+
+const CategoryNode& CategoryTree::node(int nodeIndex) {
+    return categoryNodes()[static_cast<std::size_t>(nodeIndex) - 1];
 }
 
 void CategoryTree::setAllImages() {
@@ -44,16 +37,16 @@ void CategoryTree::setAllImages() {
 
 void CategoryTree::setImage(int nodeIndex) {
     try {
-        if (nodeIndex >= firstSecurityNode && nodeIndex <= lastSecurityNode) {
-            view_.setImage(nodeIndex, view_.selected(nodeIndex) ? withData : withoutData);
-            return;
-        }
-        if (!nodeTable_.at(static_cast<std::size_t>(nodeIndex)).isEmpty()) {
+        const CategoryNode& drawn = node(nodeIndex);
+        const int child = view_.firstChild(nodeIndex);
+        if (!drawn.table().isEmpty()) {
             countNode(nodeIndex);
-            return;
+        } else if (child > 0) {
+            setParent(child);
+        } else {
+            const bool filled = drawn.picture.followsSelection && view_.selected(nodeIndex);
+            view_.setImage(nodeIndex, filled ? withData : withoutData);
         }
-        if (nodeIndex == helpNode) view_.setImage(nodeIndex, withoutData);
-        if (const int child = view_.firstChild(nodeIndex); child > 0) setParent(child);
     } catch (const platform::RuntimeError& error) {
         throw platform::RunEnded{.words = error.report(), .title = u"SetImage Error"_s};
     }
@@ -61,7 +54,7 @@ void CategoryTree::setImage(int nodeIndex) {
 
 void CategoryTree::countNode(int nodeIndex) {
     rsHost_.release();
-    rsHost_.open(countStatement(nodeIndex), session_.gConnection);
+    rsHost_.open(countStatement(node(nodeIndex)), session_.gConnection);
     const bool filled = rsHost_.value(u"NumRec"_s).toLongLong() != 0;
     view_.setImage(nodeIndex, filled ? withData : withoutData);
     rsHost_.close();
@@ -70,12 +63,11 @@ void CategoryTree::countNode(int nodeIndex) {
         setParent(index);
 }
 
-QString CategoryTree::countStatement(int nodeIndex) const {
-    QString all = u"SELECT Count(*) as NumRec from "_s + nodeTable_.at(static_cast<std::size_t>(nodeIndex));
+QString CategoryTree::countStatement(const CategoryNode& node) const {
+    const QString all = u"SELECT Count(*) as NumRec from "_s + node.table();
     const bool everybody = session_.gsPersonName == u"Whole Family"_s || session_.gsPersonName == u"Family"_s;
-    if (everybody || std::ranges::find(familyNodes, nodeIndex) != familyNodes.end()) return all;
-    const QString column = nodeIndex == personNode ? u"ID"_s : u"PersonID"_s;
-    return all + u" where "_s + column + u" = "_s + QString::number(session_.gPersonID);
+    if (everybody || node.picture.memberColumn.isEmpty()) return all;
+    return all + u" where "_s + node.picture.memberColumn + u" = "_s + QString::number(session_.gPersonID);
 }
 
 void CategoryTree::setParent(int nodeIndex) {

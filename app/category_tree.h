@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "data/recordset.h"
 
 namespace platform {
@@ -14,7 +12,9 @@ struct Session;
 
 namespace app {
 
-/// The tree's 83 nodes and the rule of their pictures: 1 for a category without data, 2 for one with data, for a branch
+struct CategoryNode;
+
+/// The tree's nodes and the rule of their pictures: 1 for a category without data, 2 for one with data, for a branch
 /// with such a child, and for the node clicked last.
 class CategoryTree {
 public:
@@ -22,6 +22,8 @@ public:
     CategoryTree(platform::TreeView& view, session::Session& session, data::Recordset& rsHost);
 
     void build();
+    /// The row of the node with that index.
+    [[nodiscard]] static const CategoryNode& node(int nodeIndex);
     /// Gives one node its picture and carries the news up the tree. A failure ends the run.
     void setImage(int nodeIndex);
     /// The same for every node, in index order.
@@ -29,15 +31,13 @@ public:
 
 private:
     void countNode(int nodeIndex);
-    [[nodiscard]] QString countStatement(int nodeIndex) const;
+    [[nodiscard]] QString countStatement(const CategoryNode& node) const;
     /// The parent has data if one of the node's siblings has.
     void setParent(int nodeIndex);
 
     platform::TreeView& view_;
     session::Session& session_;
     data::Recordset& rsHost_;
-    /// By node index; the table whose rows decide the node's picture.
-    std::array<QString, 101> nodeTable_;
 };
 
 }  // namespace app

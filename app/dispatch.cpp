@@ -1,6 +1,8 @@
 #include "app/dispatch.h"
 
-#include "app/dispatch_table.h"
+#include <algorithm>
+
+#include "app/category_nodes.h"
 #include "app/information_dialogs.h"
 #include "app/mdi_host.h"
 #include "platform/forms/desktop.h"
@@ -22,7 +24,6 @@ namespace {
 constexpr int withData = 2;
 constexpr int mostForms = 10;
 const QString pinList = u"frmPinsAndPasswords"_s;
-const QString pinsNode = u"PINsPasswords"_s;
 }  // namespace
 
 void Dispatch::nodeClick(int nodeIndex) {
@@ -41,16 +42,13 @@ void Dispatch::nodeClick(int nodeIndex) {
         host_.categories().setImage(host_.currentNode());
         tree.setImage(nodeIndex, withData);
         host_.setCurrentNode(nodeIndex);
-        if (follow(tree.key(nodeIndex))) tree.setImage(nodeIndex, withData);
+        if (follow(CategoryTree::node(nodeIndex))) tree.setImage(nodeIndex, withData);
     });
 }
 
 int Dispatch::nodeOf(const QString& window) const {
     const platform::TreeView& tree = host_.tvTree();
-    const auto opens = [&](int index) {
-        const DispatchRow* row = dispatchRow(tree.key(index));
-        return row ? QString(row->window) == window : window == pinList && tree.key(index) == pinsNode;
-    };
+    const auto opens = [&](int index) { return CategoryTree::node(index).opens == window; };
     // Some windows have two nodes.
     if (opens(host_.currentNode())) return host_.currentNode();
     for (int index = 1; index <= tree.nodeCount(); ++index) {
@@ -69,22 +67,42 @@ bool Dispatch::tooManyWindows() const {
     return true;
 }
 
-bool Dispatch::follow(const QString& key) {
-    if (const DispatchRow* row = dispatchRow(key)) return openWindow(*row);
-    if (key == pinsNode) openPins();
-    platform::Desktop& desktop = host_.desktop();
-    if (key == u"SecurityInfo"_s) desktop.load(std::make_unique<SecurityInfo>(desktop)).showModal();
-    if (key == u"CategoryListHelp"_s) desktop.load(std::make_unique<CategoryListHelp>(desktop)).showModal();
-    if (key == u"LogIn"_s) touchDialog<security::Login>().showModal();
-    if (key == u"ChangeMainPassword"_s) touchDialog<security::ChangePassword>().showModal();
-    return key != u"ChangePINPassword"_s || changePinPassword();
-}
-
 template <class Dialog>
 Dialog& Dispatch::touchDialog() {
     platform::Desktop& desktop = host_.desktop();
     if (platform::Form* loaded = desktop.find(Dialog::formName())) return static_cast<Dialog&>(*loaded);
     return desktop.load(std::make_unique<Dialog>(desktop, host_.session()));
+}
+
+template <class Dialog>
+bool Dispatch::showDialog() {
+    touchDialog<Dialog>().showModal();
+    return true;
+}
+
+template <class Page>
+bool Dispatch::showPage() {
+    host_.desktop().load(std::make_unique<Page>(host_.desktop())).showModal();
+    return true;
+}
+
+bool Dispatch::follow(const CategoryNode& node) {
+    struct Way {
+        QLatin1StringView window;
+        bool (Dispatch::*open)();
+    };
+    // What isn't simply a data window.
+    static constexpr Way ways[] = {
+        {"frmCategoryListHelp"_L1, &Dispatch::showPage<CategoryListHelp>},
+        {"frmPinsAndPasswords"_L1, &Dispatch::openPins},
+        {"frmSecurityInfo"_L1, &Dispatch::showPage<SecurityInfo>},
+        {"frmLogin"_L1, &Dispatch::showDialog<security::Login>},
+        {"frmChangePassword"_L1, &Dispatch::showDialog<security::ChangePassword>},
+        {"frmChangePINPassword"_L1, &Dispatch::changePinPassword},
+    };
+    const auto* way = std::ranges::find(ways, node.opens, &Way::window);
+    if (way != std::end(ways)) return (this->*way->open)();
+    return node.opens.isEmpty() || openWindow(node);
 }
 
 bool Dispatch::requireMember(bool isSelected) const {
@@ -96,10 +114,11 @@ bool Dispatch::requireMember(bool isSelected) const {
     return false;
 }
 
-void Dispatch::openPins() {
+bool Dispatch::openPins() {
     const session::Session& session = host_.session();
-    if (!requireMember(!session.gbWholeFamily && session.gPersonID != 0)) return;
-    if (touchDialog<security::LoginPin>().admits()) host_.touch(pinList)->show();
+    if (requireMember(!session.gbWholeFamily && session.gPersonID != 0) && touchDialog<security::LoginPin>().admits())
+        host_.touch(pinList)->show();
+    return true;
 }
 
 bool Dispatch::changePinPassword() {
@@ -110,19 +129,18 @@ bool Dispatch::changePinPassword() {
                                u"Close PINs and Passwords Screen"_s);
         return false;
     }
-    touchDialog<security::ChangePinPassword>().showModal();
-    return true;
+    return showDialog<security::ChangePinPassword>();
 }
 
-bool Dispatch::openWindow(const DispatchRow& row) {
-    if (host_.count(QString(row.counted)) == 0 && !host_.session().gbCanEdit) {
+bool Dispatch::openWindow(const CategoryNode& node) {
+    if (host_.count(QString(node.counts)) == 0 && !host_.session().gbCanEdit) {
         session::showNoDataNoLogin(host_.desktop());
         if (host_.activeForm()) host_.showFrontNode();
         return false;
     }
-    session::DataWindow* window = host_.touch(row.window);
+    session::DataWindow* window = host_.touch(node.opens);
     if (!window) return true;
-    if (row.access == Access::Apply) session::setFormAccess(*window, host_.session().gbCanEdit);
+    session::setFormAccess(*window, host_.session().gbCanEdit);
     window->show();
     return true;
 }

@@ -57,11 +57,11 @@ double bestSeconds(const Routine& routine) {
 std::vector<std::string> countStatements(int member) {
     std::vector<std::string> statements;
     for (const app::CategoryNode& node : app::categoryNodes()) {
-        if (node.table.isEmpty()) continue;
-        const bool ofMember = member > 0 && node.key != "Birth"_L1 && !node.key.startsWith("AssetLiq"_L1) &&
-                              node.key != "Doctors"_L1 && node.key != "WhoGetsWhat"_L1 && node.key != "Contacts"_L1;
-        statements.push_back("SELECT Count(*) as NumRec from " + std::string(node.table.data()) +
-                             (ofMember ? " where PersonID = " + std::to_string(member) : std::string()));
+        const QLatin1StringView table = node.table();
+        if (table.isEmpty()) continue;
+        const QLatin1StringView column = node.picture.memberColumn;
+        const QString ofMember = member > 0 && !column.isEmpty() ? u" where %1 = %2"_s.arg(column).arg(member) : u""_s;
+        statements.push_back((u"SELECT Count(*) as NumRec from "_s + table + ofMember).toStdString());
     }
     return statements;
 }

@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
 #include <QJsonObject>
 #include <QSet>
 
-#include "app/dispatch_table.h"
+#include "app/category_nodes.h"
 #include "screens/catalogue/catalogue.h"
 #include "screens/catalogue/screen_fields.h"
 #include "tests/support/household.h"
@@ -97,11 +96,9 @@ TEST_F(EveryScreen, KeepsEveryFieldAndSavesWhatItShows) {
     user.start();
     user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
     QSet<QString> played;
-    const QJsonArray nodes = user.tree()["nodes"_L1].toArray();
-    for (const QJsonValue& node : nodes) {
-        const QString key = node["key"_L1].toString();
-        const app::DispatchRow* row = app::dispatchRow(key);
-        const screens::ScreenDefinition* screen = row ? screens::screenDefinition(QString(row->window)) : nullptr;
+    for (const app::CategoryNode& node : app::categoryNodes()) {
+        const QString key(node.key);
+        const screens::ScreenDefinition* screen = screens::screenDefinition(QString(node.opens));
         // A second node of the same window adds nothing.
         if (!screen || screen->name == "frmKinbook"_L1 || key.endsWith(u'1')) continue;
         SCOPED_TRACE(QString(screen->name).toStdString());
