@@ -1,6 +1,7 @@
 #include "app/category_tree.h"
 
 #include "app/category_nodes.h"
+#include "app/host_rows.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/tree_view.h"
@@ -17,8 +18,8 @@ constexpr int withData = 2;
 
 }  // namespace
 
-CategoryTree::CategoryTree(platform::TreeView& view, session::Session& session, data::Recordset& rsHost)
-    : view_(view), session_(session), rsHost_(rsHost) {}
+CategoryTree::CategoryTree(platform::TreeView& view, session::Session& session, HostRows& rows)
+    : view_(view), session_(session), rows_(rows) {}
 
 void CategoryTree::build() {
     for (const CategoryNode& node : categoryNodes())
@@ -53,18 +54,14 @@ void CategoryTree::setImage(int nodeIndex) {
 }
 
 void CategoryTree::countNode(int nodeIndex) {
-    rsHost_.release();
-    rsHost_.open(countStatement(node(nodeIndex)), session_.gConnection);
-    const bool filled = rsHost_.value(u"NumRec"_s).toLongLong() != 0;
-    view_.setImage(nodeIndex, filled ? withData : withoutData);
-    rsHost_.close();
+    view_.setImage(nodeIndex, rows_.count(counted(node(nodeIndex))) != 0 ? withData : withoutData);
     // The root is never reached this way: its picture keeps what its own step gave it.
     for (int index = nodeIndex; view_.parentIndex(index) > 1; index = view_.parentIndex(index))
         setParent(index);
 }
 
-QString CategoryTree::countStatement(const CategoryNode& node) const {
-    const QString all = u"SELECT Count(*) as NumRec from "_s + node.table();
+QString CategoryTree::counted(const CategoryNode& node) const {
+    const QString all = node.table();
     const bool everybody = session_.gsPersonName == u"Whole Family"_s || session_.gsPersonName == u"Family"_s;
     if (everybody || node.picture.memberColumn.isEmpty()) return all;
     return all + u" where "_s + node.picture.memberColumn + u" = "_s + QString::number(session_.gPersonID);

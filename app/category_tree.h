@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/recordset.h"
+#include <QString>
 
 namespace platform {
 class TreeView;
@@ -13,13 +13,13 @@ struct Session;
 namespace app {
 
 struct CategoryNode;
+class HostRows;
 
 /// The tree's nodes and the rule of their pictures: 1 for a category without data, 2 for one with data, for a branch
 /// with such a child, and for the node clicked last.
 class CategoryTree {
 public:
-    /// `rsHost`: the host's scratch recordset, which nobody may hold open across a call.
-    CategoryTree(platform::TreeView& view, session::Session& session, data::Recordset& rsHost);
+    CategoryTree(platform::TreeView& view, session::Session& session, HostRows& rows);
 
     void build();
     /// The row of the node with that index.
@@ -31,13 +31,14 @@ public:
 
 private:
     void countNode(int nodeIndex);
-    [[nodiscard]] QString countStatement(const CategoryNode& node) const;
+    /// What stands behind the count's "from".
+    [[nodiscard]] QString counted(const CategoryNode& node) const;
     /// The parent has data if one of the node's siblings has.
     void setParent(int nodeIndex);
 
     platform::TreeView& view_;
     session::Session& session_;
-    data::Recordset& rsHost_;
+    HostRows& rows_;
 };
 
 }  // namespace app

@@ -1,6 +1,7 @@
 #include "app/database_commands.h"
 
-#include "app/mdi_host.h"
+#include "app/family_selector.h"
+#include "app/open_windows.h"
 #include "app/read_only_file.h"
 #include "app/restore_source.h"
 #include "data/book_replacement.h"
@@ -41,11 +42,9 @@ double folderKilobytesIfAny(const QString& folder) {
 
 }  // namespace
 
-DatabaseCommands::DatabaseCommands(MDIHost& host) : host_(host), session_(host.session()) {}
-
-platform::Desktop& DatabaseCommands::desktop() const {
-    return host_.desktop();
-}
+DatabaseCommands::DatabaseCommands(platform::Desktop& desktop, session::Session& session, FamilySelector& selector,
+                                   OpenWindows& windows)
+    : desktop_(desktop), session_(session), selector_(selector), windows_(windows) {}
 
 QString DatabaseCommands::attachments() const {
     return session_.path(u"Attachments"_s);
@@ -54,9 +53,9 @@ QString DatabaseCommands::attachments() const {
 void DatabaseCommands::attempt(const QString& title, const std::function<void()>& routine) {
     replacing_ = false;
     platform::Desktop::attempt(routine, [&](const RuntimeError& error) {
-        desktop().setPointer(Pointer::Default);
-        desktop().notice(error.report(), title, Icon::Critical);
-        if (replacing_ && session_.gConnection.isOpen()) host_.loadFamily();
+        desktop_.setPointer(Pointer::Default);
+        desktop_.notice(error.report(), title, Icon::Critical);
+        if (replacing_ && session_.gConnection.isOpen()) selector_.loadFamily();
     });
 }
 
@@ -69,7 +68,7 @@ void DatabaseCommands::newDB() {
 }
 
 bool DatabaseCommands::confirmFreshStart() {
-    const bool goesOn = desktop().ask(
+    const bool goesOn = desktop_.ask(
         u"Starting with a fresh database will destroy the database you have created thus far.  If you want to save "
         "your current database, you should use the Backup function to save your current database before you continue "
         "with this process.\r\n\r\n"
@@ -78,7 +77,7 @@ bool DatabaseCommands::confirmFreshStart() {
         "still want to continue?"_s,
         u"Fresh Start Confirmation"_s);
     if (!goesOn) {
-        desktop().notice(
+        desktop_.notice(
             u"No changes were made to your existing database.  It is recommended that you backup your existing "
             "database by using the Backup function before starting fresh unless you know that your existing database "
             "is worthless."_s,
@@ -88,19 +87,19 @@ bool DatabaseCommands::confirmFreshStart() {
 }
 
 void DatabaseCommands::startFresh() {
-    desktop().setPointer(Pointer::Hourglass);
+    desktop_.setPointer(Pointer::Hourglass);
     const QString source = session_.path(u"FamilyInfo_Empty.mdb"_s);
     if (!files::fileExists(source)) {
-        desktop().notice(source + u" does not exist."_s, u"File Not Found"_s);
+        desktop_.notice(source + u" does not exist."_s, u"File Not Found"_s);
         return;
     }
     if (!closeWindows()) return;
     data::BookReplacement book = replacement();
     replaceLive(book, source, {});
     book.replaceAttachments();
-    desktop().setPointer(Pointer::Default);
-    desktop().notice(u"Your database, "_s + session_.gsDatabaseName + u", has been created and is ready for use."_s);
-    host_.loadFamily();
+    desktop_.setPointer(Pointer::Default);
+    desktop_.notice(u"Your database, "_s + session_.gsDatabaseName + u", has been created and is ready for use."_s);
+    selector_.loadFamily();
 }
 
 // Restore ----------------------------------------------------------------------------------------------------------
@@ -112,7 +111,7 @@ void DatabaseCommands::openDB() {
 }
 
 bool DatabaseCommands::confirmRestore() {
-    return desktop().ask(
+    return desktop_.ask(
         u"When you restore a database, the current database \r\n"
         "will be destroyed.  If, for some reason, you are wanting \r\n"
         "to restore a database and not lose the current database, \r\n"
@@ -123,16 +122,16 @@ bool DatabaseCommands::confirmRestore() {
 }
 
 void DatabaseCommands::restore() {
-    const QString chosen = chooseRestoreSource(desktop(), session_);
+    const QString chosen = chooseRestoreSource(desktop_, session_);
     if (chosen.isEmpty()) {
-        tellNoRestoreSource(desktop());
-        host_.selectWholeName();
+        tellNoRestoreSource(desktop_);
+        selector_.selectWholeName();
         return;
     }
-    desktop().setPointer(Pointer::Hourglass);
+    desktop_.setPointer(Pointer::Hourglass);
     const QString companion = data::companionFolder(chosen);
     Sizes expected{.attachments = folderKilobytesIfAny(companion)};
-    if (!restoreSourceExists(desktop(), chosen)) return;
+    if (!restoreSourceExists(desktop_, chosen)) return;
     expected.database = fileKilobytes(chosen);
     if (!closeWindows()) return;
     // Taking the old attachments away must not take the backup's.
@@ -141,31 +140,31 @@ void DatabaseCommands::restore() {
     replaceLive(book, chosen, companion);
     const bool whole = copyAttachments(book);
     const Sizes copied{fileKilobytes(session_.gsDatabasePath), folderKilobytes(attachments())};
-    desktop().setPointer(Pointer::Default);
+    desktop_.setPointer(Pointer::Default);
     if (whole && copied == expected) {
-        desktop().notice(u"Your database, "_s + files::nameOf(chosen) + u", has been restored as \r\n"_s +
-                             session::Session::liveDatabaseName() + u", and is ready for use."_s,
-                         u"Database Restored"_s);
+        desktop_.notice(u"Your database, "_s + files::nameOf(chosen) + u", has been restored as \r\n"_s +
+                            session::Session::liveDatabaseName() + u", and is ready for use."_s,
+                        u"Database Restored"_s);
     } else {
         tellIncomplete();
     }
-    host_.loadFamily();
-    tellIfReadOnly(desktop(), session_);
+    selector_.loadFamily();
+    tellIfReadOnly(desktop_, session_);
 }
 
 bool DatabaseCommands::copyAttachments(data::BookReplacement& book) {
-    return desktop().attempt(u"CopyAttachments"_s, [&book] { book.replaceAttachments(); });
+    return desktop_.attempt(u"CopyAttachments"_s, [&book] { book.replaceAttachments(); });
 }
 
 // Replacing the live file ------------------------------------------------------------------------------------------
 
 bool DatabaseCommands::closeWindows() {
     session_.useLiveDatabase();
-    desktop().unloadAll([this](const platform::Form& form) { return &form != &host_; });
+    windows_.unloadAll();
     // Who won't give up what he has typed doesn't want another file under it.
-    const bool closed = desktop().count() == 1;
+    const bool closed = desktop_.count() == 1;
     // A window that goes leaves a normal pointer behind.
-    desktop().setPointer(closed ? Pointer::Hourglass : Pointer::Default);
+    desktop_.setPointer(closed ? Pointer::Hourglass : Pointer::Default);
     replacing_ = closed;
     return closed;
 }
@@ -197,28 +196,28 @@ void DatabaseCommands::backupDB() {
 
 QString DatabaseCommands::chooseTarget() {
     const QString usual = session_.path(u"Backup"_s);
-    return desktop().dialogs().fileDialog({.mode = platform::FileRequest::Mode::Save,
-                                           .folder = files::folderExists(usual) ? usual : session_.applicationFolder,
-                                           .filterText = u"Database Files (*.mdb)"_s,
-                                           .filterPattern = u"*.mdb"_s,
-                                           .fileName = u"FamilyInfoBackup.mdb"_s});
+    return desktop_.dialogs().fileDialog({.mode = platform::FileRequest::Mode::Save,
+                                          .folder = files::folderExists(usual) ? usual : session_.applicationFolder,
+                                          .filterText = u"Database Files (*.mdb)"_s,
+                                          .filterPattern = u"*.mdb"_s,
+                                          .fileName = u"FamilyInfoBackup.mdb"_s});
 }
 
 bool DatabaseCommands::confirmBackup(const Sizes& sizes) {
-    const bool goesOn = desktop().ask(
+    const bool goesOn = desktop_.ask(
         u"Your backup database and attachments will require "_s + numberText(sizes.database + sizes.attachments) +
             u" kilobytes of space on your backup medium.  The backup will not be successful if you do "
             "not have sufficient space.\r\n\r\nDo you want to continue?"_s,
         u"Backup Database Size Requirements"_s);
-    if (!goesOn) desktop().notice(u"No data was saved."_s, u"No Backup"_s);
+    if (!goesOn) desktop_.notice(u"No data was saved."_s, u"No Backup"_s);
     return goesOn;
 }
 
 void DatabaseCommands::backup() {
     const QString target = chooseTarget();
     if (target.isEmpty()) {
-        desktop().notice(u"No database name was selected for the backup database."_s, u"No Database Name"_s);
-        host_.selectWholeName();
+        desktop_.notice(u"No database name was selected for the backup database."_s, u"No Database Name"_s);
+        selector_.selectWholeName();
         return;
     }
     const QString companion = data::companionFolder(target);
@@ -226,28 +225,28 @@ void DatabaseCommands::backup() {
     const QString source = session_.gsDatabasePath;
     // After a refused restore the session's database is the refused file.
     if (!files::isSameFile(source, session_.path(session::Session::liveDatabaseName()))) {
-        desktop().notice(u"The original database does not exist."_s, u"No Source Database"_s);
+        desktop_.notice(u"The original database does not exist."_s, u"No Source Database"_s);
         return;
     }
     expected.database = fileKilobytes(source);
     if (!confirmBackup(expected)) return;
-    desktop().setPointer(Pointer::Hourglass);
+    desktop_.setPointer(Pointer::Hourglass);
     session::BookFiles{session_.applicationFolder}.refuse(target);
     data::requireApart(companion, attachments());
     files::discardUnfinished(files::folderOf(target));
     expected.database = data::kilobytes(data::backUpDatabase(source, target));
     const bool whole = saveAttachments(target);
     const Sizes copied{fileKilobytes(target), folderKilobytes(companion)};
-    desktop().setPointer(Pointer::Default);
+    desktop_.setPointer(Pointer::Default);
     if (!whole || copied != expected) return tellIncomplete();
-    desktop().notice(u"Your backup database is:  "_s + target + u"\r\nIt contains "_s + numberText(copied.database) +
-                         u" kilobytes.\r\n\r\nYour attachments are contained in: "_s + companion + u"\r\nThere are "_s +
-                         numberText(copied.attachments) + u" kilobytes of attachments. "_s,
-                     u"Backup Database Information"_s);
+    desktop_.notice(u"Your backup database is:  "_s + target + u"\r\nIt contains "_s + numberText(copied.database) +
+                        u" kilobytes.\r\n\r\nYour attachments are contained in: "_s + companion + u"\r\nThere are "_s +
+                        numberText(copied.attachments) + u" kilobytes of attachments. "_s,
+                    u"Backup Database Information"_s);
 }
 
 bool DatabaseCommands::saveAttachments(const QString& target) {
-    return desktop().attempt(u"SaveAttachments"_s, [&] {
+    return desktop_.attempt(u"SaveAttachments"_s, [&] {
         files::FolderReplacement companion(data::companionFolder(target));
         if (files::folderExists(attachments())) files::copyFolder(attachments(), companion.path());
         companion.place();
@@ -257,7 +256,7 @@ bool DatabaseCommands::saveAttachments(const QString& target) {
 // Refusals ---------------------------------------------------------------------------------------------------------
 
 void DatabaseCommands::tellIncomplete() {
-    desktop().notice(
+    desktop_.notice(
         u"Your data was not completely copied.  There was probably not enough space on your backup disk.  Make more "
         "space available by deleting some files on your disk and try again."_s,
         u"Backup Failure"_s, Icon::Critical);

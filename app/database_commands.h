@@ -17,7 +17,8 @@ class BookReplacement;
 
 namespace app {
 
-class MDIHost;
+class FamilySelector;
+class OpenWindows;
 
 /// The three commands that deal with the family's data as a whole: the database file and the folder of attached files.
 ///
@@ -26,7 +27,8 @@ class MDIHost;
 /// one by one behind that, without a way back; a run that dies among them is finished by the next one.
 class DatabaseCommands {
 public:
-    explicit DatabaseCommands(MDIHost& host);
+    DatabaseCommands(platform::Desktop& desktop, session::Session& session, FamilySelector& selector,
+                     OpenWindows& windows);
 
     /// Starts afresh with the empty database.
     void newDB();
@@ -68,11 +70,12 @@ private:
     [[nodiscard]] data::BookReplacement replacement() const;
 
     void tellIncomplete();
-    [[nodiscard]] platform::Desktop& desktop() const;
     [[nodiscard]] QString attachments() const;
 
-    MDIHost& host_;
+    platform::Desktop& desktop_;
     session::Session& session_;
+    FamilySelector& selector_;
+    OpenWindows& windows_;
     /// The windows are closed for a new file, so the selector has to be filled anew.
     bool replacing_ = false;
 };

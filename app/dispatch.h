@@ -2,20 +2,36 @@
 
 #include <QString>
 
+namespace platform {
+class Desktop;
+class TreeView;
+}  // namespace platform
+
+namespace session {
+struct Session;
+}
+
 namespace app {
 
-class MDIHost;
+class CategoryTree;
+class FamilySelector;
+class OpenWindows;
 struct CategoryNode;
 
 /// What a click on a node of the category tree leads to: the guards, the pictures, and the window or dialog of the
 /// node.
 class Dispatch {
 public:
-    explicit Dispatch(MDIHost& host) : host_(host) {}
+    Dispatch(platform::TreeView& tree, platform::Desktop& desktop, session::Session& session, CategoryTree& categories,
+             FamilySelector& selector, OpenWindows& windows);
 
     void nodeClick(int nodeIndex);
-    /// Index of the node that opens a window: of two the one that was clicked last; 0 if no node does.
-    [[nodiscard]] int nodeOf(const QString& window) const;
+    /// Selects the node of the window in front in the tree, or none.
+    void showFrontNode();
+    /// A branch was opened or closed.
+    void nodeToggled();
+    /// The panel behind the tree was clicked: tells why the tree is closed to the user, if it is.
+    void picture1_Click();
 
 private:
     /// False for a refusal that ends the click there, with the node's picture as it is.
@@ -35,8 +51,17 @@ private:
     template <class Page>
     [[nodiscard]] bool showPage();
     [[nodiscard]] bool tooManyWindows() const;
+    /// Index of the node that opens a window: of two the one that was clicked last; 0 if no node does.
+    [[nodiscard]] int nodeOf(const QString& window) const;
 
-    MDIHost& host_;
+    platform::TreeView& tree_;
+    platform::Desktop& desktop_;
+    session::Session& session_;
+    CategoryTree& categories_;
+    FamilySelector& selector_;
+    OpenWindows& windows_;
+    /// Index of the tree node clicked last.
+    int iCurrentNode_ = 1;
 };
 
 }  // namespace app

@@ -18,6 +18,9 @@ public:
     /// `file`: path of the help file, a page of HTML whose headings are its contents.
     explicit HelpViewer(QString file);
 
+    /// Name of the form that owns the help. It is never shown, but counts among the loaded forms once help was used.
+    [[nodiscard]] static QString ownerName() { return QStringLiteral("Form1"); }
+
     /// Brings the window up at the beginning of the file. Tells so in the window when the file isn't there.
     void open();
 

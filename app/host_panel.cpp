@@ -49,6 +49,12 @@ void enlarge(QLabel& label, qreal scale, bool bold) {
     label.setFont(font);
 }
 
+/// A disabled control hands the focus on, which would bring whatever window comes next in the tab order to the front.
+void enable(QWidget& control, bool enabled) {
+    if (!enabled) control.clearFocus();
+    control.setEnabled(enabled);
+}
+
 }  // namespace
 
 HostPanel::HostPanel(QWidget* parent)
@@ -131,6 +137,14 @@ void HostPanel::endFirstRun() {
     guidance_->hide();
     cmdAddNew_->setText(usualAddCaption());
     cmdAddNew_->setMinimumHeight(0);
+}
+
+void HostPanel::enableTree(bool enabled) {
+    enable(*tvTree_, enabled);
+}
+
+void HostPanel::enableAddMember(bool enabled) {
+    enable(*cmdAddNew_, enabled);
 }
 
 void HostPanel::mousePressEvent(QMouseEvent* event) {

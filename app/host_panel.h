@@ -30,6 +30,8 @@ public:
 
     void showFirstRun();
     void endFirstRun();
+    void enableTree(bool enabled);
+    void enableAddMember(bool enabled);
     /// A click came through to the panel itself, which it does only where a disabled control lets it.
     void onClick(std::function<void()> handler) { clicked_ = std::move(handler); }
 

@@ -71,7 +71,7 @@ public:
     }
 
     session::DataWindow& open(const QString& name) {
-        session::DataWindow* window = host->touch(name);
+        session::DataWindow* window = host->windows().touch(name);
         window->ShowMe();
         window->show();
         QApplication::processEvents();

@@ -12,6 +12,7 @@
 
 #include "app/category_nodes.h"
 #include "app/category_tree.h"
+#include "app/host_rows.h"
 #include "data/template.h"
 #include "platform/forms/tree_view.h"
 #include "session/session.h"
@@ -68,11 +69,8 @@ std::vector<std::string> countStatements(int member) {
 
 bool compare(const char* what, session::Session& session, SQLite::Database& raw, int member) {
     platform::TreeView view;
-    data::Recordset scratch;
-    scratch.setCursorLocation(data::CursorLocation::Server);
-    scratch.setCursorType(data::CursorType::ForwardOnly);
-    scratch.setLockType(data::LockType::ReadOnly);
-    app::CategoryTree tree(view, session, scratch);
+    app::HostRows rows(session.gConnection);
+    app::CategoryTree tree(view, session, rows);
     tree.build();
     view.setImages({QIcon(), QIcon()});
     session.gPersonID = static_cast<qint16>(member);
