@@ -7,6 +7,8 @@ buildPackages=(
   qt6-svg-dev       # draws the icons of the application folder
   libqt6svg6        # lets the icon theme's pictures be read at run time
   libgl-dev         # Qt's own CMake files ask for it
+  libicu-dev        # what each character is; Qt's own library needs it too
+  libcups2-dev      # what a print queue answers
   libsqlite3-dev libsqlitecpp-dev
   breeze-icon-theme # toolbar pictures
   fonts-liberation  # the type-writer font of the documents, and any font at all on a bare machine

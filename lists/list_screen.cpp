@@ -77,7 +77,9 @@ session::RecordActions ListScreen::actions() {
 session::WindowCommands ListScreen::commands() {
     session::WindowCommands commands = commonCommands();
     commands.attachments = handler([this] { mAttachments_Click(); });
-    commands.print = handler([this] { output::printGrid(desktop(), printable()); });
+    commands.print = handler([this] {
+        if (hasEntries(u"print"_s)) output::printGrid(desktop(), printable());
+    });
     commands.save =
         handler([this] { output::saveGrid(desktop(), session().applicationFolder, [this] { return printable(); }); });
     commands.hasAttachments = !definition_.attachmentPrefix.isEmpty();

@@ -26,6 +26,10 @@ QString document(const PrintableScreen& screen, const QDate& today, Medium mediu
 
 }  // namespace
 
+QString jobTitle(const PrintableScreen& screen) {
+    return u"%1, record %2 of %3"_s.arg(screen.caption).arg(screen.position).arg(screen.count);
+}
+
 QString pageDocument(const PrintableScreen& screen, const QDate& today) {
     return lineEnd.repeated(emptyLinesAtHead) + document(screen, today, Medium::Page);
 }

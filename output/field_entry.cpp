@@ -1,6 +1,11 @@
 #include "output/field_entry.h"
 
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
 #include "output/printable_screen.h"
+#include "platform/base/text_positions.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,31 +21,56 @@ constexpr qsizetype blankReach = 20;
 
 const QString lineEnd = u"\r\n"_s;
 
-/// A value by positions that count from 1.
+/// A value by the positions that it takes on a line, which count from 1.
 class Value {
 public:
-    explicit Value(const QString& text) : text_(text) {}
+    explicit Value(const QString& text);
 
-    [[nodiscard]] qsizetype length() const { return text_.size(); }
+    [[nodiscard]] qsizetype length() const { return units_.empty() ? text_.size() : std::ssize(units_) - 1; }
     /// Position of the first line end from a position on; 0 for none.
-    [[nodiscard]] qsizetype lineEndFrom(qsizetype start) const { return text_.indexOf(lineEnd, start - 1) + 1; }
+    [[nodiscard]] qsizetype lineEndFrom(qsizetype start) const {
+        const qsizetype unit = text_.indexOf(lineEnd, unitAt(start));
+        if (unit < 0 || units_.empty()) return unit + 1;
+        return std::ranges::lower_bound(units_, unit) - units_.begin() + 1;
+    }
     [[nodiscard]] bool hasBlankAt(qsizetype position) const {
-        return position >= 1 && position <= length() && text_.at(position - 1) == u' ';
+        return position >= 1 && position <= length() && text_.at(unitAt(position)) == u' ';
     }
     /// The characters from one position through another; empty when they are the wrong way round.
     [[nodiscard]] QStringView through(qsizetype start, qsizetype end) const {
-        return end < start ? QStringView() : QStringView(text_).mid(start - 1, end - start + 1);
+        return end < start ? QStringView() : QStringView(text_).mid(unitAt(start), unitAt(end + 1) - unitAt(start));
     }
-    /// The position, or the one before where a cut behind it would go through a character of two units.
+    /// The position, or the one before where a cut behind it would go through a wide character.
     [[nodiscard]] qsizetype wholeCharacter(qsizetype position) const {
-        const bool cuts = position >= 1 && position < length() && text_.at(position - 1).isHighSurrogate() &&
-                          text_.at(position).isLowSurrogate();
+        const bool cuts = position >= 1 && position < length() && unitAt(position + 1) == unitAt(position);
         return cuts ? position - 1 : position;
     }
 
 private:
+    /// Where the character at a position begins in the text; the end of the text for positions behind it.
+    [[nodiscard]] qsizetype unitAt(qsizetype position) const {
+        const qsizetype at = std::clamp<qsizetype>(position - 1, 0, length());
+        return units_.empty() ? at : units_[static_cast<std::size_t>(at)];
+    }
+
     const QString& text_;
+    /// By positions, twice for a wide character, with the end of the text behind the last one. Empty where each code
+    /// unit has a position of its own.
+    std::vector<qsizetype> units_;
 };
+
+Value::Value(const QString& text) : text_(text) {
+    if (platform::isEven(text)) return;
+    for (const auto& [start, length, positions] : platform::graphemesOf(text)) {
+        const bool isControl = positions == length && text.at(start) < u' ';
+        for (int i = 0; i < positions; ++i)
+            units_.push_back(isControl ? start + i : start);
+    }
+    if (units_.empty()) return;
+    units_.push_back(text.size());
+    // What takes no position goes with the character before it, and at the front with the first one.
+    units_.front() = 0;
+}
 
 struct Break {
     qsizetype end = 0;

@@ -6,14 +6,16 @@
 #include "platform/base/clock.h"
 #include "platform/base/text_writer.h"
 #include "platform/forms/desktop.h"
+#include "platform/print/print_device.h"
 #include "session/book_files.h"
 
 namespace output {
 
 void printGrid(platform::Desktop& desktop, const PrintableGrid& grid) {
+    if (!platform::printDevice().choose()) return;
     const QDate today = platform::systemClock().today();
     ListingPrint print(desktop, listingTitle(grid, today), listingHeading(grid.columns));
-    ListingPages pages([&](const QString& text) { print.printPage(text); });
+    ListingPages pages([&](const ListingPages::Page& page) { print.printPage(page); });
     grid.walk([&](const QStringList& cells) { pages.addRow(listingLines(grid.columns, cells)); });
     pages.finish();
     print.end();

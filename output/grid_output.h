@@ -11,7 +11,7 @@ namespace output {
 
 struct PrintableGrid;
 
-/// Prints a list as one job of numbered pages; a list without rows prints nothing.
+/// Prints a list as one job of numbered pages, called by its title; a list without rows prints nothing.
 void printGrid(platform::Desktop& desktop, const PrintableGrid& grid);
 
 /// Asks for a file and writes the list into it, in place of an existing one when it is whole. `grid` is asked for only

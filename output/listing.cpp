@@ -4,6 +4,7 @@
 
 #include "output/segments.h"
 #include "platform/base/date_text.h"
+#include "platform/base/text_positions.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +13,7 @@ namespace output {
 namespace {
 
 constexpr int pageCharacters = 80;
-constexpr int fullPage = 50;
+constexpr std::size_t fullPage = 50;
 const QString margin(10, u' ');
 const QString lineEnd = u"\r\n"_s;
 
@@ -41,6 +42,24 @@ QString withoutControls(QString text) {
     return text;
 }
 
+/// A line of the pieces that stand in its columns, each filled up to its column's width.
+ListingLine lineOf(const std::vector<GridColumn>& columns, const std::vector<QString>& pieces) {
+    ListingLine line{.text = margin};
+    for (const QString& piece : pieces)
+        line.text += piece + u' ';
+    line.text = withSingleAmpersands(line.text);
+    if (platform::isEven(line.text)) return line;
+    qsizetype start = margin.size();
+    qsizetype position = margin.size();
+    for (std::size_t column = 0; column < pieces.size(); ++column) {
+        const QString text = line.text.sliced(start, pieces[column].size()).trimmed();
+        if (!text.isEmpty()) line.cells.push_back({position, text});
+        start += pieces[column].size() + 1;
+        position += columns[column].width + 1;
+    }
+    return line;
+}
+
 }  // namespace
 
 int listingWidth(double column, int grid) {
@@ -63,17 +82,17 @@ QString listingHeading(const std::vector<GridColumn>& columns) {
     return heading;
 }
 
-QStringList listingLines(const std::vector<GridColumn>& columns, const QStringList& cells) {
+std::vector<ListingLine> listingLines(const std::vector<GridColumn>& columns, const QStringList& cells) {
     Segments segments;
     const int lineCount = cut(segments, columns, cells);
-    QStringList lines;
+    std::vector<ListingLine> lines;
     for (int line = 1; line <= lineCount; ++line) {
-        QString text = margin;
+        std::vector<QString> texts;
         for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
             const int width = columns[static_cast<std::size_t>(column)].width;
-            text += withoutControls(segments.item(line, column).segmentText).leftJustified(width) + u' ';
+            texts.push_back(withoutControls(platform::paddedTo(segments.item(line, column).segmentText, width)));
         }
-        lines << withSingleAmpersands(text);
+        lines.push_back(lineOf(columns, texts));
     }
     return lines;
 }
@@ -82,9 +101,8 @@ QString gridDocument(const PrintableGrid& grid, const QDate& today) {
     QString text = margin + listingTitle(grid, today) + lineEnd + lineEnd;
     text += listingHeading(grid.columns) + lineEnd + lineEnd;
     grid.walk([&](const QStringList& cells) {
-        const QStringList lines = listingLines(grid.columns, cells);
-        for (const QString& line : lines)
-            text += line + lineEnd;
+        for (const ListingLine& line : listingLines(grid.columns, cells))
+            text += line.text + lineEnd;
         text += lineEnd;
     });
     return text;
@@ -92,21 +110,20 @@ QString gridDocument(const PrintableGrid& grid, const QDate& today) {
 
 // Pages ------------------------------------------------------------------------------------------------------------
 
-void ListingPages::addRow(const QStringList& lines) {
-    for (const QString& line : lines)
+void ListingPages::addRow(const std::vector<ListingLine>& lines) {
+    for (const ListingLine& line : lines)
         addLine(line);
-    if (!text_.isEmpty()) addLine({});
+    if (!page_.empty()) addLine({});
 }
 
-void ListingPages::addLine(const QString& line) {
-    text_ += line + lineEnd;
-    if (++lines_ > fullPage) finish();
+void ListingPages::addLine(const ListingLine& line) {
+    page_.push_back(line);
+    if (page_.size() > fullPage) finish();
 }
 
 void ListingPages::finish() {
-    if (!text_.isEmpty()) print_(text_);
-    text_.clear();
-    lines_ = 0;
+    if (!page_.empty()) print_(page_);
+    page_.clear();
 }
 
 }  // namespace output

@@ -15,9 +15,23 @@ namespace output {
 /// The captions over their columns; one that is as long as its column loses its last characters.
 [[nodiscard]] QString listingHeading(const std::vector<GridColumn>& columns);
 
-/// One row as lines without line ends: each cell is wrapped within its column, beside its neighbours. A line end or a
-/// tab within a cell takes one blank, so that the columns stay where they are.
-[[nodiscard]] QStringList listingLines(const std::vector<GridColumn>& columns, const QStringList& cells);
+/// A piece of a cell and the position of its column on the line, from 0.
+struct ListingCell {
+    qsizetype position = 0;
+    QString text{};
+};
+
+/// A line of a listing, without its line end.
+struct ListingLine {
+    QString text{};
+    /// What the line has in its columns, where drawn as one string it would not keep them: a character of it is wide,
+    /// or runs from right to left. Else empty.
+    std::vector<ListingCell> cells{};
+};
+
+/// One row as lines: each cell is wrapped within its column, beside its neighbours. A line end or a tab within a cell
+/// takes one blank, so that the columns stay where they are.
+[[nodiscard]] std::vector<ListingLine> listingLines(const std::vector<GridColumn>& columns, const QStringList& cells);
 
 /// The whole list as one text for a file: title, heading and rows, an empty line behind each row.
 [[nodiscard]] QString gridDocument(const PrintableGrid& grid, const QDate& today);
@@ -26,19 +40,20 @@ namespace output {
 /// left out where a row ends with its page.
 class ListingPages {
 public:
-    /// `print` is called with the text of each full page, its lines ended by CR LF.
-    explicit ListingPages(std::function<void(const QString& text)> print) : print_(std::move(print)) {}
+    using Page = std::vector<ListingLine>;
 
-    void addRow(const QStringList& lines);
+    /// `print` is called with the lines of each full page.
+    explicit ListingPages(std::function<void(const Page& page)> print) : print_(std::move(print)) {}
+
+    void addRow(const std::vector<ListingLine>& lines);
     /// Hands on the last page, if anything is on it.
     void finish();
 
 private:
-    void addLine(const QString& line);
+    void addLine(const ListingLine& line);
 
-    std::function<void(const QString& text)> print_;
-    QString text_;
-    int lines_ = 0;
+    std::function<void(const Page& page)> print_;
+    Page page_;
 };
 
 }  // namespace output

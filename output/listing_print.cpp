@@ -15,22 +15,35 @@ constexpr double pageNumberDown = 14400;
 constexpr double fontSize = 10;
 }  // namespace
 
-void ListingPrint::printPage(const QString& text) {
+void ListingPrint::printPage(const ListingPages::Page& page) {
     printHeadings();
     if (printer_) {
-        printer_->print(text);
+        for (const ListingLine& line : page)
+            printLine(line);
+        // The last line has its line end too.
+        printer_->print();
         printPageNumber();
     }
     ++page_;
 }
 
+void ListingPrint::printLine(const ListingLine& line) {
+    if (line.cells.empty()) return printer_->print(line.text);
+    std::vector<platform::PlacedText> texts;
+    for (const auto& [position, text] : line.cells)
+        texts.push_back({static_cast<double>(position) * printer_->positionWidth(), text});
+    printer_->printBeside(texts);
+}
+
 void ListingPrint::end() {
-    if (printer_) printer_->endDoc();
+    attemptPrint(desktop_, platform::Desktop::programTitle(), [this] {
+        if (printer_) printer_->endDoc();
+    });
 }
 
 void ListingPrint::printHeadings() {
     attemptPrint(desktop_, u"PrintHeadings Error"_s, [this] {
-        if (!printer_) printer_.emplace(platform::printDevice());
+        if (!printer_) printer_.emplace(platform::printDevice(), title_);
         printer_->setFontName(u"Courier New"_s);
         printer_->setFontBold(true);
         printer_->setFontSize(fontSize);

@@ -3,6 +3,7 @@
 #include <QString>
 #include <optional>
 
+#include "output/listing.h"
 #include "platform/print/printer.h"
 
 namespace platform {
@@ -19,13 +20,13 @@ public:
     ListingPrint(platform::Desktop& desktop, QString title, QString heading)
         : desktop_(desktop), title_(std::move(title)), heading_(std::move(heading)) {}
 
-    /// `text` holds the page's lines, ended by CR LF.
-    void printPage(const QString& text);
+    void printPage(const ListingPages::Page& page);
     /// Sends the job.
     void end();
 
 private:
     void printHeadings();
+    void printLine(const ListingLine& line);
     void printPageNumber();
 
     platform::Desktop& desktop_;

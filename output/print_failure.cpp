@@ -16,7 +16,10 @@ void attemptPrint(platform::Desktop& desktop, const QString& title, const std::f
             desktop.notice(error.report(), title, platform::Icon::Critical);
             return;
         }
-        desktop.notice(u"No printer is configured for this computer so you will not be able to print anything."_s,
+        const bool refused = error.description() != platform::RuntimeError(printerError).description();
+        desktop.notice(refused
+                           ? error.description()
+                           : u"No printer is configured for this computer so you will not be able to print anything."_s,
                        u"No Printer"_s);
     }
 }

@@ -10,7 +10,7 @@ namespace output {
 /// A column of a list as it is put out.
 struct GridColumn {
     QString caption{};
-    int width = 1;  ///< characters; see listingWidth()
+    int width = 1;  ///< positions; see listingWidth()
 };
 
 /// Calls `visit` with the texts of each row's columns, from the first row through the last. No row is kept.

@@ -22,6 +22,12 @@ struct PrintableScreen {
     QString caption{};
     std::vector<PrintableField> fields{};
     std::vector<PrintableCheck> checks{};
+    // Where the record stands among those of the screen.
+    int position = 0;  ///< from 1
+    int count = 0;
 };
+
+/// What a print job of the record is called in the queue.
+[[nodiscard]] QString jobTitle(const PrintableScreen& screen);
 
 }  // namespace output

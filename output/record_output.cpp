@@ -11,6 +11,7 @@
 #include "platform/base/runtime_error.h"
 #include "platform/base/text_writer.h"
 #include "platform/forms/desktop.h"
+#include "platform/forms/progress.h"
 #include "platform/print/print_device.h"
 #include "platform/print/printer.h"
 #include "session/book_files.h"
@@ -49,18 +50,35 @@ private:
     QString title_;
 };
 
+void tellStopped(platform::Desktop& desktop, const platform::Progress& progress, const QString& title,
+                 const QString& done) {
+    desktop.notice(u"You stopped after %1 of %2 records.  The records up to there were %3."_s.arg(progress.done())
+                       .arg(progress.total())
+                       .arg(done),
+                   title);
+}
+
 }  // namespace
 
 void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen) {
     attemptPrint(desktop, u"CreatePrintDoc Error"_s, [&] {
         const QString document = pageDocument(screen, platform::systemClock().today());
-        platform::Printer printer(platform::printDevice());
+        platform::Printer printer(platform::printDevice(), jobTitle(screen));
         printer.setFontName(u"Courier New"_s);
         printer.setFontBold(true);
         printer.setFontSize(fontSize);
         printer.print(document);
         printer.endDoc();
     });
+}
+
+void printAll(platform::Desktop& desktop, int count, const RecordWalk& walk, const std::function<void()>& print) {
+    platform::Progress progress(u"Print All"_s, u"Printing record %1 of %2"_s, count);
+    walk([&] {
+        print();
+        return progress.step();
+    });
+    if (progress.isStopped()) tellStopped(desktop, progress, u"Print All Stopped"_s, u"printed"_s);
 }
 
 void saveFile(platform::Desktop& desktop, const QString& applicationFolder,
@@ -99,8 +117,13 @@ void saveAll(platform::Desktop& desktop, const SaveAllRequest& request, const Re
         }
         session::BookFiles{request.folder}.refuse(name);
         platform::files::TextWriter file(name);
-        walk([&] { file.writeLine(steps.createFileDoc(screen) + u"\r\n\r\n"_s); });
+        platform::Progress progress(u"Save All To File"_s, u"Saving record %1 of %2"_s, request.count);
+        walk([&] {
+            file.writeLine(steps.createFileDoc(screen) + u"\r\n\r\n"_s);
+            return progress.step();
+        });
         file.close();
+        if (progress.isStopped()) tellStopped(desktop, progress, u"Save All Stopped"_s, u"saved"_s);
     });
 }
 

@@ -1,19 +1,18 @@
 #include "output/segments.h"
 
+#include "platform/base/text_positions.h"
+
 namespace output {
 
 namespace {
 
 QStringView pieceOf(QStringView text, qsizetype start, int width) {
     const QStringView rest = text.sliced(std::min(start - 1, text.size()));
-    if (rest.size() <= width) return rest;
-    const QStringView span = rest.first(width);
+    const QStringView span = platform::fitting(rest, width);
+    if (span.size() == rest.size()) return rest;
     // The blank at which a line is broken stays at its end.
     const qsizetype blank = span.lastIndexOf(u' ');
-    if (blank >= 0) return span.first(blank + 1);
-    // A character of two code units stays whole where the column can hold it.
-    const bool halvesOne = width > 1 && span.back().isHighSurrogate();
-    return halvesOne ? span.chopped(1) : span;
+    return blank >= 0 ? span.first(blank + 1) : span;
 }
 
 }  // namespace
@@ -22,7 +21,7 @@ const Segment& Segments::add(int colNum, const QString& fullText, int startPos, 
     const QString piece = pieceOf(fullText, startPos, colWidth).toString();
     return segments_[{lineNum, colNum}] = {.colNum = colNum,
                                            .fullText = fullText,
-                                           .segmentText = piece.leftJustified(colWidth),
+                                           .segmentText = platform::paddedTo(piece, colWidth),
                                            .colWidth = colWidth,
                                            .lineNum = lineNum,
                                            .startPos = startPos,

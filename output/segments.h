@@ -12,13 +12,13 @@ struct Segment {
     int colNum = 0;
     QString fullText{};     ///< the whole cell
     QString segmentText{};  ///< this piece, filled with blanks to the column's width
-    int colWidth = 0;       ///< characters
+    int colWidth = 0;       ///< positions
     int lineNum = 0;        ///< from 1
     int startPos = 1;       ///< of the piece in the cell's text, from 1
     int textLength = 0;     ///< of the piece before the blanks
 
     /// No text of the cell is left behind this piece.
-    [[nodiscard]] bool isLast() const { return colWidth > fullText.size() - startPos; }
+    [[nodiscard]] bool isLast() const { return startPos - 1 + textLength >= fullText.size(); }
 };
 
 /// The pieces of one row, by line and column.

@@ -36,8 +36,8 @@ void printCompany(platform::Printer& printer, const session::Definition& company
 
 }  // namespace
 
-void printCoverPage(const CoverPage& cover, const session::Definition& company) {
-    platform::Printer printer(platform::printDevice());
+void printCoverPage(const CoverPage& cover, const session::Definition& company, const QString& title) {
+    platform::Printer printer(platform::printDevice(), title);
     printer.setFontName(u"Courier New"_s);
     printer.setFontBold(true);
     printer.setFontItalic(false);

@@ -16,7 +16,8 @@ struct CoverPage {
     QString date{};
 };
 
-/// Prints the cover as one page of centred lines, with the company's address at its foot. Throws 482 without a printer.
-void printCoverPage(const CoverPage& cover, const session::Definition& company);
+/// Prints the cover as one page of centred lines, with the company's address at its foot, as a job of that title.
+/// Throws 482 without a printer.
+void printCoverPage(const CoverPage& cover, const session::Definition& company, const QString& title);
 
 }  // namespace screens

@@ -1,6 +1,7 @@
 #include "screens/cover_page_screen.h"
 
 #include "output/print_failure.h"
+#include "output/printable_screen.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
 #include "screens/cover_page_print.h"
@@ -42,7 +43,7 @@ void CoverPageScreen::printRecord() {
                              .heading2 = boxes().text("Heading2"_L1).text(),
                              .subHeading2 = boxes().text("SubHeading2"_L1).text(),
                              .date = boxes().text("Date"_L1).text()};
-        printCoverPage(page, session().definition);
+        printCoverPage(page, session().definition, output::jobTitle(printable()));
     });
 }
 

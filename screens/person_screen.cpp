@@ -172,7 +172,7 @@ QString PersonScreen::moveCompleteTitle() const {
     return u"Move Complete Error"_s;
 }
 
-void PersonScreen::walkAll(const std::function<void()>& visit) {
+void PersonScreen::walkAll(const std::function<bool()>& visit) {
     const qint16 person = session().gPersonID;
     const auto goesBack = qScopeGuard([&] {
         if (session().gbWholeFamily) return;

@@ -38,7 +38,7 @@ protected:
     void cmdClose_Click() override;
     [[nodiscard]] bool validates(int box) override;
     [[nodiscard]] output::SaveAllRequest saveAllRequest() override;
-    void walkAll(const std::function<void()>& visit) override;
+    void walkAll(const std::function<bool()>& visit) override;
 
 private:
     [[nodiscard]] QString selectStatement();

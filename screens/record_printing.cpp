@@ -9,6 +9,7 @@
 #include "platform/forms/check_box.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
+#include "platform/print/print_device.h"
 #include "screens/record_screen.h"
 #include "session/refusals.h"
 #include "session/session.h"
@@ -24,6 +25,8 @@ output::PrintableScreen RecordScreen::printable() {
         screen.fields.push_back({index, text.label->text(), text.box->text()});
     for (const FieldBoxes::Check& check : boxes_.checks())
         screen.checks.push_back({check.box->text(), check.box->value() != 0});
+    screen.position = rows_.absolutePosition();
+    screen.count = rows_.recordCount();
     return screen;
 }
 
@@ -48,11 +51,13 @@ bool RecordScreen::mayWalk() {
 }
 
 void RecordScreen::mPrint_Click() {
-    if (hasRecord()) printRecord();
+    if (hasRecord() && platform::printDevice().choose()) printRecord();
 }
 
 void RecordScreen::mPrintAll_Click() {
-    if (mayWalk()) walkAll([this] { printRecord(); });
+    if (!mayWalk() || !platform::printDevice().choose()) return;
+    output::printAll(
+        desktop(), rows_.recordCount(), [this](const auto& visit) { walkAll(visit); }, [this] { printRecord(); });
 }
 
 void RecordScreen::mSave_Click() {
@@ -63,30 +68,30 @@ void RecordScreen::mSave_Click() {
 void RecordScreen::mSaveAll_Click() {
     if (!mayWalk()) return;
     output::saveAll(
-        desktop(), saveAllRequest(), [this](const std::function<void()>& visit) { walkAllUnseen(visit); },
+        desktop(), saveAllRequest(), [this](const auto& visit) { walkAllUnseen(visit); },
         [this] { return printable(); });
 }
 
 output::SaveAllRequest RecordScreen::saveAllRequest() {
     return {.folder = session().applicationFolder,
             .noFileTitle = u"No File Specified"_s,
-            .noFileText = u"No file was specified.  No file was saved."_s};
+            .noFileText = u"No file was specified.  No file was saved."_s,
+            .count = rows_.recordCount()};
 }
 
-void RecordScreen::walkAll(const std::function<void()>& visit) {
+void RecordScreen::walkAll(const std::function<bool()>& visit) {
     const data::Connection::ReadHold hold(session().gConnection);
     bLastRecord_ = false;
     cmdFirst_Click();
     bool goesOn = true;
     while (goesOn) {
-        visit();
         // A screen whose rows can't be read any more never comes to its last one.
-        goesOn = cmdNext_Click() && !bLastRecord_;
+        goesOn = visit() && cmdNext_Click() && !bLastRecord_;
     }
     cmdFirst_Click();
 }
 
-void RecordScreen::walkAllUnseen(const std::function<void()>& visit) {
+void RecordScreen::walkAllUnseen(const std::function<bool()>& visit) {
     walking_ = true;
     boxes_.holdDisplay();
     boxes_.bindDates(&rows_);

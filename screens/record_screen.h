@@ -126,8 +126,9 @@ protected:
     virtual void setButtons(bool browsing);
     /// Opens the child screen of a kind that the entry offers.
     virtual void showChild(ChildKind /*kind*/) {}
-    /// Shows each record from the first through the last and visits it there, then goes back to the first.
-    virtual void walkAll(const std::function<void()>& visit);
+    /// Shows each record from the first through the last and visits it there, as long as that gives true; then goes
+    /// back to the first.
+    virtual void walkAll(const std::function<bool()>& visit);
     /// Opens the look-up recordset anew; it stays open.
     void lookUp(const QString& statement);
 
@@ -160,7 +161,7 @@ private:
     /// True if all records may be put out one after the other; tells what speaks against it.
     [[nodiscard]] bool mayWalk();
     /// walkAll without drawing what is visited: only its texts are wanted.
-    void walkAllUnseen(const std::function<void()>& visit);
+    void walkAllUnseen(const std::function<bool()>& visit);
 
     const ScreenDefinition& definition_;
     data::Recordset rows_;

@@ -2,10 +2,16 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <algorithm>
+#include <vector>
 
 #include "platform/base/runtime_error.h"
+#include "platform/base/text_positions.h"
+#include "platform/print/page_scale.h"
+#include "platform/print/print_metrics.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +21,6 @@ namespace {
 
 constexpr int noPrinter = 482;
 constexpr double twipsPerInch = 1440;
-constexpr double twipsPerPoint = 20;
 
 QFont fontOf(const PrintedLine& line) {
     QFont font;
@@ -29,12 +34,98 @@ QFont fontOf(const PrintedLine& line) {
     return font;
 }
 
-void paintPage(QPainter& painter, const PrintedPage& page) {
-    for (const PrintedLine& line : page) {
-        painter.setFont(fontOf(line));
-        const double baseline = line.y + painter.fontMetrics().ascent();
-        painter.drawText(QPointF(line.x, baseline), line.text);
+/// What of a line is drawn as one string.
+struct Run {
+    enum class Kind { Latin, Other, Wide, Emoji, RightToLeft };
+    Kind kind = Kind::Latin;
+    qsizetype position = 0;
+    qsizetype positions = 0;
+    QString text{};
+};
+
+Run::Kind kindOf(QStringView grapheme, int positions) {
+    if (isLatin(grapheme)) return Run::Kind::Latin;
+    if (hasRightToLeft(grapheme)) return Run::Kind::RightToLeft;
+    if (hasEmoji(grapheme)) return Run::Kind::Emoji;
+    return positions > 1 ? Run::Kind::Wide : Run::Kind::Other;
+}
+
+/// A wide character is a run of its own; one from right to left takes along all behind it.
+bool goesOn(const Run& run, Run::Kind kind) {
+    if (run.kind == Run::Kind::RightToLeft) return true;
+    return run.kind == kind && (kind == Run::Kind::Latin || kind == Run::Kind::Other);
+}
+
+std::vector<Run> runsOf(const QString& text) {
+    if (isLatin(text)) return {{.positions = text.size(), .text = text}};
+    std::vector<Run> runs;
+    qsizetype position = 0;
+    for (const Grapheme& grapheme : graphemesOf(text)) {
+        const QStringView part = QStringView(text).sliced(grapheme.start, grapheme.length);
+        const Run::Kind kind = kindOf(part, grapheme.positions);
+        if (runs.empty() || !goesOn(runs.back(), kind)) runs.push_back({.kind = kind, .position = position});
+        runs.back().positions += grapheme.positions;
+        runs.back().text += part;
+        position += grapheme.positions;
     }
+    return runs;
+}
+
+/// Paper in a file takes no characters of a font that is made of coloured pictures; it takes the pictures. `cell` is
+/// what the run's positions cover.
+void paintPicture(QPainter& painter, const QRectF& cell, const QString& text) {
+    // Half the units of the page is 720 dots to the inch.
+    constexpr double detail = 0.5;
+    QImage picture((cell.size() * detail).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter drawing(&picture);
+    QFont font = painter.font();
+    font.setPixelSize(static_cast<int>(font.pixelSize() * detail));
+    drawing.setFont(font);
+    const QRectF whole(QPointF(0, 0), cell.size() * detail);
+    const double natural = drawing.boundingRect(whole, Qt::AlignLeft | Qt::AlignVCenter, text).width();
+    if (natural > whole.width()) drawing.scale(whole.width() / natural, 1);
+    drawing.drawText(QRectF(0, 0, std::max(natural, whole.width()), whole.height()), Qt::AlignLeft | Qt::AlignVCenter,
+                     text);
+    drawing.end();
+    painter.drawImage(cell, picture);
+}
+
+/// `start` is at the baseline; `width` is what the run's positions take.
+void paintText(QPainter& painter, const QPointF& start, double width, const Run& run) {
+    // A letter that exists with its accent looks better than one upon which a font puts it.
+    const QString text = run.text.normalized(QString::NormalizationForm_C).trimmed();
+    painter.setLayoutDirection(run.kind == Run::Kind::RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    const double natural = QFontMetricsF(painter.font(), painter.device()).horizontalAdvance(text);
+    const double narrowed = natural > width && width > 0 ? width / natural : 1;
+    painter.save();
+    painter.translate(start);
+    painter.scale(narrowed, 1);
+    painter.drawText(QPointF(0, 0), text);
+    painter.restore();
+}
+
+void paintLine(QPainter& painter, const PrintedLine& line) {
+    painter.setFont(fontOf(line));
+    const double baseline = line.y + painter.fontMetrics().ascent();
+    const double position = positionWidth(line.size);
+    for (const Run& run : runsOf(line.text)) {
+        const double x = line.x + static_cast<double>(run.position) * position;
+        const double width = static_cast<double>(run.positions) * position;
+        if (run.kind == Run::Kind::Latin) {
+            painter.setLayoutDirection(Qt::LeftToRight);
+            painter.drawText(QPointF(x, baseline), run.text);
+        } else if (run.kind == Run::Kind::Emoji) {
+            paintPicture(painter, {x, line.y, width, lineHeight(line.size)}, run.text);
+        } else {
+            paintText(painter, {x, baseline}, width, run);
+        }
+    }
+}
+
+void paintPage(QPainter& painter, const PrintedPage& page) {
+    for (const PrintedLine& line : page)
+        paintLine(painter, line);
 }
 
 }  // namespace
@@ -52,7 +143,8 @@ PageArea pageAreaOf(const QPagedPaintDevice& device) {
 void paintJob(QPagedPaintDevice& device, const PrintJob& job) {
     QPainter painter;
     if (!painter.begin(&device)) throw RuntimeError(noPrinter);
-    painter.scale(device.logicalDpiX() / twipsPerInch, device.logicalDpiY() / twipsPerInch);
+    const double scale = pageScale(pageAreaOf(device));
+    painter.scale(scale * device.logicalDpiX() / twipsPerInch, scale * device.logicalDpiY() / twipsPerInch);
     for (std::size_t i = 0; i < job.size(); ++i) {
         if (i > 0 && !device.newPage()) throw RuntimeError(noPrinter);
         paintPage(painter, job[i]);

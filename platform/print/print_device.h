@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include "platform/print/print_job.h"
 
 namespace platform {
@@ -12,10 +14,12 @@ public:
     PrintDevice(const PrintDevice&) = delete;
     PrintDevice& operator=(const PrintDevice&) = delete;
 
+    /// Lets the user choose where nothing tells which printer is meant; false if he chose none.
+    [[nodiscard]] virtual bool choose() { return true; }
     /// Error 482 without a printer.
     [[nodiscard]] virtual PageArea page() = 0;
-    /// Sends a whole job; error 482 when it fails.
-    virtual void send(const PrintJob& job) = 0;
+    /// Sends a whole job under a title; error 482 when it fails, with the words of the queue where it refuses the job.
+    virtual void send(const PrintJob& job, const QString& title) = 0;
 };
 
 /// The device in use: the system's printer, unless a PrintDeviceInPlace stands for it.

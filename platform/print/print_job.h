@@ -5,8 +5,8 @@
 
 namespace platform {
 
-/// A line of text on a page. Positions are those of its top left corner, in twips (1/1440 inch) from the corner of the
-/// printable area.
+/// A line of text on a page, or one that stands beside others. Positions are those of its top left corner, in twips
+/// (1/1440 inch) from the corner of the printable area.
 struct PrintedLine {
     double x = 0;
     double y = 0;

@@ -2,8 +2,12 @@
 
 #include <QStringList>
 #include <algorithm>
+#include <utility>
 
+#include "platform/base/text_positions.h"
+#include "platform/print/page_scale.h"
 #include "platform/print/print_device.h"
+#include "platform/print/print_metrics.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,9 +15,6 @@ namespace platform {
 
 namespace {
 
-constexpr double twipsPerPoint = 20;
-constexpr double characterWidth = 0.6;
-constexpr double lineSpacing = 1.1328125;
 constexpr double usualSize = 10;
 
 QStringList linesOf(QString text) {
@@ -27,21 +28,28 @@ bool isBlank(const PrintedPage& page) {
 
 }  // namespace
 
-Printer::Printer(PrintDevice& device) : device_(device), area_(device.page()) {
+Printer::Printer(PrintDevice& device, QString title) : device_(device), title_(std::move(title)), area_(device.page()) {
+    const double scale = pageScale(area_);
+    for (double* length : {&area_.width, &area_.height, &area_.scaleWidth, &area_.scaleHeight})
+        *length /= scale;
     style_.font = u"Courier New"_s;
     style_.size = usualSize;
+}
+
+double Printer::positionWidth() const {
+    return platform::positionWidth(style_.size);
 }
 
 double Printer::textWidth(const QString& text) const {
     qsizetype longest = 0;
     const QStringList lines = linesOf(text);
     for (const QString& line : lines)
-        longest = std::max(longest, line.toUcs4().size());
-    return static_cast<double>(longest) * characterWidth * style_.size * twipsPerPoint;
+        longest = std::max(longest, positionsOf(line));
+    return static_cast<double>(longest) * positionWidth();
 }
 
 double Printer::lineHeight() const {
-    return lineSpacing * style_.size * twipsPerPoint;
+    return platform::lineHeight(style_.size);
 }
 
 void Printer::goToTop() {
@@ -52,17 +60,19 @@ void Printer::goToTop() {
 void Printer::print(const QString& text) {
     const QStringList lines = linesOf(text);
     for (const QString& line : lines)
-        printLine(line);
+        printBeside({{x_, line}});
 }
 
-void Printer::printLine(const QString& text) {
+void Printer::printBeside(const std::vector<PlacedText>& texts) {
     if (job_.empty()) job_.emplace_back();
     if (y_ + lineHeight() > area_.scaleHeight && !job_.back().empty()) newPage();
-    PrintedLine line = style_;
-    line.x = x_;
-    line.y = y_;
-    line.text = text;
-    job_.back().push_back(line);
+    for (const auto& [x, text] : texts) {
+        PrintedLine line = style_;
+        line.x = x;
+        line.y = y_;
+        line.text = text;
+        job_.back().push_back(line);
+    }
     x_ = 0;
     y_ += lineHeight();
 }
@@ -79,7 +89,7 @@ void Printer::endDoc() {
     PrintJob job;
     job.swap(job_);
     goToTop();
-    if (!job.empty() && !(job.size() == 1 && job.front().empty())) device_.send(job);
+    if (!job.empty() && !(job.size() == 1 && job.front().empty())) device_.send(job, title_);
 }
 
 }  // namespace platform

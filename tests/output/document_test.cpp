@@ -6,6 +6,7 @@
 
 #include "output/field_entry.h"
 #include "output/printable_screen.h"
+#include "platform/base/text_positions.h"
 #include "tests/support/print.h"
 
 using namespace Qt::StringLiterals;
@@ -77,11 +78,30 @@ TEST(FieldEntry, ContinuesUnderTheLabelAndBeginsLateBehindALongOne) {
               u"      1.  "_s + label + u" - \r\n"_s + indent + u"averylongword another\r\n\r\n"_s);
 }
 
-TEST(FieldEntry, CutsNoCharacterInTwo) {
-    const QString faces = u"x"_s + u"\U0001F600"_s.repeated(60);
-    const QString text = entry(faces).remove(u"\r\n"_s + indent).sliced(prefix.size()).chopped(2);
-    EXPECT_TRUE(text.isValidUtf16());
-    EXPECT_TRUE(QString(text).remove(u"\r\n"_s) == faces);
+/// The value of an entry without the line ends and indents that broke it.
+QString joined(const QString& text) {
+    return QString(text).remove(u"\r\n"_s + indent).sliced(prefix.size()).remove(u"\r\n"_s);
+}
+
+TEST(FieldEntry, CutsByPositionsAndNoCharacterInTwo) {
+    const QString characters[] = {u"\U0001F600"_s, u"\u65E5"_s, u"e\u0301"_s, u"\U0001F469\u200D\U0001F467"_s,
+                                  u"\u05D0"_s};
+    for (const QString& character : characters) {
+        const QString value = u"x"_s + character.repeated(120);
+        const QStringList lines = entry(value).split(u"\r\n"_s);
+        const qsizetype wide = platform::positionsOf(character);
+        EXPECT_EQ(joined(entry(value)), value);
+        EXPECT_EQ(platform::positionsOf(lines[0]), 85 - 70 % wide) << character.toStdString();
+        for (const QString& line : lines) {
+            EXPECT_LE(platform::positionsOf(line), 90);
+            EXPECT_TRUE(line.isValidUtf16());
+            EXPECT_FALSE(line.trimmed().startsWith(u'\u0301') || line.trimmed().startsWith(u'\u200D'));
+        }
+    }
+    EXPECT_EQ(entry(u"\u65E5"_s.repeated(32)), prefix + u"\u65E5"_s.repeated(32) + u"\r\n     \r\n"_s);
+    EXPECT_EQ(entry(u"\u65E5\r\n\u672C\u8A9E\r\n"_s + u"\u65E5"_s.repeated(40)),
+              prefix + u"\u65E5\r"_s + indent + u"\u672C\u8A9E\r"_s + indent + u"\u65E5"_s.repeated(39) + u"\r\n"_s +
+                  indent + u"\u65E5\r\n\r\n"_s);
 }
 
 TEST(Document, HasATitleTheBoxesTheChecksAndAnEmptyLine) {

@@ -5,6 +5,7 @@
 #include <QRandomGenerator>
 
 #include "output/segments.h"
+#include "platform/base/text_positions.h"
 #include "tests/support/print.h"
 
 using namespace Qt::StringLiterals;
@@ -24,6 +25,13 @@ QStringList pieces(const QString& text, int width) {
     return found;
 }
 
+QStringList texts(const std::vector<GridColumn>& columns, const QStringList& cells) {
+    QStringList found;
+    for (const ListingLine& line : listingLines(columns, cells))
+        found << line.text;
+    return found;
+}
+
 TEST(Segments, CutACellBehindItsLastBlankOrHard) {
     EXPECT_EQ(pieces(u""_s, 4), QStringList{u"    "_s});
     EXPECT_EQ(pieces(u"abcd"_s, 4), QStringList{u"abcd"_s});
@@ -33,6 +41,17 @@ TEST(Segments, CutACellBehindItsLastBlankOrHard) {
     EXPECT_EQ(pieces(u"     x"_s, 4), (QStringList{u"    "_s, u" x  "_s}));
     EXPECT_EQ(pieces(u"xy"_s, 1), (QStringList{u"x"_s, u"y"_s}));
     EXPECT_EQ(pieces(u"abc\U0001F600"_s, 4), (QStringList{u"abc "_s, u"\U0001F600  "_s}));
+}
+
+TEST(Segments, CountPositionsAndNeverCutACharacter) {
+    EXPECT_EQ(pieces(u"\u65E5\u672C\u8A9E"_s, 5), (QStringList{u"\u65E5\u672C "_s, u"\u8A9E   "_s}));
+    EXPECT_EQ(pieces(u"\u65E5\u672C"_s, 4), QStringList{u"\u65E5\u672C"_s});
+    EXPECT_EQ(pieces(u"e\u0301e\u0301e\u0301"_s, 2), (QStringList{u"e\u0301e\u0301"_s, u"e\u0301 "_s}));
+    EXPECT_EQ(pieces(u"\u65E5 \u672Cabc"_s, 5), (QStringList{u"\u65E5   "_s, u"\u672Cabc"_s}));
+    const QString family = u"\U0001F469\u200D\U0001F467"_s;
+    EXPECT_EQ(pieces(family + family, 3), (QStringList{family + u' ', family + u' '}));
+    // Nothing is left out where not even one character fits.
+    EXPECT_EQ(pieces(u"\u65E5\u672C"_s, 1), (QStringList{u"\u65E5"_s, u"\u672C"_s}));
 }
 
 TEST(Segments, GiveAnEmptyPieceForAMissingLine) {
@@ -53,8 +72,7 @@ TEST(Listing, HoldsEveryCharacterOfACellInOrderAndInItsColumn) {
                 cell += QChar(random.bounded(5) == 0 ? u' ' : char16_t(u'a' + random.bounded(26)));
         }
         QStringList found{{}, {}};
-        const QStringList lines = listingLines(columns, cells);
-        for (const QString& line : lines) {
+        for (const QString& line : texts(columns, cells)) {
             ASSERT_EQ(line.size(), 10 + columns[0].width + 1 + columns[1].width + 1);
             found[0] += line.mid(10, columns[0].width);
             found[1] += line.mid(11 + columns[0].width, columns[1].width);
@@ -64,6 +82,36 @@ TEST(Listing, HoldsEveryCharacterOfACellInOrderAndInItsColumn) {
     }
 }
 
+TEST(Listing, StandsInItsColumnsInEveryWriting) {
+    const std::vector<GridColumn> columns{{u"A"_s, 8}, {u"B"_s, 6}, {u"C"_s, 3}};
+    const QStringList writings{u"\u05E8\u05D7\u05DC \u05DB\u05D4\u05DF, 5"_s, u"\u65E5\u672C\u8A9E\u306E\u672C"_s,
+                               u"\U0001F3E1\U0001F469\u200D\U0001F467\U0001F1EB\U0001F1F7 flat"_s, u"e\u0301te\u0301"_s,
+                               u"\u0645\u062D\u0645\u062F"_s};
+    for (const QString& first : writings) {
+        for (const QString& second : writings) {
+            QStringList found{{}, {}, {}};
+            for (const ListingLine& line : listingLines(columns, {first, second, u"x && y"_s})) {
+                EXPECT_EQ(platform::positionsOf(line.text), 10 + 9 + 7 + 4) << first.toStdString();
+                for (const auto& [position, text] : line.cells) {
+                    const int column = position == 10 ? 0 : position == 19 ? 1 : 2;
+                    EXPECT_TRUE(column < 2 || position == 26);
+                    EXPECT_LE(platform::positionsOf(text), columns[static_cast<std::size_t>(column)].width);
+                    found[column] += text;
+                }
+                if (!line.cells.empty()) continue;
+                EXPECT_TRUE(platform::isEven(line.text));
+                found[0] += line.text.mid(10, 8).trimmed();
+                found[1] += line.text.mid(19, 6).trimmed();
+                found[2] += line.text.mid(26).trimmed();
+            }
+            EXPECT_EQ(found[0].remove(u' '), QString(first).remove(u' '));
+            EXPECT_EQ(found[1].remove(u' '), QString(second).remove(u' '));
+            EXPECT_EQ(found[2], u"x&y"_s);
+        }
+    }
+    EXPECT_TRUE(listingLines(columns, {u"\u041A\u043E\u0442"_s, u"\u2018a\u2019"_s, {}})[0].cells.empty());
+}
+
 TEST(Listing, LosesTheEndOfACaptionAsLongAsItsColumn) {
     EXPECT_EQ(listingHeading({{u"Seq"_s, 5}, {u"Asset"_s, 5}, {u"Directions"_s, 4}}), u"          Seq   Asse  Dir  "_s);
     EXPECT_EQ(listingHeading({{u"Seq"_s, 1}}), u"            "_s);
@@ -71,9 +119,9 @@ TEST(Listing, LosesTheEndOfACaptionAsLongAsItsColumn) {
 
 TEST(Listing, KeepsItsColumnsWhateverACellHolds) {
     const std::vector<GridColumn> columns{{u"A"_s, 12}, {u"B"_s, 4}};
-    EXPECT_EQ(listingLines(columns, {u"Tools && Dies"_s, u"x"_s}),
+    EXPECT_EQ(texts(columns, {u"Tools && Dies"_s, u"x"_s}),
               (QStringList{u"          Tools &      x    "_s, u"          Dies              "_s}));
-    EXPECT_EQ(listingLines(columns, {u"one\r\ntwo\tx"_s, u"y"_s}), QStringList{u"          one  two x   y    "_s});
+    EXPECT_EQ(texts(columns, {u"one\r\ntwo\tx"_s, u"y"_s}), QStringList{u"          one  two x   y    "_s});
 }
 
 TEST(Listing, GivesAColumnItsShareOfThePage) {
@@ -97,14 +145,15 @@ TEST(Listing, WritesTitleHeadingAndRowsIntoAFile) {
 
 TEST(ListingPages, AreFullWithTheirFiftyFirstLine) {
     QList<qsizetype> pages;
-    ListingPages listing([&](const QString& text) { pages << text.count(u"\r\n"_s); });
+    ListingPages listing([&](const ListingPages::Page& page) { pages << std::ssize(page); });
+    const ListingLine line{.text = u"line"_s};
     for (int row = 0; row < 30; ++row)
-        listing.addRow({u"row"_s});
+        listing.addRow({line});
     listing.finish();
     // 26 rows and 25 empty lines; the empty line behind the last row of a page is left out.
     EXPECT_EQ(pages, (QList<qsizetype>{51, 8}));
     pages.clear();
-    listing.addRow(QStringList(60, u"line"_s));
+    listing.addRow(std::vector(60, line));
     listing.finish();
     EXPECT_EQ(pages, (QList<qsizetype>{51, 10}));
     pages.clear();

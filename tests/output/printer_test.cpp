@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/base/runtime_error.h"
+#include "platform/print/page_scale.h"
 #include "platform/print/print_device.h"
 #include "tests/support/print.h"
 
@@ -12,14 +13,19 @@ namespace {
 
 class Paper : public platform::PrintDevice {
 public:
-    [[nodiscard]] platform::PageArea page() override { return {12240, 15840, 11520, 15120}; }
-    void send(const platform::PrintJob& job) override { jobs.push_back(job); }
+    [[nodiscard]] platform::PageArea page() override { return sheet; }
+    void send(const platform::PrintJob& job, const QString& title) override {
+        jobs.push_back(job);
+        titles << title;
+    }
+    platform::PageArea sheet{12240, 15840, 11520, 15120};
     std::vector<platform::PrintJob> jobs;
+    QStringList titles;
 };
 
 TEST(Printer, BreaksLinesAndGoesToTheStartOfTheNext) {
     Paper paper;
-    platform::Printer printer(paper);
+    platform::Printer printer(paper, u"A job"_s);
     printer.setCurrentX(1000);
     printer.setCurrentY(1440);
     printer.print(u"a\r\nb\rc\nd"_s);
@@ -41,7 +47,7 @@ TEST(Printer, BreaksLinesAndGoesToTheStartOfTheNext) {
 
 TEST(Printer, FlowsToTheNextPageAndSendsNoEmptyOne) {
     Paper paper;
-    platform::Printer printer(paper);
+    platform::Printer printer(paper, u"A job"_s);
     printer.endDoc();
     printer.setCurrentX(5);
     printer.endDoc();
@@ -62,10 +68,36 @@ TEST(Printer, FlowsToTheNextPageAndSendsNoEmptyOne) {
     EXPECT_EQ(paper.jobs[2].size(), 1U);
 }
 
+TEST(Printer, ShrinksThePageOntoASmallSheet) {
+    const platform::PageArea sheets[] = {{12240, 15840, 11520, 15120},
+                                         {12240, 15840, 10800, 14400},
+                                         {11906, 16838, 10466, 15398},
+                                         {15840, 12240, 15120, 11520}};
+    EXPECT_EQ(platform::pageScale(sheets[0]), 1);
+    for (const platform::PageArea& sheet : sheets) {
+        Paper paper;
+        paper.sheet = sheet;
+        platform::Printer printer(paper, u"A job"_s);
+        printer.printBeside({{0, u"left"_s}, {10800, u"right"_s}});
+        printer.setCurrentY(14400);
+        printer.print(u"-1-"_s);
+        printer.endDoc();
+        EXPECT_EQ(paper.titles, QStringList{u"A job"_s});
+        ASSERT_EQ(paper.jobs.at(0).size(), 1U);
+        ASSERT_EQ(paper.jobs[0][0].size(), 3U);
+        EXPECT_EQ(paper.jobs[0][0][1].y, 0);
+        const double scale = platform::pageScale(sheet);
+        EXPECT_LE(scale * (14400 + 226.5625), sheet.scaleHeight + 1e-6);
+        EXPECT_LE(scale * 92 * 120, sheet.scaleWidth + 1e-6);
+        EXPECT_DOUBLE_EQ(printer.width() * scale, sheet.width);
+    }
+}
+
 TEST(Printer, MeasuresTheWidestLine) {
     Paper paper;
-    platform::Printer printer(paper);
-    EXPECT_DOUBLE_EQ(printer.textWidth(u"ab\r\nabcde\U0001F600"_s), 6 * 120);
+    platform::Printer printer(paper, u"A job"_s);
+    EXPECT_DOUBLE_EQ(printer.textWidth(u"ab\r\nabcde\U0001F600"_s), 7 * 120);
+    EXPECT_DOUBLE_EQ(printer.textWidth(u"e\u0301\u65E5"_s), 3 * 120);
     printer.setFontSize(18);
     EXPECT_DOUBLE_EQ(printer.textWidth(u"a"_s), 216);
 }

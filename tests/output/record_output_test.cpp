@@ -4,11 +4,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QThread>
 
 #include "output/printable_screen.h"
 #include "output/record_output.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
+#include "platform/print/print_device.h"
 #include "tests/data/hostile_disk.h"
 #include "tests/support/household.h"
 
@@ -242,6 +246,145 @@ TEST_F(RecordOutput, ATextThatCanNotBeMadeIsToldApartAndLeavesTheOldFile) {
         Qt::BlockingQueuedConnection);
     EXPECT_EQ(told, QStringList(2, u"CreateFileDoc Error: 13 - Type mismatch"_s));
     EXPECT_EQ(saved(u"a.txt"_s), u"old"_s);
+}
+
+/// A queue that takes its time, and refuses the job of one number.
+class SlowQueue : public platform::PrintDevice {
+public:
+    [[nodiscard]] platform::PageArea page() override { return {12240, 15840, 11520, 15120}; }
+    void send(const platform::PrintJob& /*job*/, const QString& title) override {
+        QThread::msleep(60);
+        titles << title;
+        if (titles.size() == refused) throw platform::RuntimeError(482, u"The queue is closed for today."_s);
+    }
+    QStringList titles;
+    qsizetype refused = 0;
+};
+
+/// While it lives, clicks the button of the window that shows the progress as soon as one is up. Lives where the
+/// windows do.
+class Impatient : public QObject {
+public:
+    Impatient() {
+        moveToThread(qApp->thread());
+        QMetaObject::invokeMethod(
+            this, [this] { timer_ = startTimer(1); }, Qt::QueuedConnection);
+    }
+    QString label;
+
+protected:
+    void timerEvent(QTimerEvent* /*event*/) override {
+        auto* progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+        if (!progress) return;
+        killTimer(timer_);
+        label = progress->labelText();
+        progress->findChild<QPushButton*>()->click();
+    }
+
+private:
+    int timer_ = 0;
+};
+
+TEST_F(RecordOutput, PrintAllCanBeStoppedAndTellsWhatWasPrinted) {
+    QStringList names;
+    for (int i = 1; i <= 60; ++i)
+        names << u"Member %1"_s.arg(i);
+    startWith(names);
+    SlowQueue queue;
+    const platform::PrintDeviceInPlace place(queue);
+    // The application's thread takes it down.
+    auto* finger = new Impatient;
+    user.menu(u"mPrintAll"_s);
+    const qsizetype printed = queue.titles.size();
+    EXPECT_GT(printed, 1);
+    EXPECT_LT(printed, 60);
+    EXPECT_TRUE(finger->label.startsWith(u"Printing record "_s)) << finger->label.toStdString();
+    EXPECT_EQ(boxText(), u"You stopped after %1 of 60 records.  The records up to there were printed."_s.arg(printed));
+    EXPECT_EQ(dismissBox(), u"Print All Stopped"_s);
+    EXPECT_EQ(queue.titles[1], u"Birth Information for Whole Family, record 2 of 60"_s);
+    EXPECT_EQ(status(), u"Record: 1 of 60"_s);
+    finger->deleteLater();
+}
+
+TEST_F(RecordOutput, ARefusedJobIsToldInTheWordsOfTheQueue) {
+    startWith({u"Ann Larkin"_s, u"Bob Larkin"_s});
+    exec(u"INSERT INTO AssetLiquidation (Seq, Asset) VALUES (1, 'Boat')"_s);
+    SlowQueue queue;
+    queue.refused = 1;
+    const platform::PrintDeviceInPlace place(queue);
+    user.menu(u"mPrintAll"_s);
+    EXPECT_EQ(boxText(), u"The queue is closed for today."_s);
+    EXPECT_EQ(boxIcon(), u"information"_s);
+    EXPECT_EQ(dismissBox(), u"No Printer"_s);
+    EXPECT_EQ(boxTitle(), u""_s);
+    EXPECT_EQ(queue.titles.size(), 2);
+    queue.refused = 3;
+    openNode(u"AssetLiquidation"_s);
+    user.tool(u"tbPrint"_s);
+    EXPECT_EQ(boxText(), u"The queue is closed for today."_s);
+    EXPECT_EQ(dismissBox(), u"No Printer"_s);
+    EXPECT_TRUE(queue.titles[2].contains(u" Listing As Of "_s));
+}
+
+TEST_F(RecordOutput, SaveAllThatIsStoppedKeepsTheRecordsUpToThere) {
+    QStringList told;
+    int visited = 0;
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            platform::Desktop desktop;
+            desktop.setDialogs(std::make_unique<QuietDialogs>(path(u"all.txt"_s), told));
+            const Impatient finger;
+            output::saveAll(
+                desktop, {.folder = path({}), .count = 60},
+                [&](const auto& visit) {
+                    bool goesOn = true;
+                    while (goesOn && visited < 60) {
+                        QThread::msleep(60);
+                        ++visited;
+                        goesOn = visit();
+                    }
+                },
+                [] { return output::PrintableScreen{.caption = u"Homes"_s}; });
+        },
+        Qt::BlockingQueuedConnection);
+    EXPECT_LT(visited, 60);
+    EXPECT_EQ(told, QStringList(u"Save All Stopped: You stopped after %1 of 60 records.  The records up to there were "
+                                "saved."_s.arg(visited)));
+    EXPECT_EQ(saved(u"all.txt"_s).count(u"     The Homes\r\n"_s), visited);
+}
+
+TEST_F(RecordOutput, AListWithoutRowsSaysSoInsteadOfPrinting) {
+    startWith({u"Ann Larkin"_s});
+    user.setPrinter(path(u"list.pdf"_s));
+    openNode(u"AssetLiquidation"_s);
+    user.tool(u"tbPrint"_s);
+    EXPECT_EQ(boxText(), u"There are no entries to print."_s);
+    EXPECT_EQ(dismissBox(), u"No Entries"_s);
+    EXPECT_TRUE(user.jobs().isEmpty());
+}
+
+TEST_F(RecordOutput, AListIsDrawnCellByCellWhereOneStringWouldNotKeepItsColumns) {
+    startWith({u"Ann Larkin"_s});
+    exec(
+        u"INSERT INTO AssetLiquidation (Seq, Asset, Directions) VALUES (1, '\u05D1\u05D9\u05EA', '\u05D3\u05D5\u05D3 "
+        "\u05E8\u05DF'), (2, 'Boat', 'Sell it')"_s);
+    user.setPrinter(path(u"list.pdf"_s));
+    openNode(u"AssetLiquidation"_s);
+    user.tool(u"tbPrint"_s);
+    const QJsonArray page = user.jobs()[0][0].toArray();
+    QMap<QString, double> columns;
+    for (const QJsonValue& line : page)
+        columns[line["text"_L1].toString().trimmed()] = line["x"_L1].toDouble();
+    QString plain;
+    for (const QString& text : columns.keys()) {
+        if (text.contains(u"Boat"_s)) plain = text;
+    }
+    ASSERT_TRUE(plain.contains(u"Sell it"_s));
+    EXPECT_EQ(columns[plain], 0);
+    EXPECT_EQ(columns[u"1"_s], 10 * 120);
+    EXPECT_EQ(columns[u"\u05D1\u05D9\u05EA"_s], (10 + plain.indexOf(u"Boat"_s)) * 120);
+    EXPECT_EQ(columns[u"\u05D3\u05D5\u05D3 \u05E8\u05DF"_s], (10 + plain.indexOf(u"Sell it"_s)) * 120);
 }
 
 TEST_F(RecordOutput, ThePlatformsSaveDialogAsksBeforeItReplacesAFile) {

@@ -17,12 +17,14 @@ namespace {
 constexpr int noPrinter = 482;
 constexpr int resolution = 1200;
 /// Points that a household printer can't reach at each edge.
-constexpr double margin = 18;
+constexpr double usualMargin = 18;
 
-const QPageLayout& letter() {
-    static const QPageLayout layout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
-                                    QMarginsF(margin, margin, margin, margin));
-    return layout;
+/// Letter, or what KINBOOK_DRIVE_SHEET asks for: "A4 36" for A4 and a margin of 36 points.
+QPageLayout sheetLayout() {
+    const QByteArrayList words = qgetenv("KINBOOK_DRIVE_SHEET").split(' ');
+    const auto size = words[0] == "A4" ? QPageSize::A4 : QPageSize::Letter;
+    const double margin = words.size() > 1 ? words[1].toDouble() : usualMargin;
+    return {QPageSize(size), QPageLayout::Portrait, QMarginsF(margin, margin, margin, margin)};
 }
 
 QJsonObject described(const platform::PrintedLine& line) {
@@ -58,8 +60,8 @@ QJsonArray WatchedPrinter::takeJobs() {
 
 platform::PageArea WatchedPrinter::page() {
     if (file_.isEmpty()) throw platform::RuntimeError(noPrinter);
-    const QRectF sheet = letter().fullRect(QPageLayout::Point);
-    const QRectF printable = letter().paintRect(QPageLayout::Point);
+    const QRectF sheet = sheetLayout().fullRect(QPageLayout::Point);
+    const QRectF printable = sheetLayout().paintRect(QPageLayout::Point);
     constexpr double twips = 20;
     return {sheet.width() * twips, sheet.height() * twips, printable.width() * twips, printable.height() * twips};
 }
@@ -70,11 +72,12 @@ QString WatchedPrinter::nextFile() {
     return u"%1/%2-%3.pdf"_s.arg(first.path(), first.completeBaseName()).arg(sent_);
 }
 
-void WatchedPrinter::send(const platform::PrintJob& job) {
+void WatchedPrinter::send(const platform::PrintJob& job, const QString& title) {
     if (file_.isEmpty()) throw platform::RuntimeError(noPrinter);
     QPdfWriter writer(nextFile());
     writer.setResolution(resolution);
-    writer.setPageLayout(letter());
+    writer.setTitle(title);
+    writer.setPageLayout(sheetLayout());
     platform::paintJob(writer, job);
     jobs_.push_back(job);
 }

@@ -7,7 +7,8 @@
 
 namespace support {
 
-/// A printer that writes Letter pages into PDF files and keeps what it was sent; none at first.
+/// A printer that writes pages, Letter unless KINBOOK_DRIVE_SHEET tells another sheet, into PDF files and keeps what it
+/// was sent; none at first.
 class WatchedPrinter : public platform::PrintDevice {
 public:
     WatchedPrinter() : place_(*this) {}
@@ -18,7 +19,7 @@ public:
     [[nodiscard]] QJsonArray takeJobs();
 
     [[nodiscard]] platform::PageArea page() override;
-    void send(const platform::PrintJob& job) override;
+    void send(const platform::PrintJob& job, const QString& title) override;
 
 private:
     [[nodiscard]] QString nextFile();
