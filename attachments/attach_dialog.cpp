@@ -27,6 +27,7 @@ namespace {
 constexpr int nameColumn = 0;
 constexpr int pathColumn = 1;
 constexpr int descriptionColumn = 3;
+constexpr int oldNameColumn = 4;
 constexpr int permissionDenied = 70;
 }  // namespace
 
@@ -164,7 +165,8 @@ void AttachDialog::viewFile() {
         return;
     }
     if (!isThere()) return;
-    desktop().openFile(path);
+    // The stored name keeps four characters of the old one: of ".docx" not even the dot.
+    desktop().openFile(path, lvAttach_->selectedText(oldNameColumn));
     lvAttach_->setFocus();
 }
 

@@ -133,8 +133,8 @@ void Desktop::beep() {
     Q_EMIT beeped();
 }
 
-void Desktop::openFile(const QString& path) {
-    openFile_(path);
+void Desktop::openFile(const QString& path, const QString& name) {
+    openFile_(path, name);
     Q_EMIT fileOpened(path);
 }
 

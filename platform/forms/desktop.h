@@ -81,11 +81,12 @@ public:
     void beep();
     void setClipboardText(const QString& text);
     [[nodiscard]] QString clipboardText() const;
-    /// Hands a file to the program that is registered for its kind, which then runs beside this one. Throws what the
-    /// opener throws.
-    void openFile(const QString& path);
+    /// Hands a file to the program that is registered for its kind, which then runs beside this one. `name`: what its
+    /// user calls the file. Throws what the opener throws.
+    void openFile(const QString& path, const QString& name);
+    using FileOpener = std::function<void(const QString& path, const QString& name)>;
     /// Takes the place of what starts that program.
-    void setFileOpener(std::function<void(const QString&)> opener) { openFile_ = std::move(opener); }
+    void setFileOpener(FileOpener opener) { openFile_ = std::move(opener); }
     /// Keeps the program alive to its events for some seconds, while the caller waits.
     void wait(double seconds);
     [[nodiscard]] bool isWaiting() const { return waiting_; }
@@ -106,7 +107,7 @@ private:
     void retire(Form& form);
 
     std::unique_ptr<Dialogs> dialogs_;
-    std::function<void(const QString&)> openFile_;
+    FileOpener openFile_;
     std::vector<std::unique_ptr<Form>> forms_;
     std::unique_ptr<FocusGuard> guard_;
     MdiFrame* host_ = nullptr;

@@ -20,13 +20,15 @@ namespace {
 /// Nothing but the dialog, on the attachments of one record.
 class DialogProgram : public support::Program {
 public:
-    DialogProgram(const QString& folder, bool canEdit) {
+    /// `openedAs`: takes what the files that are opened are called by their user.
+    DialogProgram(const QString& folder, bool canEdit, QStringList& openedAs) : openedAs_(openedAs) {
         session_.applicationFolder = folder;
         session_.gbCanEdit = canEdit;
         session_.gvAttachKey = u"Hom_3_17"_s;
         session_.gConnection.open(folder + u"/FamilyInfo.mdb"_s);
     }
     void main() override {
+        desktop_.setFileOpener([this](const QString&, const QString& name) { openedAs_.append(name); });
         desktop_.load(std::make_unique<AttachDialog>(desktop_, session_, u"Ann Larkin"_s)).showModal();
     }
     [[nodiscard]] platform::Desktop& desktop() override { return desktop_; }
@@ -35,12 +37,13 @@ public:
 private:
     session::Session session_;
     platform::Desktop desktop_;
+    QStringList& openedAs_;
 };
 
 class DialogTest : public testing::Test {
 protected:
     explicit DialogTest(bool canEdit = true)
-        : user([this, canEdit] { return std::make_unique<DialogProgram>(folder.path(), canEdit); }) {}
+        : user([this, canEdit] { return std::make_unique<DialogProgram>(folder.path(), canEdit, openedAs); }) {}
 
     void attach(const QString& name, const QString& description) {
         user.click(u"cmdAdd"_s);
@@ -58,6 +61,7 @@ protected:
     }
 
     ApplicationFolder folder;
+    QStringList openedAs;
     support::User user;
 };
 
@@ -131,13 +135,14 @@ TEST_F(DialogTest, ActsOnNothingInAnEmptyList) {
 TEST_F(DialogTest, ViewsTheFileThatIsThere) {
     user.start();
     attach(u"a.txt"_s, u"first"_s);
-    attach(u"b.txt"_s, u"second"_s);
+    attach(u"b.docx"_s, u"second"_s);
     user.forgetNoises();
     user.select(u"lvAttach"_s, 1);
     user.click(u"cmdView"_s);
     user.popup(u"mnuView"_s);
-    const QString path = folder.stored(u"Hom_3_17_2.txt"_s);
+    const QString path = folder.stored(u"Hom_3_17_2docx"_s);
     EXPECT_EQ(user.state()[u"opened"_s].toArray(), (QJsonArray{path, path}));
+    EXPECT_EQ(openedAs, QStringList({u"b.docx"_s, u"b.docx"_s}));
     QFile::remove(path);
     QDir().mkpath(path);
     for (const QString& button : {u"cmdView"_s, u"cmdCopy"_s}) {

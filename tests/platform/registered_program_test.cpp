@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -15,69 +16,103 @@ using namespace Qt::StringLiterals;
 namespace platform {
 namespace {
 
-/// A desktop of its own, on which a script stands for the program that shows files.
-class RegisteredProgram : public testing::Test {
-protected:
-    RegisteredProgram() {
-        for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS"})
+/// A desktop of its own, "Hearth", for the whole run: its places are read once. One script stands for all its programs
+/// and writes down which of them it was, and the file that it got.
+class Hearth {
+public:
+    Hearth() {
+        const QString kinds =
+            QStandardPaths::locate(QStandardPaths::GenericDataLocation, u"mime"_s, QStandardPaths::LocateDirectory);
+        QFile::link(kinds, at(u"mime"_s));
+        for (const char* variable : {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS"})
             qputenv(variable, folder_.path().toUtf8());
+        qputenv("XDG_CURRENT_DESKTOP", "Hearth");
         QDir(folder_.path()).mkpath(u"applications"_s);
-        write(u"viewer.sh"_s, "#!/bin/sh\nprintf '%s' \"$2\" > \"$1.part\" && mv \"$1.part\" \"$1\"\n");
-        QFile::setPermissions(at(u"viewer.sh"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        write(u"show.sh"_s, "#!/bin/sh\nprintf '%s %s' \"$1\" \"$3\" > \"$2.part\" && mv \"$2.part\" \"$2\"\n");
+        QFile::setPermissions(at(u"show.sh"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        for (const char* program : {"usual", "hearths", "unwanted", "second", "zip"})
+            install(program, at(u"show.sh"_s).toUtf8());
+        install("gone", "/nowhere/gone.sh");
+        associate();
     }
 
     [[nodiscard]] QString at(const QString& name) const { return folder_.filePath(name); }
-    void write(const QString& name, const QByteArray& text) const {
+
+    QString write(const QString& name, const QByteArray& text) const {
         QFile file(at(name));
         if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) throw std::runtime_error("no file");
+        return at(name);
     }
-    void registerFor(const char* kind, const QByteArray& more = {}) const {
-        write(u"applications/viewer.desktop"_s,
-              "[Desktop Entry]\nType=Application\nName=Viewer\nExec=" + at(u"viewer.sh"_s).toUtf8() + ' ' +
-                  at(u"seen"_s).toUtf8() + " %f\n" + more);
-        write(u"mimeapps.list"_s, QByteArray("[Default Applications]\n") + kind + "=gone.desktop;viewer.desktop;\n");
-    }
-    /// What the script was given, once it has run.
+
+    /// What the programs saw last.
     [[nodiscard]] QString seen() const {
         QElapsedTimer timer;
         timer.start();
         while (!QFile::exists(at(u"seen"_s)) && timer.elapsed() < 20000)
             QThread::msleep(10);
         QFile file(at(u"seen"_s));
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        file.remove();
+        return text;
     }
-    [[nodiscard]] static int errorOf(const QString& path) {
-        return test::errorNumber([&] { return openWithRegisteredProgram(path), 0; });
+
+private:
+    void install(const QByteArray& program, const QByteArray& command) const {
+        write(u"applications/"_s + QString::fromUtf8(program) + u".desktop"_s,
+              "[Desktop Entry]\nType=Application\nName=" + program + "\nExec=" + command + ' ' + program + ' ' +
+                  at(u"seen"_s).toUtf8() + " %f\n");
+    }
+
+    void associate() const {
+        write(u"hearth-mimeapps.list"_s, "[Default Applications]\ntext/plain=hearths.desktop\n");
+        write(u"mimeapps.list"_s,
+              "[Default Applications]\ntext/plain=usual.desktop\ntext/csv=gone.desktop\n"
+              "[Removed Associations]\ntext/html=unwanted.desktop\n");
+        write(u"applications/mimeinfo.cache"_s,
+              "[MIME Cache]\ntext/csv=second.desktop;\ntext/html=unwanted.desktop;second.desktop;\n"
+              "application/zip=zip.desktop;\nimage/x-tga=gone.desktop;\n"
+              "application/vnd.openxmlformats-officedocument.wordprocessingml.document=usual.desktop;\n");
     }
 
     QTemporaryDir folder_;
 };
 
-TEST_F(RegisteredProgram, GetsTheFileWhateverItsName) {
-    registerFor("text/plain");
-    const QString name = u"a scan & 'größe' 100%f.txt"_s;
-    write(name, "words");
-    EXPECT_EQ(errorOf(at(name)), 0);
-    EXPECT_EQ(seen(), at(name));
+const Hearth& hearth() {
+    static const Hearth desktop;
+    return desktop;
 }
 
-TEST_F(RegisteredProgram, ShowsMoreSpecialKindsToo) {
-    registerFor("text/plain");
-    write(u"table.csv"_s, "a,b\n");
-    EXPECT_EQ(errorOf(at(u"table.csv"_s)), 0);
-    EXPECT_EQ(seen(), at(u"table.csv"_s));
+int errorOf(const QString& path, const QString& name) {
+    return test::errorNumber([&] { return openWithRegisteredProgram(path, name), 0; });
 }
 
-TEST_F(RegisteredProgram, IsMissedWhereNoneFits) {
-    write(u"a.txt"_s, "words");
-    EXPECT_EQ(errorOf(at(u"gone.txt"_s)), 53);
-    registerFor("application/x-kinbook-other");
-    EXPECT_EQ(errorOf(at(u"a.txt"_s)), 1155);
-    registerFor("text/plain", "Terminal=true\n");
-    EXPECT_EQ(errorOf(at(u"a.txt"_s)), 1155);
-    registerFor("text/plain");
-    QFile::remove(at(u"viewer.sh"_s));
-    EXPECT_EQ(errorOf(at(u"a.txt"_s)), 1155);
+TEST(RegisteredProgram, IsTheOneOfTheDesktopInUseForTheKindOfFile) {
+    const struct {
+        const char* what;
+        QString stored;
+        QString name;
+        QByteArray begins;
+        QString program;
+    } cases[] = {
+        {"the desktop's own default goes before the user's", u"0.txt"_s, u"0.txt"_s, "words", u"hearths"_s},
+        {"names stay as they are", u"a scan & 'größe' 100%f.txt"_s, u"a.txt"_s, "words", u"hearths"_s},
+        {"a default whose program is gone", u"0.csv"_s, u"0.csv"_s, "a,b\n", u"second"_s},
+        {"an association that the user removed", u"0.htm"_s, u"0.htm"_s, "<html>", u"second"_s},
+        {"a more special kind", u"0.log"_s, u"0.log"_s, "words", u"hearths"_s},
+        {"a stored name without its dot", u"Hom_3_17_0docx"_s, u"deed.docx"_s, "PK\3\4", u"usual"_s},
+        {"a name that doesn't tell", u"Hom_3_17_0scan"_s, u"scan"_s, "PK\3\4", u"zip"_s},
+    };
+    for (const auto& [what, stored, name, begins, program] : cases) {
+        const QString path = hearth().write(stored, begins);
+        EXPECT_EQ(errorOf(path, name), 0) << what;
+        EXPECT_EQ(hearth().seen(), program + u' ' + path) << what;
+    }
+}
+
+TEST(RegisteredProgram, IsMissedWhereNoneFits) {
+    EXPECT_EQ(errorOf(hearth().at(u"missing.txt"_s), u"missing.txt"_s), 53);
+    EXPECT_EQ(errorOf(hearth().write(u"0.ogg"_s, "OggS"), u"0.ogg"_s), 1155) << "nothing for the kind";
+    EXPECT_EQ(errorOf(hearth().write(u"0.tga"_s, "words"), u"0.tga"_s), 1155) << "a program that is gone";
 }
 
 }  // namespace

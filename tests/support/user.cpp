@@ -118,7 +118,7 @@ void User::start() {
         desktop.setDialogs(std::move(dialogs));
         QObject::connect(&desktop, &platform::Desktop::beeped, &desktop, [this] { ++beeps_; });
         // The files are counted; their programs would open windows of their own.
-        desktop.setFileOpener([](const QString&) {});
+        desktop.setFileOpener([](const QString&, const QString&) {});
         QObject::connect(&desktop, &platform::Desktop::fileOpened, &desktop,
                          [this](const QString& path) { opened_.append(path); });
         hostSized_ = false;
