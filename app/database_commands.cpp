@@ -184,7 +184,6 @@ void DatabaseCommands::replaceLive(data::BookReplacement& book, const QString& s
 }
 
 void DatabaseCommands::openLive() {
-    session_.gConnection.setCursorLocation(data::CursorLocation::Client);
     session_.gConnection.open(session_.gsDatabasePath);
 }
 

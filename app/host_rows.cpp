@@ -4,11 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace app {
 
-HostRows::HostRows(data::Connection& connection) : connection_(connection) {
-    rsHost_.setLockType(data::LockType::ReadOnly);
-    rsHost_.setCursorType(data::CursorType::ForwardOnly);
-    rsHost_.setCursorLocation(data::CursorLocation::Server);
-}
+HostRows::HostRows(data::Connection& connection) : connection_(connection) {}
 
 qint64 HostRows::count(const QString& counted) {
     const qint64 rows = select(u"SELECT Count(*) as NumRec from "_s + counted).value(u"NumRec"_s).toLongLong();

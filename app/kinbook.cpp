@@ -126,7 +126,6 @@ void Kinbook::tellFinished(data::BookReplacement& book) {
 
 bool Kinbook::openDatabase() {
     data::Connection& connection = session_->gConnection;
-    connection.setCursorLocation(data::CursorLocation::Client);
     try {
         connection.open(live());
         data::checkTables(connection);
@@ -173,7 +172,6 @@ void Kinbook::replaceDatabase(const QString& chosen) {
     if (session_->gConnection.isOpen()) session_->gConnection.close();
     desktop_->unloadAll([](const platform::Form& form) { return form.name() != MDIHost::formName(); });
     data::BookReplacement(live(), attachments()).replaceLostDatabase(chosen);
-    session_->gConnection.setCursorLocation(data::CursorLocation::Client);
     session_->gConnection.open(session_->gsDatabasePath);
     desktop_->notice(u"Your database, "_s + chosenName + u", has been restored as "_s + session_->gsDatabaseName +
                      u", and is ready for use."_s);

@@ -28,7 +28,6 @@ constexpr int nameColumn = 0;
 constexpr int pathColumn = 1;
 constexpr int descriptionColumn = 3;
 constexpr int oldNameColumn = 4;
-constexpr int permissionDenied = 70;
 }  // namespace
 
 AttachDialog::AttachDialog(platform::Desktop& desktop, session::Session& session, const QString& ownerName)
@@ -182,7 +181,7 @@ void AttachDialog::cmdCopy_Click() {
     if (!hasSelection(u"There is no attachment available to copy."_s)) return;
     platform::Desktop::attempt([this] { copySelected(); },
                                [this](const RuntimeError& error) {
-                                   const bool denied = error.number() == permissionDenied;
+                                   const bool denied = error.error() == platform::Error::PermissionDenied;
                                    const QString advice = denied ? u"File may be read only."_s : QString();
                                    desktop().notice(error.report() + advice, u"Error in Copy Process"_s);
                                });

@@ -35,15 +35,12 @@ QString lastCharacters(const QString& name, int count) {
 AttachmentStore::AttachmentStore(data::Connection& connection, const QString& applicationFolder, QString key)
     : connection_(connection),
       folder_(files::join(applicationFolder, u"Attachments"_s) + files::separator()),
-      key_(std::move(key)) {
-    rows_.setCursorLocation(data::CursorLocation::Server);
-}
+      key_(std::move(key)) {}
 
 std::vector<Attachment> AttachmentStore::attachments() {
     std::vector<Attachment> found;
     rows_.release();
-    rows_.open(u"SELECT * from Attachments Where BugNum = '"_s + key_ + u"' Order By SeqNum "_s, connection_,
-               data::CursorType::ForwardOnly, data::LockType::ReadOnly);
+    rows_.open(u"SELECT * from Attachments Where BugNum = '"_s + key_ + u"' Order By SeqNum "_s, connection_);
     for (; !rows_.eof(); rows_.moveNext()) {
         found.push_back({.fileName = rows_.value(u"fileName"_s).toString(),
                          .fileType = rows_.value(u"FileType"_s).toString(),
@@ -81,7 +78,7 @@ Attachment AttachmentStore::storeFile(const QString& source) {
 
 int AttachmentStore::highestSeqNum() {
     if (number(u"SELECT Count(*) as Ctr from Attachments Where BugNum = '"_s + key_ + u"'"_s) == 0) return 0;
-    return number(u"SELECT Top 1 SeqNum from Attachments Where BugNum = '"_s + key_ + u"' Order by SeqNum desc"_s);
+    return number(u"SELECT SeqNum from Attachments Where BugNum = '"_s + key_ + u"' Order by SeqNum desc Limit 1"_s);
 }
 
 QString AttachmentStore::freeName(int number, const QString& source) {
@@ -118,19 +115,17 @@ void AttachmentStore::addRow(const Attachment& attachment) {
 }
 
 void AttachmentStore::insertRow(const Attachment& attachment) {
-    rows_.release();
-    rows_.open(u"SELECT * from Attachments Where 1=2"_s, connection_, data::CursorType::Keyset,
-               data::LockType::Pessimistic);
-    rows_.addNew();
-    rows_.setValue(u"fileName"_s, attachment.fileName);
-    rows_.setValue(u"filePath"_s, folder_);
-    rows_.setValue(u"FileType"_s, attachment.fileType);
-    rows_.setValue(u"fileDesc"_s, attachment.fileDesc);
-    rows_.setValue(u"OldFileName"_s, attachment.oldFileName);
-    rows_.setValue(u"BugNum"_s, key_);
-    rows_.setValue(u"SeqNum"_s, attachment.seqNum);
-    rows_.update();
-    rows_.close();
+    data::Recordset row(data::Opening::List);
+    row.open(u"SELECT * from Attachments Where 1=2"_s, connection_);
+    row.addNew();
+    row.setValue(u"fileName"_s, attachment.fileName);
+    row.setValue(u"filePath"_s, folder_);
+    row.setValue(u"FileType"_s, attachment.fileType);
+    row.setValue(u"fileDesc"_s, attachment.fileDesc);
+    row.setValue(u"OldFileName"_s, attachment.oldFileName);
+    row.setValue(u"BugNum"_s, key_);
+    row.setValue(u"SeqNum"_s, attachment.seqNum);
+    row.update();
 }
 
 std::optional<bool> AttachmentStore::hasRow(const QString& fileName) {
@@ -138,7 +133,7 @@ std::optional<bool> AttachmentStore::hasRow(const QString& fileName) {
         return rowsNaming(fileName) > 0;
     } catch (const platform::RuntimeError& failure) {
         rows_.release();
-        if (failure.number() == static_cast<int>(data::ProviderError::MissingTable)) return false;
+        if (failure.error() == platform::Error::MissingTable) return false;
         return std::nullopt;
     }
 }
@@ -156,7 +151,7 @@ void AttachmentStore::discard(const QString& fileName) const noexcept {
 
 void AttachmentStore::remove(const QString& fileName) {
     deleteStoredFile(fileName);
-    execute(u"Delete *from Attachments Where FileName = '"_s + inStatement(fileName) + u"'"_s);
+    execute(u"Delete from Attachments Where FileName = '"_s + inStatement(fileName) + u"'"_s);
 }
 
 bool AttachmentStore::isStored(const QString& fileName) const {
@@ -179,7 +174,7 @@ void AttachmentStore::setDescription(const QString& fileName, const QString& des
 
 int AttachmentStore::number(const QString& statement) {
     rows_.release();
-    rows_.open(statement, connection_, data::CursorType::ForwardOnly, data::LockType::ReadOnly);
+    rows_.open(statement, connection_);
     const int value = rows_.value(rows_.fieldNames().constFirst()).toInt();
     rows_.close();
     return value;

@@ -98,7 +98,7 @@ int main() {
     long extra = 0;
     for (int round = 0; round < rounds; ++round) {
         cp.take([&] { copyAll(live, copy); });
-        files::deleteFolder(copy, true);
+        files::deleteFolder(copy);
         synced.take([&] {
             copyAll(live, copy);
             ::sync();
@@ -108,8 +108,8 @@ int main() {
             copyAll(live, copy);
             ::sync();
         });
-        files::deleteFolder(copy, true);
-        if (round > 0) files::deleteFolder(data::companionFolder(backup), true);
+        files::deleteFolder(copy);
+        if (round > 0) files::deleteFolder(data::companionFolder(backup));
         const long before = peakKilobytes();
         backingUp.take([&] { backUp(live, backup); });
         restoring.take([&] { restore(backup, live); });

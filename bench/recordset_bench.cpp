@@ -113,8 +113,7 @@ bool report(const char* what, double ours, double raw, double limit, const char*
 
 void openHomes(data::Recordset& rows, data::Connection& connection) {
     rows.release();
-    rows.open(u"SELECT HomeOwned.* "_s + QString::fromUtf8(homes), connection, data::CursorType::Static,
-              data::LockType::Optimistic);
+    rows.open(u"SELECT HomeOwned.* "_s + QString::fromUtf8(homes), connection);
 }
 
 bool measureOpen(data::Recordset& rows, data::Connection& connection, RawFile& raw) {
@@ -155,9 +154,8 @@ int main() {
     RawFile raw(path);
     raw.fill();
     data::Connection connection;
-    connection.setCursorLocation(data::CursorLocation::Client);
     connection.open(path);
-    data::Recordset rows;
+    data::Recordset rows(data::Opening::Screen);
     bool ok = measureOpen(rows, connection, raw);
     ok &= measureMoves(rows, raw);
     ok &= measureMemory(rows, connection);

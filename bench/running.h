@@ -60,7 +60,6 @@ public:
         data::createTemplate(path);
         fill(path, homes, rowsElsewhere);
         session.applicationFolder = folder_.path();
-        session.gConnection.setCursorLocation(data::CursorLocation::Client);
         session.gConnection.open(path);
         host = &desktop.load(std::make_unique<app::MDIHost>(desktop, session));
         host->resize(1200, 800);

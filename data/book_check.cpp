@@ -20,11 +20,10 @@ namespace files = platform::files;
 
 namespace data {
 
+using platform::Error;
 using platform::RuntimeError;
 
 namespace {
-
-constexpr int permissionDenied = 70;
 
 /// Files of this program bear this number; one that changes the tables will count up.
 constexpr int fileVersion = 0;
@@ -38,7 +37,7 @@ class Header {
 public:
     explicit Header(const QString& path) {
         QFile file(path);
-        if (!file.open(QIODevice::ReadOnly)) throw RuntimeError(permissionDenied);
+        if (!file.open(QIODevice::ReadOnly)) throw RuntimeError(Error::PermissionDenied);
         bytes_ = file.read(length);
     }
 

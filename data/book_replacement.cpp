@@ -15,11 +15,10 @@ namespace files = platform::files;
 
 namespace data {
 
+using platform::Error;
 using platform::RuntimeError;
 
 namespace {
-
-constexpr int permissionDenied = 70;
 
 QString placeOf(const QString& live) {
     const QFileInfo info(live);
@@ -70,16 +69,16 @@ BookReplacement::BookReplacement(const QString& live, QString attachments)
     : place_(placeOf(live)), attachments_(std::move(attachments)), claim_(QFileInfo(place_).absolutePath()) {}
 
 void BookReplacement::requireClaim() const {
-    if (!isClaimed()) throw RuntimeError(permissionDenied);
+    if (!isClaimed()) throw RuntimeError(Error::PermissionDenied);
 }
 
 // Database ---------------------------------------------------------------------------------------------------------
 
 void BookReplacement::replaceDatabase(const QString& source, const QString& companion) {
     requireClaim();
-    if (files::isSameFile(source, place_)) throw RuntimeError(permissionDenied);
+    if (files::isSameFile(source, place_)) throw RuntimeError(Error::PermissionDenied);
     checkDatabase(source);
-    if (files::fileExists(place_) && files::isReadOnly(place_)) throw RuntimeError(permissionDenied);
+    if (files::fileExists(place_) && files::isReadOnly(place_)) throw RuntimeError(Error::PermissionDenied);
     const Unless successorGoes([this] { QFile::remove(successor()); });
     copyCheckedToSuccessor(source, place_);
     // A note without a successor says that the new file has its place: the note is the first to go.
@@ -92,7 +91,7 @@ void BookReplacement::replaceDatabase(const QString& source, const QString& comp
 
 void BookReplacement::replaceLostDatabase(const QString& source) {
     requireClaim();
-    if (files::isSameFile(source, place_)) throw RuntimeError(permissionDenied);
+    if (files::isSameFile(source, place_)) throw RuntimeError(Error::PermissionDenied);
     checkDatabase(source);
     const Unless successorGoes([this] { QFile::remove(successor()); });
     copyCheckedToSuccessor(source, place_);
@@ -162,7 +161,7 @@ void BookReplacement::replaceAttachments() {
     const Unless over([this] { discardNote(); });
     const QString from = companion();
     files::makeFolder(attachments_);
-    if (!from.isEmpty() && !files::folderExists(from)) throw RuntimeError(76);
+    if (!from.isEmpty() && !files::folderExists(from)) throw RuntimeError(Error::PathNotFound);
     emptyFolder(attachments_);
     if (!from.isEmpty() && !files::entriesOf(from).files.isEmpty()) files::copyAllFiles(from, attachments_);
 }
@@ -179,7 +178,7 @@ void BookReplacement::discardRemains() const {
 
 void emptyFolder(const QString& folder) {
     if (!files::folderExists(folder)) return;
-    if (!files::entriesOf(folder).files.isEmpty()) files::deleteAllFiles(folder, true);
+    if (!files::entriesOf(folder).files.isEmpty()) files::deleteAllFiles(folder);
 }
 
 }  // namespace data

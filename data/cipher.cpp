@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace data {
 
 QString cipher(const QString& text, const QString& key) {
-    if (key.isEmpty() && !text.isEmpty()) throw platform::RuntimeError(5);
+    if (key.isEmpty() && !text.isEmpty()) throw platform::RuntimeError(platform::Error::InvalidCall);
     const QByteArray keyBytes = platform::toWindows1252(key);
     QByteArray bytes = platform::toWindows1252(text);
     for (qsizetype i = 0; i < bytes.size(); ++i) {

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "data/file_text.h"
-#include "data/provider_error.h"
 #include "data/value_text.h"
+#include "platform/base/runtime_error.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ using platform::ColumnKind;
 namespace {
 
 [[noreturn]] void doesNotFit() {
-    throw providerError(ProviderError::DoesNotFit);
+    throw platform::RuntimeError(platform::Error::DoesNotFit);
 }
 
 int lengthIn(const QString& declaration) {
@@ -45,7 +45,7 @@ double numberOf(const QVariant& value) {
     if (value.typeId() == QMetaType::Bool) return value.toBool() ? -1 : 0;
     bool ok = false;
     const double number = value.toDouble(&ok);
-    return ok ? number : throw providerError(ProviderError::DoesNotFit);
+    return ok ? number : throw platform::RuntimeError(platform::Error::DoesNotFit);
 }
 
 /// Halves go to the even neighbour, as everywhere a fraction meets a whole number.

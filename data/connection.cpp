@@ -15,6 +15,7 @@ namespace files = platform::files;
 
 namespace data {
 
+using platform::Error;
 using platform::RuntimeError;
 
 namespace {
@@ -73,16 +74,8 @@ Connection::~Connection() {
     close();
 }
 
-void Connection::setCursorLocation(CursorLocation location) {
-    d_->location = location;
-}
-
-CursorLocation Connection::cursorLocation() const {
-    return d_->location;
-}
-
 void Connection::open(const QString& path) {
-    if (isOpen()) throw RuntimeError(3705);
+    if (isOpen()) throw RuntimeError(Error::Open);
     refuseWhatIsNoFile(path);
     d_->database = openDatabase(path);
     d_->path = path;
@@ -101,7 +94,7 @@ bool Connection::isOpen() const {
 }
 
 bool Connection::isReadOnly() const {
-    if (!isOpen()) throw RuntimeError(3709);
+    if (!isOpen()) throw RuntimeError(Error::NoConnection);
     if (sqlite3_db_readonly(d_->database->getHandle(), "main") == 1) return true;
     // Each save begins with a journal beside the file.
     return !files::mayChange(QFileInfo(QFileInfo(d_->path).canonicalFilePath()).absolutePath());
@@ -112,7 +105,7 @@ QString Connection::path() const {
 }
 
 std::vector<QString> Connection::tableNames() const {
-    if (!isOpen()) throw RuntimeError(3709);
+    if (!isOpen()) throw RuntimeError(Error::NoConnection);
     // Tables whose names begin "MSys" count as system tables, which come before the user's.
     const char* statement =
         "SELECT name FROM sqlite_schema WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "

@@ -8,8 +8,6 @@ namespace data {
 
 class Recordset;
 
-enum class CursorLocation { Server = 2, Client = 3 };
-
 /// The one open database file of the run.
 class Connection {
 public:
@@ -19,8 +17,6 @@ public:
     Connection& operator=(const Connection&) = delete;
 
     /// Default for the recordsets opened here that set no location of their own.
-    void setCursorLocation(CursorLocation location);
-    [[nodiscard]] CursorLocation cursorLocation() const;
 
     /// Opens an existing file for reading and writing, or for reading where no more is allowed; never makes one. Throws
     /// RuntimeError -2147467259 with the provider's words: NoDatabase for a missing, empty, truncated or foreign file,

@@ -17,7 +17,6 @@ class KeyedRows;
 struct Connection::Private {
     std::unique_ptr<SQLite::Database> database;
     QString path;
-    CursorLocation location = CursorLocation::Server;
     std::vector<Recordset*> recordsets;
     /// Snapshots that want to know of a row before it is changed or deleted.
     std::vector<KeyedRows*> snapshots;

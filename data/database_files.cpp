@@ -10,19 +10,15 @@ namespace files = platform::files;
 
 namespace data {
 
+using platform::Error;
 using platform::RuntimeError;
 
-namespace {
-
-constexpr int overflow = 6;
-constexpr int permissionDenied = 70;
-
-}  // namespace
+namespace {}  // namespace
 
 QString companionFolder(const QString& databasePath) {
     const qsizetype nameAt = databasePath.lastIndexOf(files::separator()) + 1;
     const qsizetype dot = databasePath.lastIndexOf(u'.');
-    if (dot < nameAt) throw RuntimeError(overflow);
+    if (dot < nameAt) throw RuntimeError(Error::Overflow);
     return databasePath.first(dot) + u"Attachments"_s;
 }
 
@@ -31,7 +27,7 @@ double kilobytes(qint64 bytes) {
 }
 
 void requireApart(const QString& folder, const QString& other) {
-    if (files::isWithin(folder, other) || files::isWithin(other, folder)) throw RuntimeError(permissionDenied);
+    if (files::isWithin(folder, other) || files::isWithin(other, folder)) throw RuntimeError(Error::PermissionDenied);
 }
 
 }  // namespace data

@@ -171,7 +171,7 @@ void KeyedRows::update(int row, const StoredChanges& changes, const StoredRow& o
     values.insert(values.end(), oldValues.begin(), oldValues.end());
     const QString statement = u"UPDATE %1 SET "_s.arg(quotedName(table_.name)) + settings.join(u", "_s) + u" WHERE "_s +
                               conditions.join(u" AND "_s);
-    if (write(statement, values) == 0) throw providerError(ProviderError::RowChanged);
+    if (write(statement, values) == 0) throw platform::RuntimeError(platform::Error::RowChanged);
     if (const auto kept = aside_.find(keys_[static_cast<size_t>(row)]); kept != aside_.end())
         for (const auto& [column, value] : changes)
             kept->second[static_cast<size_t>(column)] = value;
@@ -193,7 +193,8 @@ void KeyedRows::fillInKey(int row, StoredRow& values) const {
 
 void KeyedRows::remove(int row) {
     const QString statement = u"DELETE FROM %1 WHERE rowid = ?"_s.arg(quotedName(table_.name));
-    if (write(statement, {keys_[static_cast<size_t>(row)]}) == 0) throw providerError(ProviderError::RowChanged);
+    if (write(statement, {keys_[static_cast<size_t>(row)]}) == 0)
+        throw platform::RuntimeError(platform::Error::RowChanged);
 }
 
 void KeyedRows::keep(const char* table, qint64 key, const std::function<QVariant(int)>& oldValue) {

@@ -28,24 +28,21 @@ void encipherFile(const QString& path) {
 
 bool hasPlainPins(Connection& connection) {
     Recordset plain;
-    plain.setCursorLocation(CursorLocation::Server);
-    plain.open(u"Select ID from PIN_Password where Encrypted = '%1'"_s.arg(plainMark()), connection,
-               CursorType::ForwardOnly, LockType::ReadOnly);
+    plain.open(u"Select ID from PIN_Password where Encrypted = '%1'"_s.arg(plainMark()), connection);
     return !plain.eof();
 }
 
 void encipherPins(Connection& connection, std::optional<qint16> member) {
-    Recordset rows;
-    rows.setCursorLocation(CursorLocation::Client);
+    Recordset rows(Opening::List);
     const QString whose = member ? u" where PersonID = %1"_s.arg(*member) : QString();
-    rows.open(u"Select * from PIN_Password"_s + whose, connection, CursorType::Keyset, LockType::Optimistic);
+    rows.open(u"Select * from PIN_Password"_s + whose, connection);
     for (; !rows.eof(); rows.moveNext())
         encipherRow(rows);
 }
 
 qint64 backUpDatabase(const QString& source, const QString& target) {
     qint64 bytes = 0;
-    files::copyFile(source, target, {}, [&bytes](const QString& copy) {
+    files::copyFile(source, target, [&bytes](const QString& copy) {
         encipherFile(copy);
         bytes = files::fileSize(copy);
     });

@@ -12,44 +12,21 @@ using namespace Qt::StringLiterals;
 
 namespace data {
 
+using platform::Error;
 using platform::RuntimeError;
 
 namespace {
 
-QString standingWords(ProviderError number) {
-    switch (number) {
-        case ProviderError::BookmarkInvalid:
-            return u"Bookmark is invalid."_s;
-        case ProviderError::MissingParameter:
-            return u"No value given for one or more required parameters."_s;
-        case ProviderError::DoesNotFit:
-            return u"Multiple-step operation generated errors. Check each status value."_s;
-        case ProviderError::RowDeleted:
-            return u"Row handle referred to a deleted row or a row marked for deletion."_s;
-        case ProviderError::NoFetchBackward:
-            return u"Rowset does not support fetching backward."_s;
-        case ProviderError::Duplicate:
-            return u"The changes you requested to the table were not successful because they would create duplicate "
-                   "values in the index, primary key, or relationship.  Change the data in the field or fields that "
-                   "contain duplicate data, remove the index, or redefine the index to permit duplicate entries and "
-                   "try again."_s;
-        case ProviderError::RowChanged:
-            return u"Row cannot be located for updating. Some values may have been changed since it was last read."_s;
-        default:
-            return {};
-    }
-}
-
 RuntimeError fullDisk() {
-    return providerError(ProviderError::Failed, u"There is not enough space on the disk."_s);
+    return {Error::Failed, u"There is not enough space on the disk."_s};
 }
 
 RuntimeError readOnly() {
-    return providerError(ProviderError::Failed, u"Operation must use an updateable query."_s);
+    return {Error::Failed, u"Operation must use an updateable query."_s};
 }
 
 RuntimeError fileInUse(const QString& path) {
-    return providerError(ProviderError::Failed, u"Could not use '%1'; file already in use."_s.arg(path));
+    return {Error::Failed, u"Could not use '%1'; file already in use."_s.arg(path)};
 }
 
 QString unrecognizedWords(const QString& path) {
@@ -57,10 +34,8 @@ QString unrecognizedWords(const QString& path) {
 }
 
 RuntimeError cantOpen(const QString& path) {
-    if (platform::files::mayRead(path))
-        return providerError(ProviderError::Failed, u"Could not open '%1'."_s.arg(path));
-    return providerError(ProviderError::Failed,
-                         u"Could not open '%1'; you do not have permission to read it."_s.arg(path));
+    if (platform::files::mayRead(path)) return {Error::Failed, u"Could not open '%1'."_s.arg(path)};
+    return {Error::Failed, u"Could not open '%1'; you do not have permission to read it."_s.arg(path)};
 }
 
 bool meansNoRoom(int systemError) {
@@ -78,9 +53,9 @@ bool isFullDisk(const SQLite::Exception& cause, SQLite::Database& database) {
 }
 
 RuntimeError missingTable(const QString& name) {
-    return providerError(ProviderError::MissingTable,
-                         u"The Microsoft Jet database engine cannot find the input table or query '%1'.  Make sure it "
-                         "exists and that its name is spelled correctly."_s.arg(name));
+    return {Error::MissingTable,
+            u"The database engine cannot find the input table or query '%1'.  Make sure it "
+            "exists and that its name is spelled correctly."_s.arg(name)};
 }
 
 /// Where the parser stopped, in characters of the statement; -1 at its end.
@@ -94,31 +69,23 @@ RuntimeError textError(const SQLite::Exception& cause, SQLite::Database& databas
     const QString message = QString::fromUtf8(cause.what());
     if (message.startsWith(u"no such table: "_s)) return missingTable(message.section(u": "_s, 1));
     if (message.startsWith(u"no such column"_s) || message.contains(u"has no column named"_s))
-        return providerError(ProviderError::MissingParameter);
+        return RuntimeError(Error::MissingParameter);
     const bool isSyntax = message.contains(u"syntax error"_s) || message.startsWith(u"unrecognized token"_s) ||
                           message.startsWith(u"incomplete input"_s) || message.startsWith(u"row value misused"_s);
-    if (isSyntax) return providerError(ProviderError::Syntax, syntaxWords(statement, message, offset));
+    if (isSyntax) return {Error::Syntax, syntaxWords(statement, message, offset)};
     if (message.startsWith(u"cannot modify "_s) && message.endsWith(u" because it is a view"_s)) return readOnly();
-    return providerError(ProviderError::Syntax, message);
+    return {Error::Syntax, message};
 }
 
 RuntimeError constraintError(int extended) {
     const bool isDuplicate = extended == SQLITE_CONSTRAINT_UNIQUE || extended == SQLITE_CONSTRAINT_PRIMARYKEY ||
                              extended == SQLITE_CONSTRAINT_ROWID;
-    return providerError(isDuplicate ? ProviderError::Duplicate : ProviderError::DoesNotFit);
+    return RuntimeError(isDuplicate ? Error::Duplicate : Error::DoesNotFit);
 }
 
 }  // namespace
 
-NoDatabase::NoDatabase(const QString& words) : RuntimeError(static_cast<int>(ProviderError::Failed), words) {}
-
-RuntimeError providerError(ProviderError number, const QString& words) {
-    return RuntimeError(static_cast<int>(number), words);
-}
-
-RuntimeError providerError(ProviderError number) {
-    return providerError(number, standingWords(number));
-}
+NoDatabase::NoDatabase(const QString& words) : RuntimeError(Error::Failed, words) {}
 
 RuntimeError statementError(const SQLite::Exception& cause, SQLite::Database& database, const QString& statement) {
     const QString path = QString::fromStdString(database.getFilename());
@@ -137,11 +104,11 @@ RuntimeError statementError(const SQLite::Exception& cause, SQLite::Database& da
             return readOnly();
         case SQLITE_CORRUPT:
         case SQLITE_NOTADB:
-            return providerError(ProviderError::Failed, unrecognizedWords(path));
+            return {Error::Failed, unrecognizedWords(path)};
         case SQLITE_IOERR:
-            return providerError(ProviderError::Failed, u"Disk or network error."_s);
+            return {Error::Failed, u"Disk or network error."_s};
         default:
-            return providerError(ProviderError::Failed, QString::fromUtf8(cause.what()));
+            return RuntimeError(Error::Failed, QString::fromUtf8(cause.what()));
     }
 }
 
@@ -161,9 +128,9 @@ void throwOpeningError(const SQLite::Exception& cause, const QString& path) {
         case SQLITE_READONLY:
             throw readOnly();
         case SQLITE_IOERR:
-            throw providerError(ProviderError::Failed, u"Disk or network error."_s);
+            throw RuntimeError(Error::Failed, u"Disk or network error."_s);
         default:
-            throw providerError(ProviderError::Failed, QString::fromUtf8(cause.what()));
+            throw RuntimeError(Error::Failed, QString::fromUtf8(cause.what()));
     }
 }
 

@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace data {
 
 using platform::ColumnKind;
+using platform::Error;
 using platform::RuntimeError;
 
 namespace {
@@ -36,11 +37,11 @@ ColumnKind kindOf(const QVariant& stored) {
 
 }  // namespace
 
-/// Settings that outlive the set, and the set while it is open.
+/// How sets are opened, and the set while it is open.
 struct Recordset::Private {
-    std::optional<CursorLocation> location;
-    CursorType type = CursorType::ForwardOnly;
-    LockType lock = LockType::ReadOnly;
+    explicit Private(Opening how) : opening(how) {}
+
+    const Opening opening;
 
     Connection::Private* connection = nullptr;  // null while closed
     QString statement;
@@ -76,23 +77,23 @@ struct Recordset::Private {
 };
 
 void Recordset::Private::requireOpen() const {
-    if (connection == nullptr) throw RuntimeError(3704);
+    if (connection == nullptr) throw RuntimeError(Error::Closed);
 }
 
 void Recordset::Private::requireWritable() const {
     requireOpen();
-    if (writable == nullptr || lock == LockType::ReadOnly) throw RuntimeError(3251);
+    if (writable == nullptr) throw RuntimeError(Error::NotUpdatable);
 }
 
 void Recordset::Private::requireNoChange() const {
     requireOpen();
-    if (hasPending()) throw RuntimeError(3219);
+    if (hasPending()) throw RuntimeError(Error::NotInThisContext);
 }
 
 void Recordset::Private::requireRow() const {
     const bool onRow = stream ? stream->current().has_value() : position.onRow();
-    if (!onRow) throw RuntimeError(3021);
-    if (!stream && !current) throw providerError(ProviderError::RowDeleted);
+    if (!onRow) throw RuntimeError(Error::NoCurrentRecord);
+    if (!stream && !current) throw RuntimeError(Error::RowDeleted);
 }
 
 const std::vector<ShownColumn>& Recordset::Private::columns() const {
@@ -109,7 +110,7 @@ int Recordset::Private::columnNumber(const QString& name) const {
         found = std::ranges::find_if(
             all, [&name](const ShownColumn& column) { return column.name.compare(name, Qt::CaseInsensitive) == 0; });
     }
-    if (found == all.end()) throw RuntimeError(3265);
+    if (found == all.end()) throw RuntimeError(Error::NoSuchItem);
     return static_cast<int>(found - all.begin());
 }
 
@@ -119,9 +120,8 @@ QVariant Recordset::Private::stored(int column) const {
     return row->at(static_cast<size_t>(column));
 }
 
-/// A client cursor always fetches: only a server cursor can be forward-only.
 bool Recordset::Private::streams() const {
-    return type == CursorType::ForwardOnly && location.value_or(connection->location) == CursorLocation::Server;
+    return opening == Opening::LookUp;
 }
 
 /// False for a statement that returns no rows; it has then been carried out.
@@ -169,13 +169,13 @@ void Recordset::Private::stand(const RowPosition& target) {
 }
 
 void Recordset::Private::advanceStream() {
-    if (!stream->current()) throw RuntimeError(3021);
+    if (!stream->current()) throw RuntimeError(Error::NoCurrentRecord);
     stream->next();
     position = stream->current() ? RowPosition(1) : RowPosition::behindLast();
 }
 
 void Recordset::Private::restartStream() {
-    if (position.bof() && position.eof()) throw RuntimeError(3021);
+    if (position.bof() && position.eof()) throw RuntimeError(Error::NoCurrentRecord);
     load(*connection, statement);
 }
 
@@ -213,27 +213,15 @@ void Recordset::Private::forget() {
     pending.clear();
 }
 
-Recordset::Recordset(QObject* parent) : RowSource(parent), d_(std::make_unique<Private>()) {}
+Recordset::Recordset(Opening opening) : d_(std::make_unique<Private>(opening)) {}
 
 Recordset::~Recordset() {
     if (isOpen()) std::erase(d_->connection->recordsets, this);
 }
 
-void Recordset::setCursorLocation(CursorLocation location) {
-    d_->location = location;
-}
-
-void Recordset::setCursorType(CursorType type) {
-    d_->type = type;
-}
-
-void Recordset::setLockType(LockType type) {
-    d_->lock = type;
-}
-
 void Recordset::open(const QString& statement, Connection& connection) {
-    if (isOpen()) throw RuntimeError(3705);
-    if (!connection.isOpen()) throw RuntimeError(3709);
+    if (isOpen()) throw RuntimeError(Error::Open);
+    if (!connection.isOpen()) throw RuntimeError(Error::NoConnection);
     auto& from = connection.handle();
     d_->connection = &from;
     auto undo = qScopeGuard([this] { d_->forget(); });
@@ -242,13 +230,6 @@ void Recordset::open(const QString& statement, Connection& connection) {
     undo.dismiss();
     from.recordsets.push_back(this);
     announceRow();
-}
-
-void Recordset::open(const QString& statement, Connection& connection, CursorType type, LockType lock) {
-    if (isOpen()) throw RuntimeError(3705);
-    d_->type = type;
-    d_->lock = lock;
-    open(statement, connection);
 }
 
 void Recordset::close() {
@@ -289,7 +270,7 @@ int Recordset::absolutePosition() const {
 
 double Recordset::bookmark() const {
     d_->requireOpen();
-    if (d_->stream) throw RuntimeError(3251);
+    if (d_->stream) throw RuntimeError(Error::NotUpdatable);
     d_->requireRow();
     return d_->position.row() + 1;
 }
@@ -328,7 +309,7 @@ void Recordset::moveNext() {
 /// A move within the fetched rows, which a stream doesn't have.
 void Recordset::move(const std::function<void(RowPosition&)>& step) {
     travel([this, &step] {
-        if (d_->stream) throw providerError(ProviderError::NoFetchBackward);
+        if (d_->stream) throw RuntimeError(Error::NoFetchBackward);
         RowPosition target = d_->position;
         step(target);
         d_->stand(target);
@@ -351,7 +332,7 @@ void Recordset::travel(const std::function<void()>& journey) {
 
 /// Who is told of a move may read, but not move: it would take the ground from under the move that is being told.
 void Recordset::refuseInsideHandler() const {
-    if (d_->isAnnouncing) throw RuntimeError(3219);
+    if (d_->isAnnouncing) throw RuntimeError(Error::NotInThisContext);
 }
 
 void Recordset::announceMove() {
@@ -428,7 +409,7 @@ void Recordset::cancelUpdate() {
 void Recordset::deleteCurrent() {
     d_->requireWritable();
     d_->requireRow();
-    if (d_->mode == EditMode::Add) throw RuntimeError(3219);
+    if (d_->mode == EditMode::Add) throw RuntimeError(Error::NotInThisContext);
     Q_EMIT willChangeRecord();
     d_->writable->remove(d_->position.row());
     d_->pending.clear();

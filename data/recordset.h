@@ -13,13 +13,17 @@ namespace data {
 
 class RowPosition;
 
-enum class CursorType { ForwardOnly = 0, Keyset = 1, Static = 3 };
-enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
+/// The ways in which rows are opened.
+enum class Opening {
+    LookUp,  ///< a server cursor, forward-only and read-only: for look-ups, counts, and statements without rows
+    Screen,  ///< a client cursor, static, with an optimistic lock: for the rows of a record screen
+    List,  ///< a client cursor, by keyset, with an optimistic lock: for the rows of a list, and rows written beside it
+};
 enum class EditMode { None = 0, InProgress = 1, Add = 2, Deleted = 4 };
 
 /// The rows of one statement, one of them current.
 ///
-/// Only a server cursor of the forward-only type streams. Every other recordset takes the keys of its rows at open()
+/// A look-up streams and can't be written. Every other recordset takes the keys of its rows at open()
 /// and reads a row when it is reached; which rows there are and what they hold stays as it was then, whatever other
 /// statements of the connection do, until requery(). Only selects over one table, or over the columns of one table of
 /// a join (`SELECT X.* FROM ..`), can be written; the rows of any other select are fetched whole at open().
@@ -30,17 +34,12 @@ class Recordset : public platform::RowSource {
     Q_OBJECT
 
 public:
-    explicit Recordset(QObject* parent = nullptr);
+    explicit Recordset(Opening opening = Opening::LookUp);
     ~Recordset() override;
 
-    void setCursorLocation(CursorLocation location);
-    void setCursorType(CursorType type);
-    void setLockType(LockType type);
-
-    /// Runs the statement with the settings made before. One that returns no rows is carried out and leaves the
-    /// recordset closed. Throws 3705 when open, 3709 on a closed connection, and the provider's errors.
+    /// Runs the statement. One that returns no rows is carried out and leaves the recordset closed. Throws 3705 when
+    /// open, 3709 on a closed connection, and the provider's errors.
     void open(const QString& statement, Connection& connection);
-    void open(const QString& statement, Connection& connection, CursorType type, LockType lock);
     /// Throws 3704 when closed, 3219 while a change is pending.
     void close();
     /// Closes if open, and drops a pending change: what every routine does before it uses a recordset again.

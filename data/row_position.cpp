@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
-#include "data/provider_error.h"
+#include "platform/base/runtime_error.h"
 
 namespace data {
 
+using platform::Error;
 using platform::RuntimeError;
 
 RowPosition::RowPosition(int rows) : rows_(rows), bof_(rows == 0), eof_(rows == 0) {}
@@ -17,27 +18,27 @@ RowPosition RowPosition::behindLast() {
 }
 
 void RowPosition::first() {
-    if (bof_ && eof_) throw RuntimeError(3021);
+    if (bof_ && eof_) throw RuntimeError(Error::NoCurrentRecord);
     seek(0, 1);
 }
 
 void RowPosition::last() {
-    if (bof_ && eof_) throw RuntimeError(3021);
+    if (bof_ && eof_) throw RuntimeError(Error::NoCurrentRecord);
     seek(rows_ - 1, -1);
 }
 
 void RowPosition::next() {
-    if (eof_) throw RuntimeError(3021);
+    if (eof_) throw RuntimeError(Error::NoCurrentRecord);
     seek(bof_ ? 0 : row_ + 1, 1);
 }
 
 void RowPosition::previous() {
-    if (bof_) throw RuntimeError(3021);
+    if (bof_) throw RuntimeError(Error::NoCurrentRecord);
     seek(eof_ ? rows_ - 1 : row_ - 1, -1);
 }
 
 void RowPosition::to(int row) {
-    if (row < 0 || row >= rows_ || isRemoved(row)) throw providerError(ProviderError::BookmarkInvalid);
+    if (row < 0 || row >= rows_ || isRemoved(row)) throw RuntimeError(Error::BookmarkInvalid);
     row_ = row;
     bof_ = eof_ = false;
 }

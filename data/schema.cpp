@@ -47,7 +47,7 @@ QString quoted(const std::vector<QLatin1StringView>& names) {
 }
 
 /// Text compares and sorts without case, also for other programs that read the file.
-QString declaredType(const Column& column) {
+QString declarationOf(const Column& column) {
     switch (column.kind) {
         case FieldKind::Text:
         case FieldKind::City:
@@ -74,7 +74,7 @@ QString declaration(const Column& column) {
     // record must never be given to a new one.
     if (column.name == counterName) return quoted(column.name) + " INTEGER PRIMARY KEY AUTOINCREMENT"_L1;
     const bool zero = column.kind == FieldKind::YesNo || column.initially == Initially::Zero;
-    return quoted(column.name) + u' ' + declaredType(column) + (zero ? " DEFAULT 0"_L1 : ""_L1);
+    return quoted(column.name) + u' ' + declarationOf(column) + (zero ? " DEFAULT 0"_L1 : ""_L1);
 }
 
 struct Lookup {

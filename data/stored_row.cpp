@@ -7,7 +7,9 @@
 
 namespace data {
 
-QVariant storedValue(const SQLite::Statement& statement, int column) {
+namespace {
+
+QVariant valueAt(const SQLite::Statement& statement, int column) {
     const SQLite::Column value = statement.getColumn(column);
     switch (value.getType()) {
         case SQLITE_INTEGER:
@@ -27,12 +29,14 @@ QVariant storedValue(const SQLite::Statement& statement, int column) {
     }
 }
 
+}  // namespace
+
 StoredRow storedRow(const SQLite::Statement& statement) {
     const int columns = statement.getColumnCount();
     StoredRow row;
     row.reserve(static_cast<size_t>(columns));
     for (int column = 0; column < columns; ++column)
-        row.push_back(storedValue(statement, column));
+        row.push_back(valueAt(statement, column));
     return row;
 }
 

@@ -16,7 +16,6 @@ using StoredRow = std::vector<QVariant>;
 /// New values of a row by the number of their column in the select list.
 using StoredChanges = std::map<int, QVariant>;
 
-[[nodiscard]] QVariant storedValue(const SQLite::Statement& statement, int column);
 [[nodiscard]] StoredRow storedRow(const SQLite::Statement& statement);
 /// @param place number of the statement's parameter, from 1
 void bindValue(SQLite::Statement& statement, int place, const QVariant& value);

@@ -3,19 +3,15 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <QFile>
-#include <filesystem>
-#include <system_error>
 
 #include "data/schema.h"
 #include "data/states.h"
 #include "data/tables.h"
-#include "platform/base/runtime_error.h"
+#include "platform/base/file_replacement.h"
 
 namespace data {
 
 namespace {
-
-constexpr int pathAccessError = 75;
 
 void createTables(SQLite::Database& database) {
     for (const Table& table : allTables()) {
@@ -34,8 +30,8 @@ void insertStates(SQLite::Database& database) {
     }
 }
 
-void writeDatabase(const std::filesystem::path& path) {
-    SQLite::Database database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+void writeDatabase(const QString& path) {
+    SQLite::Database database(QFile::encodeName(path).toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     database.exec("PRAGMA page_size = 4096");
     database.exec("PRAGMA journal_mode = DELETE");
     SQLite::Transaction transaction(database);
@@ -44,41 +40,12 @@ void writeDatabase(const std::filesystem::path& path) {
     transaction.commit();
 }
 
-/// A file in the making, gone at the end unless it has got its place.
-class Draft {
-public:
-    explicit Draft(const std::filesystem::path& target) : target_(target), path_(target) {
-        path_ += ".new";
-        discard();
-    }
-    ~Draft() { discard(); }
-    Draft(const Draft&) = delete;
-    Draft& operator=(const Draft&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-
-    void putInPlace() const {
-        std::error_code error;
-        std::filesystem::rename(path_, target_, error);
-        if (error) throw platform::RuntimeError(pathAccessError);
-    }
-
-private:
-    void discard() const {
-        std::error_code ignored;
-        std::filesystem::remove(path_, ignored);
-    }
-
-    std::filesystem::path target_;
-    std::filesystem::path path_;
-};
-
 }  // namespace
 
 void createTemplate(const QString& path) {
-    const Draft draft(std::filesystem::path(QFile::encodeName(path).toStdString()));
-    writeDatabase(draft.path());
-    draft.putInPlace();
+    platform::files::FileReplacement file(path);
+    writeDatabase(file.path());
+    file.place();
 }
 
 }  // namespace data

@@ -6,8 +6,8 @@ namespace data {
 
 /// Writes the empty database file that a household starts from: every table and index, no row but the state names.
 ///
-/// The file stands complete at `path` or not at all; one that was there is replaced. Throws platform::RuntimeError
-/// (75 when the finished file can't take its place) or SQLite::Exception.
+/// The file stands complete at `path` or not at all; one that was there is replaced. Throws as files::FileReplacement,
+/// or SQLite::Exception.
 void createTemplate(const QString& path);
 
 }  // namespace data

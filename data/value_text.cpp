@@ -1,8 +1,8 @@
 #include "data/value_text.h"
 
-#include "data/provider_error.h"
 #include "platform/base/conversions.h"
 #include "platform/base/date_text.h"
+#include "platform/base/runtime_error.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ auto fitting(Conversion conversion) {
     try {
         return conversion();
     } catch (const platform::RuntimeError&) {
-        throw providerError(ProviderError::DoesNotFit);
+        throw platform::RuntimeError(platform::Error::DoesNotFit);
     }
 }
 

@@ -22,13 +22,6 @@ ListScreen::ListScreen(platform::Desktop& desktop, session::Session& session, se
     : DataWindow(desktop, session, workspace, definition.window),
       definition_(definition),
       grdDataGrid_(new platform::DataGrid(definition.rowLines, this)) {
-    for (data::Recordset* recordset : {&rows_, &rsRowWrite_, &rsStatement_}) {
-        recordset->setCursorLocation(data::CursorLocation::Client);
-        recordset->setLockType(data::LockType::Optimistic);
-    }
-    rows_.setCursorType(data::CursorType::Keyset);
-    rsCount_.setLockType(data::LockType::ReadOnly);
-    rsCount_.setCursorLocation(data::CursorLocation::Server);
     connect(&rows_, &data::Recordset::moveComplete, this,
             [this] { this->desktop().attempt(u"MoveComplete Error"_s, [this] { moveComplete(); }); });
     menus_ = std::make_unique<session::WindowMenus>(*this, commands());
@@ -206,7 +199,6 @@ void ListScreen::showSaved() {
 bool ListScreen::saveRow() {
     data::Recordset& row = rowWrite();
     const QString which = bAdding_ ? u"1=2"_s : u"ID = "_s + key();
-    row.setCursorType(data::CursorType::Keyset);
     row.open(u"Select * from %1 where "_s.arg(definition_.table) + which, session().gConnection);
     if (bAdding_) row.addNew();
     for (const EditField& field : definition_.form.fields) {
@@ -241,7 +233,7 @@ void ListScreen::cmdDelete_Click() {
     desktop().attempt(u"Delete Error"_s, [this] {
         if (!mayChange() || !hasEntries(u"delete"_s) || !mayDeleteRow()) return;
         if (!desktop().ask(u"Are you sure you want to delete this entry?"_s, u"Delete Confirmation"_s)) return;
-        run(u"Delete * from %1 Where ID = "_s.arg(definition_.table) + key());
+        run(u"Delete from %1 Where ID = "_s.arg(definition_.table) + key());
         finishDelete();
         rebind(true);
         // The last entry may have gone.
@@ -277,9 +269,9 @@ void ListScreen::rowChosen(int row) {
     rows_.setBookmark(row + 1);
 }
 
-void ListScreen::Form_KeyDown(int keyCode, int shift) {
+void ListScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
     if (bEditing_ || bAdding_) return;
-    session::navigate(keyCode, shift, *buttons_);
+    session::navigate(key, held, *buttons_);
 }
 
 // Close ------------------------------------------------------------------------------------------------------------
@@ -348,7 +340,6 @@ void ListScreen::setButtons(bool browsing) {
 
 data::Recordset& ListScreen::rowWrite() {
     rsRowWrite_.release();
-    rsRowWrite_.setLockType(data::LockType::Optimistic);
     return rsRowWrite_;
 }
 

@@ -49,7 +49,7 @@ public:
 
     void Form_Load() override;
     [[nodiscard]] bool keyPreview() const override { return true; }
-    void Form_KeyDown(int keyCode, int shift) override;
+    void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
     /// A list has nothing to lose: what was entered stands in the file.
     void Form_QueryUnload(bool& /*cancel*/) override {}
     void Form_Unload() override;
@@ -131,8 +131,8 @@ private:
     void setButtons(bool browsing);
 
     const ListDefinition& definition_;
-    data::Recordset rows_;
-    data::Recordset rsRowWrite_;
+    data::Recordset rows_{data::Opening::List};
+    data::Recordset rsRowWrite_{data::Opening::List};
     data::Recordset rsStatement_;
     data::Recordset rsCount_;
     std::unique_ptr<session::WindowMenus> menus_;

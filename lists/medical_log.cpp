@@ -48,8 +48,8 @@ MedicalLog::MedicalLog(platform::Desktop& desktop, session::Session& session, se
 QString MedicalLog::selectStatement() const {
     QString all =
         u"SELECT MedicalLog.ID, Person.LegalName, MedicalLog.TreatmentStartDate as StartDate, "
-        "MedicalLog.TreatmentEndDate as EndDate, Doctors.Name as Doctor, MedicalLog.Description FROM Doctors "
-        "RIGHT JOIN (Person RIGHT JOIN MedicalLog ON Person.ID = MedicalLog.PersonID) ON Doctors.ID = "
+        "MedicalLog.TreatmentEndDate as EndDate, Doctors.Name as Doctor, MedicalLog.Description FROM (MedicalLog "
+        "LEFT JOIN Person ON Person.ID = MedicalLog.PersonID) LEFT JOIN Doctors ON Doctors.ID = "
         "MedicalLog.MedicalID"_s;
     if (session().gbWholeFamily) return all;
     return all + u" WHERE (((MedicalLog.PersonID)=%1));"_s.arg(session().gPersonID);

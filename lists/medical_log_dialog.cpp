@@ -52,8 +52,7 @@ void MedicalLogDialog::Form_Load() {
 
 void MedicalLogDialog::fillCombo(const QString& field, const QString& statement) {
     data::Recordset names;
-    names.setCursorLocation(data::CursorLocation::Client);
-    names.open(statement, connection_, data::CursorType::ForwardOnly, data::LockType::ReadOnly);
+    names.open(statement, connection_);
     const QString column = names.fieldNames().first();
     for (; !names.eof(); names.moveNext())
         combo(field).addItem(names.value(column).toString());
@@ -81,8 +80,7 @@ bool MedicalLogDialog::validDate(const QString& field, const QString& label) {
 
 bool MedicalLogDialog::validDoctorName() {
     data::Recordset doctors;
-    doctors.setCursorLocation(data::CursorLocation::Server);
-    doctors.open(u"Select Name from Doctors"_s, connection_, data::CursorType::ForwardOnly, data::LockType::ReadOnly);
+    doctors.open(u"Select Name from Doctors"_s, connection_);
     if (doctors.eof()) {
         tellNoDoctors(desktop());
         return false;

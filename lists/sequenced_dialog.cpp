@@ -30,10 +30,8 @@ bool SequencedDialog::accepts() {
 
 bool SequencedDialog::isWithinReach() {
     data::Recordset largest;
-    largest.setCursorLocation(data::CursorLocation::Server);
     const QString where = sequence_.scope.isEmpty() ? QString() : u" where "_s + sequence_.scope;
-    largest.open(u"Select Max(Seq) as lMax from "_s + sequence_.table + where, connection_,
-                 data::CursorType::ForwardOnly, data::LockType::ReadOnly);
+    largest.open(u"Select Max(Seq) as lMax from "_s + sequence_.table + where, connection_);
     const QVariant lMax = largest.value(u"lMax"_s);
     largest.close();
     const QString entered = text(txtSequence);

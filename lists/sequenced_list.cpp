@@ -50,8 +50,6 @@ void SequencedList::renumberSeq() {
     const Sequence numbered = sequence();
     const QString where = numbered.scope.isEmpty() ? QString() : u"where "_s + numbered.scope + u' ';
     data::Recordset& row = rowWrite();
-    row.setCursorType(data::CursorType::Keyset);
-    row.setLockType(data::LockType::Pessimistic);
     row.open(u"Select * from %1 %2order by Seq"_s.arg(numbered.table, where), session().gConnection);
     for (qint64 counter = 1; !row.eof(); row.moveNext(), ++counter) {
         const QVariant number = row.value(u"Seq"_s);

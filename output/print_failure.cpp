@@ -8,11 +8,10 @@ using namespace Qt::StringLiterals;
 namespace output {
 
 void attemptPrint(platform::Desktop& desktop, const QString& title, const std::function<void()>& routine) {
-    constexpr int printerError = 482;
     try {
         routine();
     } catch (const platform::RuntimeError& error) {
-        if (error.number() != printerError) {
+        if (error.error() != platform::Error::NoPrinter) {
             desktop.notice(error.report(), title, platform::Icon::Critical);
             return;
         }

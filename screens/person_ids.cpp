@@ -14,9 +14,6 @@ namespace {
 
 std::optional<qint16> theID(data::Connection& connection, const QString& statement) {
     data::Recordset rows;
-    rows.setLockType(data::LockType::ReadOnly);
-    rows.setCursorLocation(data::CursorLocation::Server);
-    rows.setCursorType(data::CursorType::ForwardOnly);
     rows.open(statement, connection);
     const QVariant id = rows.value(u"TheID"_s);
     if (id.isNull()) return std::nullopt;
@@ -31,7 +28,7 @@ qint16 getFirstPersonID(data::Connection& connection) {
 
 qint16 getLastPersonID(data::Connection& connection) {
     const std::optional<qint16> id = theID(connection, u"Select Max(ID) as TheID from Person"_s);
-    if (!id) throw platform::RuntimeError(94);
+    if (!id) throw platform::RuntimeError(platform::Error::NullUsed);
     return *id;
 }
 

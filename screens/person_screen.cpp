@@ -6,7 +6,6 @@
 #include "output/record_output.h"
 #include "platform/forms/check_box.h"
 #include "platform/forms/desktop.h"
-#include "platform/forms/key_codes.h"
 #include "platform/forms/text_control.h"
 #include "screens/catalogue/person_entry.h"
 #include "screens/person_ids.h"
@@ -117,7 +116,7 @@ QString PersonScreen::deleteQuestion() {
 
 void PersonScreen::deleteRecord() {
     // The member of the session goes, who after moves need not be the one on screen.
-    data::deleteFromAllTables(session().gConnection, u"PersonID"_s, session().gPersonID);
+    data::deletePersonsRows(session().gConnection, session().gPersonID);
     const QString name = legalName();
     deleteCurrentRow();
     workspace().removeName(name);
@@ -232,9 +231,9 @@ bool PersonScreen::socialSecurityIsValid() {
     return false;
 }
 
-void PersonScreen::Form_KeyUp(int keyCode, int /*shift*/) {
+void PersonScreen::Form_KeyUp(Qt::Key key) {
     platform::TextControl& box = boxes().text(socialSecurityColumn);
-    if (activeControl() != &box || keyCode == platform::key::del || keyCode == platform::key::backspace) return;
+    if (activeControl() != &box || key == Qt::Key_Delete || key == Qt::Key_Backspace) return;
     desktop().attempt(u"txtFields_KeyUp Error"_s, [&] {
         const qsizetype length = box.text().size();
         if (length != 3 && length != 6) return;

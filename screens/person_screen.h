@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QString legalName() const;
 
     void Form_Load() override;
-    void Form_KeyUp(int keyCode, int shift) override;
+    void Form_KeyUp(Qt::Key key) override;
 
 protected:
     /// The first member can be entered whatever the session may do.

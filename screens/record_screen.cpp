@@ -11,7 +11,6 @@
 #include "platform/forms/combo_box.h"
 #include "platform/forms/command_button.h"
 #include "platform/forms/desktop.h"
-#include "platform/forms/key_codes.h"
 #include "platform/forms/text_control.h"
 #include "screens/field_checks.h"
 #include "screens/frame_layout.h"
@@ -40,9 +39,6 @@ RecordScreen::RecordScreen(platform::Desktop& desktop, session::Session& session
     : DataWindow(desktop, session, workspace, definition.name),
       definition_(definition),
       boxes_(*this, definition, owner) {
-    rsLookup_.setLockType(data::LockType::ReadOnly);
-    rsLookup_.setCursorLocation(data::CursorLocation::Server);
-    rsLookup_.setCursorType(data::CursorType::ForwardOnly);
     connect(&rows_, &data::Recordset::moveComplete, this,
             [this] { this->desktop().attempt(moveCompleteTitle(), [this] { moveComplete(); }); });
     menus_ = std::make_unique<session::WindowMenus>(*this, commands());
@@ -136,7 +132,7 @@ void RecordScreen::makeKeyBox() {
 // Load -------------------------------------------------------------------------------------------------------------
 
 void RecordScreen::openRows(const QString& statement) {
-    rows_.open(statement, session().gConnection, data::CursorType::Static, data::LockType::Optimistic);
+    rows_.open(statement, session().gConnection);
 }
 
 void RecordScreen::fillStateCombos() {
@@ -428,11 +424,11 @@ void RecordScreen::Form_Unload() {
 // Keys -------------------------------------------------------------------------------------------------------------
 
 void RecordScreen::Form_KeyPress(int keyAscii) {
-    if (keyAscii != platform::key::enter && keyAscii != platform::key::tab) bChange = true;
+    if (keyAscii != '\r' && keyAscii != '\t') bChange = true;
 }
 
-void RecordScreen::Form_KeyDown(int keyCode, int shift) {
-    if (isBrowsing()) session::navigate(keyCode, shift, *buttons_);
+void RecordScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
+    if (isBrowsing()) session::navigate(key, held, *buttons_);
 }
 
 // Checks and aids --------------------------------------------------------------------------------------------------

@@ -32,13 +32,12 @@ public:
                  const ScreenDefinition& definition, OwnerBox owner = OwnerBox::None);
 
     /// Raised when cmdNext runs off the end: a walk over all records stops on it.
-    [[nodiscard]] bool bLastRecord() const { return bLastRecord_; }
     /// Presses the add button.
     void pressAdd();
 
     void show() override;
     [[nodiscard]] bool keyPreview() const override { return true; }
-    void Form_KeyDown(int keyCode, int shift) override;
+    void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
     void Form_KeyPress(int keyAscii) override;
     void Form_Unload() override;
 
@@ -164,7 +163,7 @@ private:
     void walkAllUnseen(const std::function<bool()>& visit);
 
     const ScreenDefinition& definition_;
-    data::Recordset rows_;
+    data::Recordset rows_{data::Opening::Screen};
     data::Recordset rsLookup_;
     FieldBoxes boxes_;
     std::unique_ptr<session::WindowMenus> menus_;

@@ -36,10 +36,8 @@ void ChangePinPassword::replacePassword(const QString& enciphered) {
 void ChangePinPassword::addProtectedRow(const QString& enciphered) {
     // Every member's list makes room at its top; its next change closes the gap.
     run(u"Update PIN_Password Set Seq = Seq + 1 Where Seq >= 1"_s);
-    data::Recordset row;
-    row.setCursorLocation(data::CursorLocation::Client);
-    row.open(u"Select * from PIN_Password where 1=2"_s, session_.gConnection, data::CursorType::Keyset,
-             data::LockType::Optimistic);
+    data::Recordset row(data::Opening::List);
+    row.open(u"Select * from PIN_Password where 1=2"_s, session_.gConnection);
     row.addNew();
     row.setValue(u"Seq"_s, 1);
     row.setValue(u"Account"_s, data::protectedAccount());
@@ -51,8 +49,6 @@ void ChangePinPassword::addProtectedRow(const QString& enciphered) {
 
 void ChangePinPassword::run(const QString& statement) {
     data::Recordset work;
-    work.setCursorLocation(data::CursorLocation::Client);
-    work.setLockType(data::LockType::Optimistic);
     work.open(statement, session_.gConnection);
 }
 

@@ -10,10 +10,9 @@ namespace security {
 
 ListPassword readListPassword(data::Connection& connection, qint16 personID) {
     data::Recordset row;
-    row.setCursorLocation(data::CursorLocation::Server);
     row.open(u"SELECT * from PIN_Password where Account = '"_s + data::protectedAccount() + u"' and PersonID = "_s +
                  QString::number(personID),
-             connection, data::CursorType::ForwardOnly, data::LockType::ReadOnly);
+             connection);
     if (row.eof()) return {};
     const QString secret = row.value(u"PIN_Password"_s).toString();
     const QString mark = row.value(u"Encrypted"_s).toString();

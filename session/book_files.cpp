@@ -24,8 +24,7 @@ bool isOne(const QString& target, const QString& ours) {
 }  // namespace
 
 void BookFiles::refuse(const QString& target) const {
-    constexpr int permissionDenied = 70;
-    if (isOurs(target) || isAttached(target)) throw platform::RuntimeError(permissionDenied);
+    if (isOurs(target) || isAttached(target)) throw platform::RuntimeError(platform::Error::PermissionDenied);
 }
 
 bool BookFiles::isOurs(const QString& target) const {

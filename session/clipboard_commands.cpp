@@ -15,7 +15,7 @@ namespace {
 QString selText(platform::Control& control) {
     if (auto* box = dynamic_cast<platform::TextControl*>(&control)) return box->selText();
     if (auto* combo = dynamic_cast<platform::ComboBox*>(&control)) return combo->lineEdit()->selectedText();
-    throw platform::RuntimeError(438);
+    throw platform::RuntimeError(platform::Error::NotSupported);
 }
 
 void setSelText(platform::Control& control, const QString& text) {
@@ -24,13 +24,13 @@ void setSelText(platform::Control& control, const QString& text) {
     } else if (auto* combo = dynamic_cast<platform::ComboBox*>(&control)) {
         combo->lineEdit()->insert(text);
     } else {
-        throw platform::RuntimeError(438);
+        throw platform::RuntimeError(platform::Error::NotSupported);
     }
 }
 
 platform::Control& active(platform::Form& form) {
     platform::Control* control = form.activeControl();
-    if (!control) throw platform::RuntimeError(91);
+    if (!control) throw platform::RuntimeError(platform::Error::ObjectNotSet);
     return *control;
 }
 

@@ -71,7 +71,7 @@ std::optional<qsizetype> lineBreakIn(const QString& password) {
 
 void writeDefinition(const QString& path, const Definition& definition) {
     // Such a line couldn't be read back, and the program wouldn't start any more.
-    if (lineBreakIn(definition.gsMainPassword)) throw platform::RuntimeError(5);
+    if (lineBreakIn(definition.gsMainPassword)) throw platform::RuntimeError(platform::Error::InvalidCall);
     Definition written = definition;
     written.gsMainPassword = data::cipher(definition.gsMainPassword);
     QString text;

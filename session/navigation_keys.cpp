@@ -1,30 +1,28 @@
 #include "session/navigation_keys.h"
 
-#include "platform/forms/key_codes.h"
 #include "session/record_buttons.h"
 
 namespace session {
 
-void navigate(int keyCode, int shift, const RecordButtons& buttons) {
-    namespace key = platform::key;
+void navigate(Qt::Key key, Qt::KeyboardModifiers held, const RecordButtons& buttons) {
     const RecordActions& actions = buttons.actions();
-    const bool ctrl = shift == platform::ctrlMask;
-    switch (keyCode) {
-        case key::escape:
+    const bool ctrl = held == Qt::ControlModifier;
+    switch (key) {
+        case Qt::Key_Escape:
             actions.close();
             break;
-        case key::end:
+        case Qt::Key_End:
             actions.last();
             break;
-        case key::home:
+        case Qt::Key_Home:
             actions.first();
             break;
-        case key::up:
-        case key::pageUp:
+        case Qt::Key_Up:
+        case Qt::Key_PageUp:
             ctrl ? actions.first() : actions.previous();
             break;
-        case key::down:
-        case key::pageDown:
+        case Qt::Key_Down:
+        case Qt::Key_PageDown:
             ctrl ? actions.last() : actions.next();
             break;
         default:

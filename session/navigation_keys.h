@@ -1,12 +1,14 @@
 #pragma once
 
+#include <Qt>
+
 namespace session {
 
 class RecordButtons;
 
 /// What the keys do in a window that neither adds nor edits: Escape closes it; Home and End go to the first and the
-/// last record, the arrows and the page keys to the neighbour, with Ctrl to the first and the last. `keyCode` and
-/// `shift` as a form's key events have them.
-void navigate(int keyCode, int shift, const RecordButtons& buttons);
+/// last record, the arrows and the page keys to the neighbour, with Ctrl to the first and the last. `key` and
+/// `held` as a form's key events have them.
+void navigate(Qt::Key key, Qt::KeyboardModifiers held, const RecordButtons& buttons);
 
 }  // namespace session

@@ -14,9 +14,6 @@ namespace {
 template <class Take>
 void eachName(const QString& statement, data::Connection& connection, Take take) {
     data::Recordset names;
-    names.setLockType(data::LockType::ReadOnly);
-    names.setCursorLocation(data::CursorLocation::Server);
-    names.setCursorType(data::CursorType::ForwardOnly);
     names.open(statement, connection);
     while (!names.eof() && take(names.value(u"LegalName"_s).toString()))
         names.moveNext();

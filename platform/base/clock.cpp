@@ -1,6 +1,5 @@
 #include "platform/base/clock.h"
 
-#include <QTime>
 #include <ctime>
 
 namespace platform {
@@ -21,10 +20,6 @@ QDate Clock::today() const {
     std::tm local{};
     ::localtime_r(&now, &local);
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
-}
-
-double Clock::secondsSinceMidnight() const {
-    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
 }
 
 const Clock& systemClock() {

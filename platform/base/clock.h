@@ -4,13 +4,11 @@
 
 namespace platform {
 
-/// Local date and time of day: the one place where the program learns what time it is.
+/// The local date: the one place where the program learns what day it is.
 class Clock {
 public:
     virtual ~Clock() = default;
     [[nodiscard]] virtual QDate today() const;
-    /// With fractions; falls to 0 at midnight.
-    [[nodiscard]] virtual double secondsSinceMidnight() const;
 };
 
 /// The clock in use: the computer's, unless a ClockInPlace stands for it.

@@ -125,7 +125,7 @@ template <typename Integer>
 Integer roundedTo(double value) {
     const double rounded = std::nearbyint(value);
     const bool fits = rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max();
-    if (!fits) throw RuntimeError(6);
+    if (!fits) throw RuntimeError(Error::Overflow);
     return static_cast<Integer>(rounded);
 }
 
@@ -181,7 +181,7 @@ bool isNumeric(const QString& text, const Region& region) {
 
 double toDouble(const QString& text, const Region& region) {
     const auto value = parseNumber(text, region);
-    if (!value) throw RuntimeError(13);
+    if (!value) throw RuntimeError(Error::TypeMismatch);
     return *value;
 }
 
@@ -212,9 +212,9 @@ double val(const QString& text) {
     const auto digits = takeDecimal(scanner, u'.', {});
     if (!digits) return 0;
     const double value = (*digits + takeExponent(scanner)).toDouble();
-    if (!std::isfinite(value)) throw RuntimeError(6);
+    if (!std::isfinite(value)) throw RuntimeError(Error::Overflow);
     const bool suffixOfWholeNumbers = scanner.accept(u"%&");
-    if (suffixOfWholeNumbers && value != std::trunc(value)) throw RuntimeError(13);
+    if (suffixOfWholeNumbers && value != std::trunc(value)) throw RuntimeError(Error::TypeMismatch);
     return negative ? -value : value;
 }
 
@@ -249,7 +249,7 @@ QString str(double value) {
 }
 
 double roundHalfEven(double value, int decimals) {
-    if (decimals < 0 || decimals > 22) throw RuntimeError(5);
+    if (decimals < 0 || decimals > 22) throw RuntimeError(Error::InvalidCall);
     const double scale = std::pow(10.0, decimals);
     const double scaled = value * scale;
     return std::isfinite(scaled) ? std::nearbyint(scaled) / scale : value;

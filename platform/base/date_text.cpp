@@ -280,7 +280,7 @@ bool isDate(const QString& text, const Region& region) {
 
 QDateTime toDate(const QString& text, const Region& region) {
     const auto date = read(text, region);
-    if (!date) throw RuntimeError(13);
+    if (!date) throw RuntimeError(Error::TypeMismatch);
     return *date;
 }
 

@@ -31,7 +31,7 @@ bool isNumberValue(const QVariant& value) {
 
 /// A value without a format, by what it is. A whole number counts or refers, and may come to stand in a statement: it
 /// looks the same everywhere.
-QString plainText(const QVariant& value, const Region& region) {
+QString unformatted(const QVariant& value, const Region& region) {
     switch (value.typeId()) {
         case QMetaType::QDateTime:
             return dateText(value.toDateTime(), region);
@@ -91,7 +91,7 @@ QString displayText(const QVariant& value, ColumnKind kind, const QString& forma
     if (kind == ColumnKind::Date && isDateValue(value) && isDatePattern(format)) {
         return readableDate(value.toDateTime(), format, region);
     }
-    return plainText(value, region);
+    return unformatted(value, region);
 }
 
 QVariant storedValue(const QString& text, ColumnKind kind, const Region& region) {
@@ -100,7 +100,7 @@ QVariant storedValue(const QString& text, ColumnKind kind, const Region& region)
     try {
         return parsed(text, kind, region);
     } catch (const RuntimeError&) {
-        throw RuntimeError(-2147217887, u"Multiple-step operation generated errors. Check each status value."_s);
+        throw RuntimeError(Error::DoesNotFit);
     }
 }
 

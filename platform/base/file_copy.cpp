@@ -23,12 +23,12 @@ constexpr qint64 chunkBytes = 8 << 20;
 class SourceFile {
 public:
     explicit SourceFile(const QString& path) {
-        if (!fileExists(path)) throw RuntimeError(53);
+        if (!fileExists(path)) throw RuntimeError(Error::FileNotFound);
         descriptor_ = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
         if (descriptor_ < 0 || ::fstat(descriptor_, &status_) != 0) {
             const int error = errno;
             if (descriptor_ >= 0) ::close(descriptor_);
-            throwSystemError(error, 53);
+            throwSystemError(error, Error::FileNotFound);
         }
     }
     ~SourceFile() { ::close(descriptor_); }
@@ -49,47 +49,29 @@ private:
     struct stat status_ {};
 };
 
-/// Copies the contents of one file into another, leaving out its holes.
+/// Copies the contents of one file into another.
 class ContentCopy {
 public:
-    ContentCopy(const SourceFile& source, FileReplacement& target, const CopyProgress& progress)
-        : source_(source), target_(target), progress_(progress) {}
+    ContentCopy(const SourceFile& source, FileReplacement& target) : source_(source), target_(target) {}
 
     void run() {
         for (off_t at = 0; at < source_.size();) {
-            const off_t data = ::lseek(source_.descriptor(), at, SEEK_DATA);
-            const bool onlyHoleLeft = data < 0 && errno == ENXIO;
-            if (onlyHoleLeft) break;
-            // A file system that knows nothing of holes: all is data.
-            const off_t begin = data < 0 ? at : data;
-            const off_t hole = data < 0 ? -1 : ::lseek(source_.descriptor(), begin, SEEK_HOLE);
-            const off_t end = hole < 0 ? source_.size() : std::min<off_t>(hole, source_.size());
-            copySegment(begin, end);
-            at = end;
+            const auto wanted = static_cast<std::size_t>(std::min<qint64>(chunkBytes, source_.size() - at));
+            const ssize_t copied = inKernel_ ? copyInKernel(at, wanted) : copyThroughBuffer(at, wanted);
+            // The source became shorter while it was copied: half a file must not pass for a whole one.
+            if (copied == 0) throw RuntimeError(Error::PathAccess);
+            at += copied;
         }
-        // Gives a hole at the end its length.
-        if (::ftruncate(target_.descriptor(), source_.size()) != 0) throwSystemError(errno, 76);
     }
 
 private:
-    void copySegment(off_t at, off_t end) {
-        while (at < end) {
-            const auto wanted = static_cast<std::size_t>(std::min<qint64>(chunkBytes, end - at));
-            const ssize_t copied = inKernel_ ? copyInKernel(at, wanted) : copyThroughBuffer(at, wanted);
-            // The source became shorter while it was copied: half a file must not pass for a whole one.
-            if (copied == 0) throw RuntimeError(75);
-            at += copied;
-            if (progress_) progress_(at, source_.size());
-        }
-    }
-
     ssize_t copyInKernel(off_t at, std::size_t wanted) {
         off_t from = at;
         off_t to = at;
         const ssize_t copied = ::copy_file_range(source_.descriptor(), &from, target_.descriptor(), &to, wanted, 0);
         if (copied > 0) return copied;
         const bool full = copied < 0 && (errno == ENOSPC || errno == EDQUOT || errno == EFBIG || errno == EIO);
-        if (full) throwSystemError(errno, 53);
+        if (full) throwSystemError(errno, Error::FileNotFound);
         // Not between these two file systems: by hand from here on.
         inKernel_ = false;
         return copyThroughBuffer(at, wanted);
@@ -100,22 +82,20 @@ private:
         buffer_.resize(static_cast<qsizetype>(std::min(bufferBytes, wanted)));
         const ssize_t read =
             ::pread(source_.descriptor(), buffer_.data(), static_cast<std::size_t>(buffer_.size()), at);
-        if (read < 0) throwSystemError(errno, 53);
+        if (read < 0) throwSystemError(errno, Error::FileNotFound);
         buffer_.truncate(read);
-        if (::lseek(target_.descriptor(), at, SEEK_SET) < 0) throwSystemError(errno, 76);
+        if (::lseek(target_.descriptor(), at, SEEK_SET) < 0) throwSystemError(errno, Error::PathNotFound);
         target_.write(buffer_);
         return read;
     }
 
     const SourceFile& source_;
     FileReplacement& target_;
-    const CopyProgress& progress_;
     QByteArray buffer_;
     bool inKernel_ = true;
 };
 
 struct CopyOptions {
-    CopyProgress progress{};
     CopyFinish finish{};
     std::optional<unsigned> mode{};  ///< permission bits of the copy; the source's otherwise
     FileReplacement::Flush flush = FileReplacement::Flush::Now;
@@ -124,13 +104,13 @@ struct CopyOptions {
 /// Copies one file, and gives the folder that is to be synced before the copy is lasting.
 QString copyUnsynced(const QString& source, const QString& target, const CopyOptions& options = {}) {
     const SourceFile from(source);
-    if (from.isSameAs(target)) throw RuntimeError(70);
+    if (from.isSameAs(target)) throw RuntimeError(Error::PermissionDenied);
     FileReplacement to(target);
     const unsigned mode = options.mode.value_or(from.mode() & to.usualMode());
     // Nobody else reads in the copy while it is made; what is made read-only may still be finished.
     constexpr unsigned ownersAlone = 0600;
     to.setMode(ownersAlone);
-    ContentCopy(from, to, options.progress).run();
+    ContentCopy(from, to).run();
     if (options.finish) options.finish(to.path());
     to.setMode(mode);
     to.place(options.flush);
@@ -146,8 +126,8 @@ void copyFiles(const QStringList& names, const QString& folder, const QString& t
 
 }  // namespace
 
-void copyFile(const QString& source, const QString& target, const CopyProgress& progress, const CopyFinish& finish) {
-    syncFolder(copyUnsynced(source, target, {.progress = progress, .finish = finish}));
+void copyFile(const QString& source, const QString& target, const CopyFinish& finish) {
+    syncFolder(copyUnsynced(source, target, {.finish = finish}));
 }
 
 void copyFileWithMode(const QString& source, const QString& target, unsigned mode) {
@@ -162,26 +142,26 @@ void flush(const QString& path) {
     const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     const int error = descriptor >= 0 && ::fsync(descriptor) == 0 ? 0 : errno;
     if (descriptor >= 0) ::close(descriptor);
-    if (error != 0) throwSystemError(error, 53);
+    if (error != 0) throwSystemError(error, Error::FileNotFound);
     syncFolder(parentOf(path));
 }
 
 void copyAllFiles(const QString& folder, const QString& targetFolder) {
     const QStringList names = entriesOf(folder).files;
-    if (names.isEmpty()) throw RuntimeError(53);
-    if (!folderExists(targetFolder)) throw RuntimeError(76);
+    if (names.isEmpty()) throw RuntimeError(Error::FileNotFound);
+    if (!folderExists(targetFolder)) throw RuntimeError(Error::PathNotFound);
     copyFiles(names, folder, targetFolder);
 }
 
 void makeFolder(const QString& path) {
     if (folderExists(path)) return;
-    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) throwSystemError(errno, 76);
+    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) throwSystemError(errno, Error::PathNotFound);
     syncFolder(parentOf(path));
 }
 
 void copyFolder(const QString& source, const QString& target) {
     // A closing separator names what lies in the folder, not the folder.
-    if (source.endsWith(separator())) throw RuntimeError(76);
+    if (source.endsWith(separator())) throw RuntimeError(Error::PathNotFound);
     // Listed before the target is made, so that a folder copied into itself comes to an end.
     const FolderEntries entries = entriesOf(source);
     makeFolder(target);

@@ -2,34 +2,32 @@
 
 #include <cerrno>
 
-#include "platform/base/runtime_error.h"
-
 namespace platform::files {
 
-int errorNumberOf(int systemError, int missing) {
+Error errorOf(int systemError, Error missing) {
     switch (systemError) {
         case ENOSPC:
         case EDQUOT:
         case EFBIG:
-            return 61;
+            return Error::DiskFull;
         case EACCES:
         case EPERM:
         case EROFS:
         case EBUSY:
         case ETXTBSY:
-            return 70;
+            return Error::PermissionDenied;
         case EIO:
-            return 57;
+            return Error::DeviceFailure;
         case ENOENT:
         case ENOTDIR:
             return missing;
         default:
-            return 75;
+            return Error::PathAccess;
     }
 }
 
-void throwSystemError(int systemError, int missing) {
-    throw RuntimeError(errorNumberOf(systemError, missing));
+void throwSystemError(int systemError, Error missing) {
+    throw RuntimeError(errorOf(systemError, missing));
 }
 
 }  // namespace platform::files

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "platform/base/runtime_error.h"
+
 namespace platform::files {
 
-/// The number of the run-time error for one of the operating system (errno): 61 for a full disk or a file beyond the
-/// limit, 70 for missing rights, 57 for a failing device, `missing` (53 or 76) where something isn't there, and 75 for
-/// everything else.
-[[nodiscard]] int errorNumberOf(int systemError, int missing);
+/// What an error of the operating system (errno) is called here: DiskFull also for a file beyond the limit,
+/// PermissionDenied for missing rights, DeviceFailure, `missing` (FileNotFound or PathNotFound) where something isn't
+/// there, and PathAccess for everything else.
+[[nodiscard]] Error errorOf(int systemError, Error missing);
 
 /// Throws that RuntimeError.
-[[noreturn]] void throwSystemError(int systemError, int missing);
+[[noreturn]] void throwSystemError(int systemError, Error missing);
 
 }  // namespace platform::files

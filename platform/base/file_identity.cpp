@@ -22,8 +22,7 @@ bool isSameFile(const QString& path, const QString& other) {
 QString resolvedPath(const QString& path) {
     std::error_code error;
     const auto resolved = std::filesystem::weakly_canonical(QFile::encodeName(path).toStdString(), error);
-    constexpr int pathNotFound = 76;
-    if (error) throwSystemError(error.value(), pathNotFound);
+    if (error) throwSystemError(error.value(), Error::PathNotFound);
     return QFile::decodeName(resolved.c_str());
 }
 

@@ -21,14 +21,14 @@ FileReplacement::FileReplacement(const QString& target) {
     const QFileInfo place(info.exists() ? info.canonicalFilePath() : info.absoluteFilePath());
     folder_ = place.absolutePath();
     target_ = QFile::encodeName(place.absoluteFilePath());
-    if (!folderExists(folder_)) throw RuntimeError(76);
+    if (!folderExists(folder_)) throw RuntimeError(Error::PathNotFound);
     // What takes the place of a device would cut it off from everyone.
-    if (place.exists() && !place.isFile()) throw RuntimeError(70);
-    if (place.exists() && isReadOnly(target)) throw RuntimeError(70);
+    if (place.exists() && !place.isFile()) throw RuntimeError(Error::PermissionDenied);
+    if (place.exists() && isReadOnly(target)) throw RuntimeError(Error::PermissionDenied);
 
     temporary_ = QFile::encodeName(unfinishedPath(folder_));
     descriptor_ = ::open(temporary_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (descriptor_ < 0) throwSystemError(errno, 76);
+    if (descriptor_ < 0) throwSystemError(errno, Error::PathNotFound);
     claim(descriptor_);
 }
 
@@ -50,7 +50,7 @@ void FileReplacement::write(const QByteArray& bytes) {
     for (qsizetype done = 0; done < bytes.size();) {
         const ssize_t written =
             ::write(descriptor_, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
-        if (written < 0 && errno != EINTR) throwSystemError(errno, 76);
+        if (written < 0 && errno != EINTR) throwSystemError(errno, Error::PathNotFound);
         if (written > 0) done += written;
     }
 }
@@ -62,7 +62,7 @@ void FileReplacement::setMode(unsigned mode) {
     const bool known = errno == EPERM && ::fstat(descriptor_, &status) == 0;
     constexpr mode_t everyonesWriting = S_IWUSR | S_IWGRP | S_IWOTH;
     const mode_t nearest = (mode & S_IWUSR) != 0 ? status.st_mode : status.st_mode & ~everyonesWriting;
-    if (!known || ::fchmod(descriptor_, nearest & 07777) != 0) throwSystemError(errno, 76);
+    if (!known || ::fchmod(descriptor_, nearest & 07777) != 0) throwSystemError(errno, Error::PathNotFound);
 }
 
 void FileReplacement::keepMode() {
@@ -71,18 +71,18 @@ void FileReplacement::keepMode() {
 }
 
 void FileReplacement::place(Flush flush) {
-    if (flush == Flush::Now && ::fsync(descriptor_) != 0) throwSystemError(errno, 76);
-    if (::rename(temporary_.constData(), target_.constData()) != 0) throwSystemError(errno, 76);
+    if (flush == Flush::Now && ::fsync(descriptor_) != 0) throwSystemError(errno, Error::PathNotFound);
+    if (::rename(temporary_.constData(), target_.constData()) != 0) throwSystemError(errno, Error::PathNotFound);
     temporary_.clear();
 }
 
 void syncFolder(const QString& folder) {
     const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) throwSystemError(errno, 76);
+    if (descriptor < 0) throwSystemError(errno, Error::PathNotFound);
     const int error = ::fsync(descriptor) == 0 ? 0 : errno;
     ::close(descriptor);
     // Some file systems keep no cache of names and refuse the call: their names are lasting already.
-    if (error != 0 && error != EINVAL) throwSystemError(error, 76);
+    if (error != 0 && error != EINVAL) throwSystemError(error, Error::PathNotFound);
 }
 
 void settleFolder(const QString& folder) noexcept {

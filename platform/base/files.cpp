@@ -18,14 +18,14 @@ namespace platform::files {
 namespace {
 
 struct stat statusOf(const QString& path) {
-    if (!fileExists(path)) throw RuntimeError(53);
+    if (!fileExists(path)) throw RuntimeError(Error::FileNotFound);
     struct stat status {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0) throwSystemError(errno, 53);
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) throwSystemError(errno, Error::FileNotFound);
     return status;
 }
 
 void unlinkName(const QString& path) {
-    if (::unlink(QFile::encodeName(path).constData()) != 0) throwSystemError(errno, 53);
+    if (::unlink(QFile::encodeName(path).constData()) != 0) throwSystemError(errno, Error::FileNotFound);
 }
 
 }  // namespace
@@ -77,40 +77,40 @@ qint64 folderSize(const QString& folder) {
 }
 
 void deleteFile(const QString& path, bool force) {
-    if (isReadOnly(path) && !force) throw RuntimeError(70);
+    if (isReadOnly(path) && !force) throw RuntimeError(Error::PermissionDenied);
     unlinkName(path);
 }
 
-void deleteAllFiles(const QString& folder, bool force) {
+void deleteAllFiles(const QString& folder) {
     const QStringList names = entriesOf(folder).files;
-    if (names.isEmpty()) throw RuntimeError(53);
+    if (names.isEmpty()) throw RuntimeError(Error::FileNotFound);
     for (const QString& name : names)
-        deleteFile(join(folder, name), force);
+        deleteFile(join(folder, name), true);
 }
 
-void deleteFolder(const QString& path, bool force) {
+void deleteFolder(const QString& path) {
     // A closing separator names what lies in the folder, not the folder.
-    if (path.endsWith(separator())) throw RuntimeError(76);
+    if (path.endsWith(separator())) throw RuntimeError(Error::PathNotFound);
     const FolderEntries entries = entriesOf(path);
     for (const QString& name : entries.files)
-        deleteFile(join(path, name), force);
+        deleteFile(join(path, name), true);
     for (const QString& name : entries.folders)
-        deleteFolder(join(path, name), force);
+        deleteFolder(join(path, name));
     for (const QString& name : entries.links)
         unlinkName(join(path, name));
-    if (::rmdir(QFile::encodeName(path).constData()) != 0) throwSystemError(errno, 76);
+    if (::rmdir(QFile::encodeName(path).constData()) != 0) throwSystemError(errno, Error::PathNotFound);
 }
 
 void moveFile(const QString& path, const QString& target) {
     if (::rename(QFile::encodeName(path).constData(), QFile::encodeName(target).constData()) != 0)
-        throwSystemError(errno, 53);
+        throwSystemError(errno, Error::FileNotFound);
 }
 
 void keepUnder(const QString& path, const QString& keptPath) {
     const QByteArray from = QFile::encodeName(path);
     const QByteArray to = QFile::encodeName(keptPath);
     if (::link(from.constData(), to.constData()) != 0 && ::rename(from.constData(), to.constData()) != 0)
-        throwSystemError(errno, 53);
+        throwSystemError(errno, Error::FileNotFound);
 }
 
 bool isTaken(const QString& path) {
@@ -122,7 +122,7 @@ bool isMissing(const QString& path) {
     struct stat status {};
     if (::stat(QFile::encodeName(path).constData(), &status) == 0) return false;
     if (errno == ENOENT || errno == ENOTDIR) return true;
-    throwSystemError(errno, 53);
+    throwSystemError(errno, Error::FileNotFound);
 }
 
 bool mayRead(const QString& path) {
@@ -145,7 +145,7 @@ void setReadOnly(const QString& path, bool readOnly) {
     constexpr mode_t everyonesWriting = S_IWUSR | S_IWGRP | S_IWOTH;
     const mode_t mode = statusOf(path).st_mode & 07777;
     const mode_t wanted = readOnly ? mode & ~everyonesWriting : mode | S_IWUSR;
-    if (::chmod(QFile::encodeName(path).constData(), wanted) != 0) throwSystemError(errno, 53);
+    if (::chmod(QFile::encodeName(path).constData(), wanted) != 0) throwSystemError(errno, Error::FileNotFound);
 }
 
 }  // namespace platform::files

@@ -4,12 +4,10 @@
 #include <QStringList>
 #include <functional>
 
-/// Files and folders with the answers of the forms run-time. A read-only file is one whose owner may not write it;
-/// the refusals (70) are made here, so that they hold for every user. Paths use the platform's own separator.
+/// Files and folders, with the errors that a user is told by number. A read-only file is one whose owner may not write
+/// it; the refusals (70) are made here, so that they hold for every user. Paths use the platform's own separator.
 namespace platform::files {
 
-/// Called now and then during a long copy with the bytes copied so far and those of the whole file.
-using CopyProgress = std::function<void(qint64 copied, qint64 total)>;
 /// Changes the finished copy, which lies under another name yet, before it becomes the target.
 using CopyFinish = std::function<void(const QString& copy)>;
 
@@ -35,8 +33,7 @@ using CopyFinish = std::function<void(const QString& copy)>;
 /// Copies a file with its attributes, as far as a new file of this user may have them. The target is replaced whole, on
 /// the disk when this returns, or left as it was. Errors: 53 no source, 76 no folder for the target, 70 a read-only
 /// target or the source itself, 61 disk full.
-void copyFile(const QString& source, const QString& target, const CopyProgress& progress = {},
-              const CopyFinish& finish = {});
+void copyFile(const QString& source, const QString& target, const CopyFinish& finish = {});
 /// The same with these permission bits.
 void copyFileWithMode(const QString& source, const QString& target, unsigned mode);
 /// The same as copyFile() without the wait for the disk: flush() must follow before anything relies on the copy.
@@ -48,8 +45,9 @@ void flush(const QString& path);
 void copyAllFiles(const QString& folder, const QString& targetFolder);
 /// Errors: 53 missing, 70 read-only and not forced.
 void deleteFile(const QString& path, bool force);
-/// Deletes the files of a folder, not its subfolders; stops at the first error. 53 when there are none.
-void deleteAllFiles(const QString& folder, bool force);
+/// Deletes the files of a folder, read-only ones too, not its subfolders; stops at the first error. 53 when there are
+/// none.
+void deleteAllFiles(const QString& folder);
 
 /// Renames a file over another one, or into a name that is free. The new name is lasting after syncFolder().
 void moveFile(const QString& path, const QString& target);
@@ -71,9 +69,9 @@ void keepUnder(const QString& path, const QString& keptPath);
 void copyFolder(const QString& source, const QString& target);
 /// Makes a folder that isn't there. Errors: 76 where it would lie in a missing one, 75 for a file in its place.
 void makeFolder(const QString& path);
-/// Deletes a folder with all it holds. Errors: 76 missing or with a separator at its end, 70 for a read-only file
-/// inside that isn't forced.
-void deleteFolder(const QString& path, bool force);
+/// Deletes a folder with all it holds, read-only files too. Error 76 for one that is missing or has a separator at its
+/// end.
+void deleteFolder(const QString& path);
 
 /// The permission bits of a file; error 53 for a missing one.
 [[nodiscard]] unsigned modeOf(const QString& path);

@@ -12,7 +12,7 @@
 namespace platform::files {
 
 FolderEntries entriesOf(const QString& folder) {
-    if (!folderExists(folder)) throw RuntimeError(76);
+    if (!folderExists(folder)) throw RuntimeError(Error::PathNotFound);
     FolderEntries entries;
     std::error_code error;
     std::filesystem::directory_iterator at(QFile::encodeName(folder).toStdString(), error);
@@ -24,7 +24,7 @@ FolderEntries entriesOf(const QString& folder) {
         const bool leadsToFile = !isFolder && at->exists(broken);
         (isLink && !leadsToFile ? entries.links : isFolder ? entries.folders : entries.files).append(name);
     }
-    if (error) throwSystemError(error.value(), 76);
+    if (error) throwSystemError(error.value(), Error::PathNotFound);
     entries.files.sort();
     entries.folders.sort();
     return entries;

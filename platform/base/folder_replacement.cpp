@@ -36,12 +36,12 @@ bool rename(const QString& from, const QString& to, unsigned flags = 0) {
 /// the new one has its place.
 void exchangeByTurns(const QString& fresh, const QString& target) {
     const QString old = target + u".old"_s;
-    if (folderExists(old)) deleteFolder(old, true);
-    if (!rename(target, old)) throwSystemError(errno, 76);
+    if (folderExists(old)) deleteFolder(old);
+    if (!rename(target, old)) throwSystemError(errno, Error::PathNotFound);
     if (!rename(fresh, target)) {
         const int error = errno;
         rename(old, target);
-        throwSystemError(error, 76);
+        throwSystemError(error, Error::PathNotFound);
     }
     rename(old, fresh);
 }
@@ -49,7 +49,7 @@ void exchangeByTurns(const QString& fresh, const QString& target) {
 }  // namespace
 
 FolderReplacement::FolderReplacement(const QString& target) : target_(placeOf(target)) {
-    if (fileExists(target_)) throw RuntimeError(75);
+    if (fileExists(target_)) throw RuntimeError(Error::PathAccess);
     path_ = unfinishedPath(parentOf(target_));
     makeFolder(path_);
     descriptor_ = ::open(QFile::encodeName(path_).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -58,7 +58,7 @@ FolderReplacement::FolderReplacement(const QString& target) : target_(placeOf(ta
 
 FolderReplacement::~FolderReplacement() {
     try {
-        if (folderExists(path_)) deleteFolder(path_, true);
+        if (folderExists(path_)) deleteFolder(path_);
     } catch (const RuntimeError&) {
         // Left for the next run to delete.
     }
@@ -67,7 +67,7 @@ FolderReplacement::~FolderReplacement() {
 
 void FolderReplacement::place() {
     if (!folderExists(target_)) {
-        if (!rename(path_, target_)) throwSystemError(errno, 76);
+        if (!rename(path_, target_)) throwSystemError(errno, Error::PathNotFound);
     } else if (!rename(path_, target_, RENAME_EXCHANGE)) {
         exchangeByTurns(path_, target_);
     }

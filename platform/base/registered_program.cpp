@@ -14,8 +14,6 @@ namespace platform {
 
 namespace {
 
-constexpr int noAssociation = 1155;
-
 /// What the desktop's library hands out, and how it takes it back.
 template <typename T>
 using Owned = std::unique_ptr<T, void (*)(void*)>;
@@ -39,19 +37,16 @@ void launch(GAppInfo& program, const QString& path) {
     if (g_app_info_launch(&program, &files, nullptr, &failure) != FALSE) return;
     const QString words = QString::fromUtf8(failure->message);
     g_error_free(failure);
-    throw RuntimeError(noAssociation, words);
+    throw RuntimeError(Error::NoProgram, words);
 }
 
 }  // namespace
 
 void openWithRegisteredProgram(const QString& path, const QString& name) {
-    if (!files::fileExists(path)) throw RuntimeError(53);
+    if (!files::fileExists(path)) throw RuntimeError(Error::FileNotFound);
     const Owned<GAppInfo> program(g_app_info_get_default_for_type(contentType(path, name).constData(), FALSE),
                                   g_object_unref);
-    if (!program) {
-        throw RuntimeError(noAssociation,
-                           u"No application is associated with the specified file for this operation."_s);
-    }
+    if (!program) throw RuntimeError(Error::NoProgram);
     launch(*program, path);
 }
 

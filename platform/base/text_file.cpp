@@ -8,11 +8,11 @@
 namespace platform::files {
 
 QStringList readLines(const QString& path) {
-    if (!fileExists(path)) throw RuntimeError(53);
+    if (!fileExists(path)) throw RuntimeError(Error::FileNotFound);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) throw RuntimeError(70);
+    if (!file.open(QIODevice::ReadOnly)) throw RuntimeError(Error::PermissionDenied);
     const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) throw RuntimeError(57);
+    if (file.error() != QFileDevice::NoError) throw RuntimeError(Error::DeviceFailure);
 
     QStringList lines;
     for (qsizetype begin = 0; begin < bytes.size();) {
@@ -27,7 +27,7 @@ QStringList readLines(const QString& path) {
 }
 
 void writeTextFile(const QString& path, const QString& text) {
-    if (path.isEmpty()) throw RuntimeError(5);
+    if (path.isEmpty()) throw RuntimeError(Error::InvalidCall);
     const QByteArray bytes = toWindows1252(text, OutsideCodePage::Refuse);
     FileReplacement file(path);
     file.keepMode();

@@ -11,7 +11,7 @@ namespace platform::files {
 namespace {
 
 const QString& prepared(const QString& path) {
-    if (path.isEmpty()) throw RuntimeError(5);
+    if (path.isEmpty()) throw RuntimeError(Error::InvalidCall);
     discardUnfinished(folderOf(path));
     return path;
 }

@@ -32,7 +32,7 @@ void discardUnlessClaimed(const QString& path) {
     if (descriptor < 0 || claim(descriptor)) {
         try {
             if (folderExists(path))
-                deleteFolder(path, true);
+                deleteFolder(path);
             else
                 QFile::remove(path);
         } catch (const RuntimeError&) {

@@ -32,16 +32,6 @@ std::optional<int> codeOf(QChar c) {
 
 }  // namespace
 
-int ascii(QStringView text) {
-    if (text.isEmpty()) throw RuntimeError(5);
-    return codeOf(text.front()).value_or('?');
-}
-
-QChar character(int code) {
-    if (code < 0 || code > 255) throw RuntimeError(5);
-    return characterOf(code);
-}
-
 QByteArray toWindows1252(const QString& text, OutsideCodePage outside) {
     const bool plain = std::all_of(text.begin(), text.end(), [](QChar c) { return c < u'\x80'; });
     if (plain) return text.toLatin1();
@@ -49,7 +39,7 @@ QByteArray toWindows1252(const QString& text, OutsideCodePage outside) {
     bytes.reserve(text.size());
     for (const QChar c : text) {
         const auto code = codeOf(c);
-        if (!code && outside == OutsideCodePage::Refuse) throw RuntimeError(5);
+        if (!code && outside == OutsideCodePage::Refuse) throw RuntimeError(Error::InvalidCall);
         bytes.append(static_cast<char>(code.value_or('?')));
     }
     return bytes;

@@ -2,19 +2,12 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringView>
 #include <optional>
 
 namespace platform {
 
 /// What becomes of a character that the single-byte code page doesn't have.
 enum class OutsideCodePage { QuestionMark, Refuse };
-
-/// Code of the first character, 0 to 255 ('?' for one outside the code page); error 5 for an empty text.
-[[nodiscard]] int ascii(QStringView text);
-
-/// The character of a code from 0 to 255; error 5 for any other code.
-[[nodiscard]] QChar character(int code);
 
 /// One byte a character; with Refuse, error 5 for a character outside the code page.
 [[nodiscard]] QByteArray toWindows1252(const QString& text, OutsideCodePage outside = OutsideCodePage::QuestionMark);

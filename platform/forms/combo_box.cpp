@@ -80,7 +80,7 @@ void ComboBox::showHeld() {
 
 void ComboBox::setListIndex(int index) {
     if (count() == 0 && index == 0) return;
-    if (index < -1 || index >= count()) throw RuntimeError(380);
+    if (index < -1 || index >= count()) throw RuntimeError(Error::InvalidValue);
     // A text that is no choice goes, though it has no entry to give up.
     const bool isOther = index != listIndex_;
     if (!isOther && index >= 0) return;
@@ -105,7 +105,7 @@ void ComboBox::addItem(const QString& text) {
 }
 
 void ComboBox::removeEntry(int index) {
-    if (index < 0 || index >= count()) throw RuntimeError(5);
+    if (index < 0 || index >= count()) throw RuntimeError(Error::InvalidCall);
     const QSignalBlocker quiet(this);
     const QString kept = index == listIndex_ ? QString() : this->text();
     if (index == listIndex_) {

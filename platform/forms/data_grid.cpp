@@ -60,7 +60,7 @@ QString DataGrid::columnCaption(int column) const {
 }
 
 QString DataGrid::columnText(int column) const {
-    if (!source_ || source_->currentRow() < 0) throw RuntimeError(3021);
+    if (!source_ || source_->currentRow() < 0) throw RuntimeError(Error::NoCurrentRecord);
     return rowTexts(source_->currentRow()).at(column);
 }
 

@@ -12,7 +12,7 @@
 #include "platform/forms/control.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/form.h"
-#include "platform/forms/key_codes.h"
+#include "platform/forms/key_ascii.h"
 
 namespace platform {
 
@@ -42,6 +42,15 @@ bool isTab(const QKeyEvent& event) {
            !event.modifiers().testFlag(Qt::ControlModifier);
 }
 
+Qt::Key keyOf(const QKeyEvent& event) {
+    return static_cast<Qt::Key>(event.key());
+}
+
+/// Shift, Ctrl and Alt; that a key stands on the number pad is nothing to a form.
+Qt::KeyboardModifiers heldWith(const QKeyEvent& event) {
+    return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+}
+
 }  // namespace
 
 FocusGuard::FocusGuard(Desktop& desktop) : desktop_(desktop) {
@@ -57,7 +66,7 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
             if (!form || !form->isLoaded()) return false;
             auto& key = static_cast<QKeyEvent&>(*event);
             if (event->type() == QEvent::KeyPress) return keyPressed(*form, key);
-            if (form->keyPreview()) desktop_.run([&] { form->Form_KeyUp(keyCode(key), shiftState(key)); });
+            if (form->keyPreview()) desktop_.run([&] { form->Form_KeyUp(keyOf(key)); });
             return false;
         }
         case QEvent::FocusIn:
@@ -88,9 +97,9 @@ bool FocusGuard::keyPressed(Form& form, QKeyEvent& event) {
     // A Tab that moves the focus is no key of the form.
     if (isTab(event)) return !mayLeave(form, nullptr);
     if (form.keyPreview()) {
-        desktop_.run([&] { form.Form_KeyDown(keyCode(event), shiftState(event)); });
+        desktop_.run([&] { form.Form_KeyDown(keyOf(event), heldWith(event)); });
         if (gone()) return true;
-        if (const int ascii = keyAscii(event); ascii != 0) desktop_.run([&] { form.Form_KeyPress(ascii); });
+        if (const int character = keyAscii(event); character != 0) desktop_.run([&] { form.Form_KeyPress(character); });
         if (gone()) return true;
     }
     return false;

@@ -57,9 +57,10 @@ public:
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
-    virtual void Form_KeyDown(int /*keyCode*/, int /*shift*/) {}
+    /// `held`: which of Shift, Ctrl and Alt.
+    virtual void Form_KeyDown(Qt::Key /*key*/, Qt::KeyboardModifiers /*held*/) {}
     virtual void Form_KeyPress(int /*keyAscii*/) {}
-    virtual void Form_KeyUp(int /*keyCode*/, int /*shift*/) {}
+    virtual void Form_KeyUp(Qt::Key /*key*/) {}
     virtual void Form_QueryUnload(bool& /*cancel*/) {}
     virtual void Form_Unload() {}
 

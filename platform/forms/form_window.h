@@ -23,7 +23,6 @@ public:
     ~FormWindow() override;
 
     [[nodiscard]] QWidget& window() override { return *this; }
-    [[nodiscard]] Kind kind() const { return kind_; }
     void show() override;
     /// Shows the form and returns when it is hidden or unloaded.
     void showModal();

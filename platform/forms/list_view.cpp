@@ -48,7 +48,7 @@ void ListView::selectItem(int row) {
 }
 
 QString ListView::selectedText(int column) const {
-    if (!currentItem()) throw RuntimeError(91);
+    if (!currentItem()) throw RuntimeError(Error::ObjectNotSet);
     return currentItem()->text(column);
 }
 

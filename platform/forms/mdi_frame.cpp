@@ -126,10 +126,6 @@ void MdiFrame::childActivated() {
     child->desktop().run([child] { child->Form_Activate(); });
 }
 
-void MdiFrame::focusNextChild() {
-    area_->activateNextSubWindow();
-}
-
 void MdiFrame::showMenus() {
     FormWindow* owner = activeForm();
     if (owner && owner->menus().empty()) owner = nullptr;

@@ -33,7 +33,6 @@ public:
     void bringToFront(QMdiSubWindow& frame);
     /// Unloads a child and takes its frame away; the child that was in front before it comes to the front.
     void removeChild(QMdiSubWindow& frame, const std::function<void()>& unload);
-    void focusNextChild();
 
 protected:
     void setPanel(QWidget& panel);

@@ -35,7 +35,7 @@ TreeView::TreeView(QWidget* parent) : QTreeWidget(parent) {
 
 int TreeView::addNode(const QString& parentKey, const QString& key, const QString& text) {
     const int parent = parentKey.isEmpty() ? 0 : indexOf(parentKey);
-    if (!parentKey.isEmpty() && parent == 0) throw RuntimeError(35601);
+    if (!parentKey.isEmpty() && parent == 0) throw RuntimeError(Error::NoSuchElement);
     auto* item = parent == 0 ? new QTreeWidgetItem(this) : new QTreeWidgetItem(at(parent).item);
     nodes_.push_back({key, item});
     item->setText(0, text);
@@ -129,7 +129,7 @@ void TreeView::keyPressEvent(QKeyEvent* event) {
 }
 
 const TreeView::Node& TreeView::at(int index) const {
-    if (index < 1 || index > nodeCount()) throw RuntimeError(35600, QStringLiteral("Index out of bounds"));
+    if (index < 1 || index > nodeCount()) throw RuntimeError(Error::IndexOutOfBounds);
     return nodes_[static_cast<std::size_t>(index - 1)];
 }
 

@@ -19,7 +19,6 @@ namespace platform {
 
 namespace {
 
-constexpr int noPrinter = 482;
 constexpr double twipsPerInch = 1440;
 
 QFont fontOf(const PrintedLine& line) {
@@ -142,14 +141,14 @@ PageArea pageAreaOf(const QPagedPaintDevice& device) {
 
 void paintJob(QPagedPaintDevice& device, const PrintJob& job) {
     QPainter painter;
-    if (!painter.begin(&device)) throw RuntimeError(noPrinter);
+    if (!painter.begin(&device)) throw RuntimeError(Error::NoPrinter);
     const double scale = pageScale(pageAreaOf(device));
     painter.scale(scale * device.logicalDpiX() / twipsPerInch, scale * device.logicalDpiY() / twipsPerInch);
     for (std::size_t i = 0; i < job.size(); ++i) {
-        if (i > 0 && !device.newPage()) throw RuntimeError(noPrinter);
+        if (i > 0 && !device.newPage()) throw RuntimeError(Error::NoPrinter);
         paintPage(painter, job[i]);
     }
-    if (!painter.end()) throw RuntimeError(noPrinter);
+    if (!painter.end()) throw RuntimeError(Error::NoPrinter);
 }
 
 }  // namespace platform

@@ -16,12 +16,11 @@ namespace platform {
 
 namespace {
 
-constexpr int noPrinter = 482;
 
 std::shared_ptr<QPrinter> openPrinter() {
     QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (info.isNull()) info = QPrinterInfo::availablePrinters().value(0);
-    if (info.isNull()) throw RuntimeError(noPrinter);
+    if (info.isNull()) throw RuntimeError(Error::NoPrinter);
     auto printer = std::make_shared<QPrinter>(info, QPrinter::HighResolution);
     const QPageSize own = info.defaultPageSize();
     printer->setPageSize(own.isValid() ? own : QPageSize(QPageSize::Letter));
@@ -31,7 +30,7 @@ std::shared_ptr<QPrinter> openPrinter() {
 /// The toolkit hands the finished job to the queue and drops the answer, which the queue's own library keeps.
 void checkAccepted() {
     if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
-        throw RuntimeError(noPrinter, QString::fromUtf8(cupsLastErrorString()));
+        throw RuntimeError(Error::NoPrinter, QString::fromUtf8(cupsLastErrorString()));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "family_file.h"
 
+using data::Opening;
 using data::Recordset;
 
 namespace {
@@ -58,7 +59,7 @@ TEST_F(Columns, ConvertWhatTheyAreGiven) {
         {"IsMinor", u"perhaps"_s, ""},
     };
     for (const auto& [column, given, expected] : settings) {
-        Recordset rows;
+        Recordset rows(Opening::Screen);
         open(rows, "Select * from Person where ID = 1");
         const int error = errorOf([&] { rows.setValue(QString::fromUtf8(column), given); });
         EXPECT_EQ(error, *expected == 0 ? -2147217887 : 0) << column << " " << given.toString().toStdString();
@@ -73,7 +74,7 @@ TEST_F(Columns, GiveValuesOfTheirKind) {
     sql("UPDATE Person SET Born = '2001-05-13 15:00:00', IsMinor = -1, Worth = 2.5, LegalName = '' WHERE ID = 1;"
         "UPDATE Person SET Born = '2001-05-13', LegalName = NULL WHERE ID = 2;"
         "UPDATE Person SET Born = 'never' WHERE ID = 3");
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person Order By ID");
     EXPECT_EQ(rows.value(u"Born"_s), moment(2001, 5, 13, 15));
     EXPECT_EQ(rows.value(u"IsMinor"_s), true);
@@ -87,7 +88,7 @@ TEST_F(Columns, GiveValuesOfTheirKind) {
 }
 
 TEST_F(Columns, EmptyTextIsNotNull) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person where ID = 1");
     rows.setValue(u"LegalName"_s, u""_s);
     rows.update();

@@ -10,6 +10,7 @@
 #include "hostile_disk.h"
 
 using data::Connection;
+using data::Opening;
 using data::Recordset;
 
 namespace {
@@ -97,7 +98,7 @@ TEST_F(Files, OpenAgainOnlyAfterClosing) {
 }
 
 TEST_F(Files, LockedByAnotherProgramAreNamed) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     rows.setValue(u"Seq"_s, 5);
     SQLite::Database other(path_.toStdString(), SQLite::OPEN_READWRITE);
@@ -117,13 +118,13 @@ TEST_P(ReadOnly, OpensAndRefusesEachWrite) {
     connection_.close();
     const OrdinaryUser user(folder_.path(), path_, GetParam());
     connection_.open(path_);
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     EXPECT_EQ(rows.recordCount(), 3);
     const std::function<void()> writes[] = {
         [&] { rows.deleteCurrent(); },
         [&] { rows.setValue(u"Seq"_s, 9), rows.update(); },
-        [&] { Recordset().open(u"Delete * from Person"_s, connection_); },
+        [&] { Recordset().open(u"Delete from Person"_s, connection_); },
     };
     for (const auto& write : writes) {
         QString words;
@@ -144,8 +145,8 @@ TEST(FullDisk, KeepsTheFileWholeAndThePendingRow) {
             "INSERT INTO Person(Comment) VALUES ('old')");
     Connection connection;
     connection.open(path);
-    Recordset rows;
-    rows.open(u"Select * from Person"_s, connection, data::CursorType::Static, data::LockType::Optimistic);
+    Recordset rows(Opening::Screen);
+    rows.open(u"Select * from Person"_s, connection);
     rows.setValue(u"Comment"_s, QString(60000, u'x'));
     disk.fill();
     QString words;

@@ -24,7 +24,6 @@ protected:
             "DEFAULT 4);"
             "INSERT INTO Person(Seq, LegalName) VALUES (1, 'A'), (2, 'B'), (3, 'C');"
             "INSERT INTO Pet(PersonID, Name) VALUES (2, 'Rex'), (1, 'Tom'), (1, 'Ada'), (9, 'Stray');");
-        connection_.setCursorLocation(data::CursorLocation::Client);
         connection_.open(path_);
     }
 
@@ -40,9 +39,7 @@ protected:
         return value.isNull() ? u"null"_s : QString::fromUtf8(value.getText());
     }
 
-    void open(data::Recordset& rows, const char* statement) {
-        rows.open(QString::fromUtf8(statement), connection_, data::CursorType::Static, data::LockType::Optimistic);
-    }
+    void open(data::Recordset& rows, const char* statement) { rows.open(QString::fromUtf8(statement), connection_); }
 
     QTemporaryDir folder_;
     QString path_;

@@ -13,7 +13,7 @@ TEST_F(PersonDeletion, ReachesEveryTableThatHasTheColumn) {
         "INSERT INTO [Two Words] VALUES (1, 'a'), (2, 'b'); INSERT INTO [Order] VALUES (1), (2);"
         "INSERT INTO MSysOwn VALUES (1); INSERT INTO mSysTheirs VALUES (1); INSERT INTO Lower VALUES (1);"
         "INSERT INTO Attachments VALUES ('Kbk_1_0')");
-    data::deleteFromAllTables(connection_, u"PersonID"_s, 1);
+    data::deletePersonsRows(connection_, 1);
     EXPECT_EQ(stored("SELECT group_concat(Name) FROM Pet"), u"Rex,Stray"_s);
     EXPECT_EQ(stored("SELECT group_concat(x) FROM [Two Words]"), u"b"_s);
     EXPECT_EQ(stored("SELECT count(*) FROM [Order]"), u"1"_s);
@@ -26,7 +26,7 @@ TEST_F(PersonDeletion, ReachesEveryTableThatHasTheColumn) {
 
 TEST_F(PersonDeletion, StopsAtAViewAfterTheTables) {
     sql("CREATE VIEW Tame AS SELECT * FROM Pet; CREATE VIEW Names AS SELECT LegalName FROM Person");
-    EXPECT_EQ(errorOf([&] { data::deleteFromAllTables(connection_, u"PersonID"_s, 1); }), -2147467259);
+    EXPECT_EQ(errorOf([&] { data::deletePersonsRows(connection_, 1); }), -2147467259);
     EXPECT_EQ(stored("SELECT count(*) FROM Pet"), u"2"_s) << "what was deleted before stays deleted";
 }
 

@@ -88,8 +88,8 @@ TEST_F(PowerCut, ASaveWaitsForTheDiskAtEachStep) {
     const QString live = path(u"FamilyInfo.mdb"_s);
     data::Connection connection;
     connection.open(live);
-    data::Recordset rows;
-    rows.open(u"Select * from Person"_s, connection, data::CursorType::Static, data::LockType::Optimistic);
+    data::Recordset rows(data::Opening::Screen);
+    rows.open(u"Select * from Person"_s, connection);
     const support::WatchedDisk disk;
     rows.addNew();
     rows.setValue(u"LegalName"_s, u"Ann"_s);

@@ -3,6 +3,7 @@
 #include "family_file.h"
 
 using data::EditMode;
+using data::Opening;
 using data::Recordset;
 using platform::ColumnKind;
 
@@ -20,7 +21,7 @@ protected:
 };
 
 TEST_F(Editing, TellsWhatHappensInOrder) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     QStringList log;
     listen(rows, log);
     const auto heard = [&log](const std::function<void()>& operation) {
@@ -50,7 +51,7 @@ TEST_F(Editing, TellsWhatHappensInOrder) {
 }
 
 TEST_F(Editing, HandlerOfAMoveMayNotMove) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     int refused = 0;
     QObject::connect(&rows, &Recordset::moveComplete, [&] { refused = errorOf([&] { rows.moveFirst(); }); });
@@ -60,7 +61,7 @@ TEST_F(Editing, HandlerOfAMoveMayNotMove) {
 }
 
 TEST_F(Editing, WhatControlsHandOverIsWrittenByUpdateAlone) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     QObject::connect(&rows, &Recordset::collecting, [&] { rows.setValue(u"Comment"_s, u"typed"_s); });
     rows.moveNext();
@@ -72,7 +73,7 @@ TEST_F(Editing, WhatControlsHandOverIsWrittenByUpdateAlone) {
 }
 
 TEST_F(Editing, NewRowReadsItsNumberAndDefaultsAfterTheWrite) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Pet");
     rows.addNew();
     EXPECT_FALSE(rows.value(u"ID"_s).isValid());
@@ -88,7 +89,7 @@ TEST_F(Editing, NewRowReadsItsNumberAndDefaultsAfterTheWrite) {
 }
 
 TEST_F(Editing, WritesChangedColumnsOnlyAndNoticesOtherHands) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     sql("UPDATE Person SET Comment = 'theirs' WHERE ID = 1");
     rows.setValue(u"Seq"_s, 7);
@@ -105,7 +106,7 @@ TEST_F(Editing, WritesChangedColumnsOnlyAndNoticesOtherHands) {
 }
 
 TEST_F(Editing, AChangeOfCaseAloneIsAConflictToo) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     sql("UPDATE Person SET LegalName = 'a' WHERE ID = 1");
     rows.setValue(u"LegalName"_s, u"Ann"_s);
@@ -136,7 +137,7 @@ TEST_F(Editing, SnapshotOutlivesWhatOtherStatementsDo) {
     Recordset rows, other, third;
     open(rows, "Select * from Person Order By Seq");
     other.open(u"Update Person Set Seq = Seq + 10, LegalName = 'Z' Where ID = 2"_s, connection_);
-    other.open(u"Delete * from Person Where ID = 3"_s, connection_);
+    other.open(u"Delete from Person Where ID = 3"_s, connection_);
     open(third, "Select * from Person");
     third.deleteCurrent();
     QString seen;
@@ -158,7 +159,7 @@ TEST_F(Editing, NumberGivenAgainIsAnotherRow) {
     sql("CREATE TABLE Plain (Name TEXT(9)); INSERT INTO Plain VALUES ('old')");
     Recordset rows, other;
     open(rows, "Select * from Plain");
-    other.open(u"Delete * from Plain"_s, connection_);
+    other.open(u"Delete from Plain"_s, connection_);
     rows.addNew();
     rows.setValue(u"Name"_s, u"new"_s);
     rows.update();
@@ -181,7 +182,7 @@ TEST_F(Editing, OwnWritesShowInARowPutAside) {
 }
 
 TEST_F(Editing, JoinWritesTheTableThatItShows) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "SELECT Pet.* FROM Person INNER JOIN Pet ON Person.ID = Pet.PersonID ORDER BY Person.Seq, Pet.ID");
     EXPECT_EQ(rows.recordCount(), 3);
     EXPECT_EQ(rows.value(u"Name"_s), u"Tom"_s);
@@ -213,7 +214,7 @@ class Shapes : public Editing, public testing::WithParamInterface<Shape> {};
 
 TEST_P(Shapes, AreReadAndWrittenWhereRowsHaveAKey) {
     sql("CREATE INDEX byName ON Pet(Name); CREATE VIEW Tame AS SELECT * FROM Pet WHERE PersonID < 9;");
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, GetParam().statement);
     QString values;
     for (; !rows.eof(); rows.moveNext())
@@ -230,7 +231,7 @@ const Shape shapes[] = {
     {"Select Name as n from Pet order by n Desc", true, "Tom Stray Rex Ada"},
     {"Select [Name], ID from [Pet] order by 1", true, "Ada Rex Stray Tom"},
     {"Select p.Name from Pet as p where p.ID in (Select ID from Person) order by p.ID", true, "Rex Tom Ada"},
-    {"Select Top 2 * from Pet order by ID Desc", true, "4 3"},
+    {"Select * from Pet order by ID Desc Limit 2", true, "4 3"},
     {"SELECT Pet.* FROM Person INNER JOIN Pet ON Person.ID = Pet.PersonID ORDER BY Name, ID", true, "3 1 2"},
     {"SELECT b.* FROM Pet a INNER JOIN Pet b ON a.ID = b.ID + 1", true, "1 2 3"},
     {"SELECT Person.* FROM Pet LEFT JOIN Person ON Person.ID = Pet.PersonID ORDER BY Pet.ID", false, "2 1 1"},
@@ -249,11 +250,11 @@ const Shape shapes[] = {
 INSTANTIATE_TEST_SUITE_P(Statements, Shapes, testing::ValuesIn(shapes));
 
 TEST_F(Editing, ActionStatementsLeaveTheRecordsetClosed) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     rows.open(u"Update Person Set Seq = Seq+1 Where Seq >= 2"_s, connection_);
     EXPECT_FALSE(rows.isOpen());
     EXPECT_EQ(stored("SELECT group_concat(Seq) FROM Person"), u"1,3,4"_s);
-    rows.open(u"Delete *from Person where ID = 99"_s, connection_);
+    rows.open(u"Delete from Person where ID = 99"_s, connection_);
     EXPECT_FALSE(rows.isOpen());
     EXPECT_EQ(errorOf([&] { rows.moveNext(); }), 3704);
     EXPECT_EQ(errorOf([&] { rows.close(); }), 3704);
@@ -261,7 +262,7 @@ TEST_F(Editing, ActionStatementsLeaveTheRecordsetClosed) {
 
 TEST_F(Editing, FailedWriteKeepsWhatIsPending) {
     sql("CREATE UNIQUE INDEX oneName ON Person(LegalName)");
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person Order By ID");
     rows.addNew();
     rows.setValue(u"LegalName"_s, u"b"_s);
@@ -275,7 +276,7 @@ TEST_F(Editing, FailedWriteKeepsWhatIsPending) {
 }
 
 TEST_F(Editing, ClosingTheConnectionDropsPendingChanges) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     rows.setValue(u"Seq"_s, 99);
     connection_.close();
@@ -285,7 +286,7 @@ TEST_F(Editing, ClosingTheConnectionDropsPendingChanges) {
 }
 
 TEST_F(Editing, KnowsItsColumns) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     EXPECT_EQ(errorOf([&] { (void)rows.value(u"Nobody"_s); }), 3265);
     EXPECT_EQ(errorOf([&] { open(rows, "Select * from Person"); }), 3705);

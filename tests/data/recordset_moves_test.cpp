@@ -3,6 +3,7 @@
 #include "family_file.h"
 
 using data::EditMode;
+using data::Opening;
 using data::Recordset;
 
 namespace {
@@ -66,7 +67,7 @@ TEST_P(Moves, LeadWhereTheyShould) {
     for (const QChar name : QString::fromUtf8(GetParam().rows))
         setup += "INSERT INTO Person(LegalName) VALUES ('" + QByteArray(1, name.toLatin1()) + "');";
     sql(setup.constData());
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "select * from Person Order by ID");
     QString outcome;
     for (const auto& step : QString::fromUtf8(GetParam().steps).split(u' ', Qt::SkipEmptyParts))
@@ -147,17 +148,11 @@ const Trace traces[] = {
 
 INSTANTIATE_TEST_SUITE_P(Traces, Moves, testing::ValuesIn(traces));
 
-class ForwardOnly : public FamilyFile {
-protected:
-    void openStream(Recordset& rows, const char* statement) {
-        rows.setCursorLocation(data::CursorLocation::Server);
-        rows.open(QString::fromUtf8(statement), connection_);
-    }
-};
+class ForwardOnly : public FamilyFile {};
 
 TEST_F(ForwardOnly, StreamsToTheEndAndNowhereElse) {
     Recordset rows;
-    openStream(rows, "Select LegalName from Person order by LegalName");
+    open(rows, "Select LegalName from Person order by LegalName");
     QString names;
     for (; !rows.eof(); rows.moveNext())
         names += rows.value(u"LegalName"_s).toString();
@@ -174,7 +169,7 @@ TEST_F(ForwardOnly, StreamsToTheEndAndNowhereElse) {
 
 TEST_F(ForwardOnly, OneRowLookUpLeftOpenHoldsNoLock) {
     Recordset rows;
-    openStream(rows, "Select Max(ID) as TheID from Person Where ID < 3");
+    open(rows, "Select Max(ID) as TheID from Person Where ID < 3");
     EXPECT_EQ(rows.value(u"TheID"_s), 2);
     sql("UPDATE Person SET Seq = 0");
     EXPECT_EQ(stored("SELECT sum(Seq) FROM Person"), u"0"_s);
@@ -182,26 +177,19 @@ TEST_F(ForwardOnly, OneRowLookUpLeftOpenHoldsNoLock) {
 
 TEST_F(ForwardOnly, AggregatesOfNothing) {
     Recordset rows;
-    openStream(rows, "Select Count(*) as n, Min(ID) as low from Person where ID > 99");
+    open(rows, "Select Count(*) as n, Min(ID) as low from Person where ID > 99");
     EXPECT_EQ(rows.value(u"n"_s), 0);
     EXPECT_FALSE(rows.value(u"low"_s).isValid());
     rows.release();
-    openStream(rows, "Select * from Person where 1=2");
+    open(rows, "Select * from Person where 1=2");
     EXPECT_TRUE(rows.bof() && rows.eof());
     EXPECT_EQ(rows.fieldNames().size(), 8);
 }
 
-TEST_F(ForwardOnly, IsFetchedByAClientCursor) {
-    Recordset rows;
-    rows.open(u"Select LegalName from Person"_s, connection_);
-    EXPECT_EQ(rows.recordCount(), 3);
-    EXPECT_EQ(errorOf([&] { rows.addNew(); }), 3251) << "its lock is still read-only";
-}
-
 TEST_F(ForwardOnly, WritesAreDurableWhileAStreamIsOpen) {
     Recordset rows;
-    openStream(rows, "Select * from Person");
-    Recordset writer;
+    open(rows, "Select * from Person");
+    Recordset writer(Opening::Screen);
     open(writer, "Select * from Person");
     writer.setValue(u"Comment"_s, u"kept"_s);
     writer.update();

@@ -9,13 +9,12 @@ using namespace Qt::StringLiterals;
 /// kill.
 int main(int, char** arguments) {
     data::Connection connection;
-    connection.setCursorLocation(data::CursorLocation::Client);
     connection.open(QString::fromLocal8Bit(arguments[1]));
-    data::Recordset rows;
+    data::Recordset rows(data::Opening::Screen);
     rows.open(u"Select Max(Number) as n from Log"_s, connection);
     int number = rows.value(u"n"_s).toInt();
     rows.close();
-    rows.open(u"Select * from Log where ID = 1"_s, connection, data::CursorType::Static, data::LockType::Optimistic);
+    rows.open(u"Select * from Log where ID = 1"_s, connection);
     while (true) {
         ++number;
         if (number % 2 == 1)

@@ -198,7 +198,7 @@ TEST_F(TemplateFile, ReplacesAnOlderFileWhole) {
 
 TEST(Template, FailsWithoutLeavingAnything) {
     const QTemporaryDir folder;
-    EXPECT_THROW(data::createTemplate(folder.filePath(u"absent/a.mdb"_s)), SQLite::Exception);
+    EXPECT_THROW(data::createTemplate(folder.filePath(u"absent/a.mdb"_s)), platform::RuntimeError);
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"taken.mdb/inside"_s));
     EXPECT_THROW(data::createTemplate(folder.filePath(u"taken.mdb"_s)), platform::RuntimeError);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::NoDotAndDotDot), QStringList{});

@@ -11,26 +11,12 @@ struct Spelling {
 
 TEST(Dialect, TurnsForeignSpellingsOutsideQuotes) {
     const Spelling spellings[] = {
-        {"Delete * from T where ID = 1", "Delete   from T where ID = 1"},
-        {"Delete *from T", "Delete  from T"},
-        {"delete * from [Two Words];", "delete   from [Two Words];"},
-        {"Select Top 1 c from T Order By c Desc", "Select  c from T Order By c Desc LIMIT 1"},
-        {"SELECT TOP 2 * FROM T;", "SELECT  * FROM T LIMIT 2;"},
-        {"Select a from T where c in (Select Top 1 c from U) and d = 1",
-         "Select a from T where c in (Select  c from U LIMIT 1) and d = 1"},
-        {"Select Top from T", "Select Top from T"},
-        {"Select Top, 1 from T", "Select Top, 1 from T"},
         {"Select a from T where c = True or d=false", "Select a from T where c = (-1) or d=0"},
         {"Select T.true from T where c is true", "Select T.true from T where c is true"},
-        {"Select 'Delete * from True' from T where c = 'Select Top 1 true'",
-         "Select 'Delete * from True' from T where c = 'Select Top 1 true'"},
+        {"Select 'or True' from T where c = 'it is true'", "Select 'or True' from T where c = 'it is true'"},
         {"Select [true], \"false\" from T where c = 'it''s true'",
          "Select [true], \"false\" from T where c = 'it''s true'"},
         {"Select a from T -- true", "Select a from T -- true"},
-        {"Select C.a From A Right Join (B Right Join C On B.ID = C.b) On A.ID = C.c Where C.a = 1;",
-         "Select C.a From (C LEFT JOIN B On B.ID = C.b) LEFT JOIN A On A.ID = C.c Where C.a = 1;"},
-        {"Select x.a From A as x Right Join B On x.ID = B.a", "Select x.a From A as x Right Join B On x.ID = B.a"},
-        {"Select * From A Right Join B On A.ID = B.a", "Select * From A Right Join B On A.ID = B.a"},
         {"select * from Person Order by Seq, ID", "select * from Person Order by Seq, ID"},
     };
     for (const auto& [foreign, ours] : spellings)
@@ -76,16 +62,16 @@ TEST_F(Errors, CarryTheProvidersNumbersAndWords) {
         {"Insert Person", -2147217900, "Syntax error in INSERT INTO statement."},
         {"Hello", -2147217900,
          "Invalid SQL statement; expected 'DELETE', 'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'."},
-        {"Select * from Person; Delete * from Person", -2147217900, "Characters found after end of SQL statement."},
+        {"Select * from Person; Delete from Person", -2147217900, "Characters found after end of SQL statement."},
         {"Select * from Nobody", -2147217865,
-         "The Microsoft Jet database engine cannot find the input table or query 'Nobody'.  Make sure it exists and "
+         "The database engine cannot find the input table or query 'Nobody'.  Make sure it exists and "
          "that its name is spelled correctly."},
         {"Select * from Person where Nobody = 1", -2147217904, "No value given for one or more required parameters."},
         {"Select Nobody from Person", -2147217904, "No value given for one or more required parameters."},
         {"Select * from Person where ID = ?", -2147217904, "No value given for one or more required parameters."},
     };
     for (const auto& [statement, number, expected] : refusals) {
-        data::Recordset rows;
+        data::Recordset rows(data::Opening::Screen);
         QString words;
         EXPECT_EQ(errorOf([&] { open(rows, statement); }, &words), number) << statement;
         EXPECT_EQ(words.toStdString(), expected) << statement;
@@ -95,9 +81,9 @@ TEST_F(Errors, CarryTheProvidersNumbersAndWords) {
 }
 
 TEST_F(Errors, TextIsNeverCutAtANul) {
-    data::Recordset rows;
+    data::Recordset rows(data::Opening::Screen);
     QString words;
-    const QString statement = u"Delete * from Person where LegalName = 'A"_s + QChar(0) + u"B'"_s;
+    const QString statement = u"Delete from Person where LegalName = 'A"_s + QChar(0) + u"B'"_s;
     EXPECT_EQ(errorOf([&] { rows.open(statement, connection_); }, &words), -2147217900);
     EXPECT_TRUE(words.startsWith(u"Syntax error in string"_s));
     EXPECT_EQ(stored("SELECT count(*) FROM Person"), u"3"_s);
@@ -105,7 +91,7 @@ TEST_F(Errors, TextIsNeverCutAtANul) {
 
 TEST_F(Errors, LegalSpellingsOfNumbersAreUnderstood) {
     for (const char* number : {"(2)", "+2", " 2 ", "2.0", "2e0", "1.5"}) {
-        data::Recordset rows;
+        data::Recordset rows(data::Opening::Screen);
         open(rows, ("Select * from Person where Seq >= " + std::string(number)).c_str());
         EXPECT_EQ(rows.recordCount(), 2) << number;
     }

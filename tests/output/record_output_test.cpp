@@ -233,7 +233,9 @@ private:
 TEST_F(RecordOutput, ATextThatCanNotBeMadeIsToldApartAndLeavesTheOldFile) {
     writeFile(u"a.txt"_s, "old");
     QStringList told;
-    const auto unreadable = []() -> output::PrintableScreen { throw platform::RuntimeError(13); };
+    const auto unreadable = []() -> output::PrintableScreen {
+        throw platform::RuntimeError(platform::Error::TypeMismatch);
+    };
     QMetaObject::invokeMethod(
         qApp,
         [&] {

@@ -106,7 +106,9 @@ public:
     }
 
     [[nodiscard]] bool keyPreview() const override { return true; }
-    void Form_KeyDown(int keyCode, int shift) override { write(u"Down %1 %2"_s.arg(keyCode).arg(shift)); }
+    void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override {
+        write(u"Down "_s + QKeySequence(key | held).toString());
+    }
     void Form_KeyPress(int keyAscii) override { write(u"Press %1"_s.arg(keyAscii)); }
     void Form_QueryUnload(bool& cancel) override { cancel = !desktop().ask(u"Leave?"_s, u"Leaving"_s); }
 
@@ -216,7 +218,8 @@ private:
             desktop().beep();
             write(u"Waited"_s);
         });
-        addButton(*layout, u"cmdFail"_s, u"Fail"_s, [] { throw platform::RuntimeError(91); });
+        addButton(*layout, u"cmdFail"_s, u"Fail"_s,
+                  [] { throw platform::RuntimeError(platform::Error::ObjectNotSet); });
         addButton(*layout, u"cmdHidden"_s, u"Hidden"_s, [this] { write(u"Hidden"_s); });
         layout->itemAt(layout->count() - 1)->widget()->hide();
         addButton(*layout, u"cmdDisabled"_s, u"Disabled"_s, [this] { write(u"Disabled"_s); });

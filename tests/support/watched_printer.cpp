@@ -14,7 +14,6 @@ namespace support {
 
 namespace {
 
-constexpr int noPrinter = 482;
 constexpr int resolution = 1200;
 /// Points that a household printer can't reach at each edge.
 constexpr double usualMargin = 18;
@@ -59,7 +58,7 @@ QJsonArray WatchedPrinter::takeJobs() {
 }
 
 platform::PageArea WatchedPrinter::page() {
-    if (file_.isEmpty()) throw platform::RuntimeError(noPrinter);
+    if (file_.isEmpty()) throw platform::RuntimeError(platform::Error::NoPrinter);
     const QRectF sheet = sheetLayout().fullRect(QPageLayout::Point);
     const QRectF printable = sheetLayout().paintRect(QPageLayout::Point);
     constexpr double twips = 20;
@@ -73,7 +72,7 @@ QString WatchedPrinter::nextFile() {
 }
 
 void WatchedPrinter::send(const platform::PrintJob& job, const QString& title) {
-    if (file_.isEmpty()) throw platform::RuntimeError(noPrinter);
+    if (file_.isEmpty()) throw platform::RuntimeError(platform::Error::NoPrinter);
     QPdfWriter writer(nextFile());
     writer.setResolution(resolution);
     writer.setTitle(title);
