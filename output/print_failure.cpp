@@ -15,7 +15,7 @@ void attemptPrint(platform::Desktop& desktop, const QString& title, const std::f
             desktop.notice(error.report(), title, platform::Icon::Critical);
             return;
         }
-        const bool refused = error.description() != platform::RuntimeError(printerError).description();
+        const bool refused = error.description() != platform::RuntimeError(platform::Error::NoPrinter).description();
         desktop.notice(refused
                            ? error.description()
                            : u"No printer is configured for this computer so you will not be able to print anything."_s,

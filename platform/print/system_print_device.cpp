@@ -16,7 +16,6 @@ namespace platform {
 
 namespace {
 
-
 std::shared_ptr<QPrinter> openPrinter() {
     QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (info.isNull()) info = QPrinterInfo::availablePrinters().value(0);

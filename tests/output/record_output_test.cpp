@@ -257,7 +257,8 @@ public:
     void send(const platform::PrintJob& /*job*/, const QString& title) override {
         QThread::msleep(60);
         titles << title;
-        if (titles.size() == refused) throw platform::RuntimeError(482, u"The queue is closed for today."_s);
+        if (titles.size() == refused)
+            throw platform::RuntimeError(platform::Error::NoPrinter, u"The queue is closed for today."_s);
     }
     QStringList titles;
     qsizetype refused = 0;
