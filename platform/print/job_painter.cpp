@@ -70,22 +70,28 @@ std::vector<Run> runsOf(const QString& text) {
     return runs;
 }
 
+Qt::LayoutDirection directionOf(const Run& run) {
+    return run.kind == Run::Kind::RightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
 /// Paper in a file takes no characters of a font that is made of coloured pictures; it takes the pictures. `cell` is
 /// what the run's positions cover.
-void paintPicture(QPainter& painter, const QRectF& cell, const QString& text) {
+void paintPicture(QPainter& painter, const QRectF& cell, const Run& run) {
     // Half the units of the page is 720 dots to the inch.
     constexpr double detail = 0.5;
     QImage picture((cell.size() * detail).toSize(), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter drawing(&picture);
+    drawing.setLayoutDirection(directionOf(run));
+    const QString text = run.text.trimmed();
     QFont font = painter.font();
     font.setPixelSize(static_cast<int>(font.pixelSize() * detail));
     drawing.setFont(font);
     const QRectF whole(QPointF(0, 0), cell.size() * detail);
-    const double natural = drawing.boundingRect(whole, Qt::AlignLeft | Qt::AlignVCenter, text).width();
+    constexpr int atLeft = Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter;
+    const double natural = drawing.boundingRect(whole, atLeft, text).width();
     if (natural > whole.width()) drawing.scale(whole.width() / natural, 1);
-    drawing.drawText(QRectF(0, 0, std::max(natural, whole.width()), whole.height()), Qt::AlignLeft | Qt::AlignVCenter,
-                     text);
+    drawing.drawText(QRectF(0, 0, std::max(natural, whole.width()), whole.height()), atLeft, text);
     drawing.end();
     painter.drawImage(cell, picture);
 }
@@ -94,7 +100,7 @@ void paintPicture(QPainter& painter, const QRectF& cell, const QString& text) {
 void paintText(QPainter& painter, const QPointF& start, double width, const Run& run) {
     // A letter that exists with its accent looks better than one upon which a font puts it.
     const QString text = run.text.normalized(QString::NormalizationForm_C).trimmed();
-    painter.setLayoutDirection(run.kind == Run::Kind::RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.setLayoutDirection(directionOf(run));
     const double natural = QFontMetricsF(painter.font(), painter.device()).horizontalAdvance(text);
     const double narrowed = natural > width && width > 0 ? width / natural : 1;
     painter.save();
@@ -114,8 +120,8 @@ void paintLine(QPainter& painter, const PrintedLine& line) {
         if (run.kind == Run::Kind::Latin) {
             painter.setLayoutDirection(Qt::LeftToRight);
             painter.drawText(QPointF(x, baseline), run.text);
-        } else if (run.kind == Run::Kind::Emoji) {
-            paintPicture(painter, {x, line.y, width, lineHeight(line.size)}, run.text);
+        } else if (hasEmoji(run.text)) {
+            paintPicture(painter, {x, line.y, width, lineHeight(line.size)}, run);
         } else {
             paintText(painter, {x, baseline}, width, run);
         }
