@@ -166,7 +166,7 @@ TEST(FullDisk, KeepsTheFileWholeAndThePendingRow) {
 }
 
 TEST_F(Files, AChangeThatIsInTheFileIsNoFailureThoughItsFolderCannotBeFlushed) {
-    Recordset rows;
+    Recordset rows(Opening::Screen);
     open(rows, "Select * from Person");
     foldersRefuseFlush = true;
     rows.addNew();
@@ -174,7 +174,7 @@ TEST_F(Files, AChangeThatIsInTheFileIsNoFailureThoughItsFolderCannotBeFlushed) {
     EXPECT_EQ(errorOf([&] { rows.update(); }), 0);
     foldersRefuseFlush = false;
     EXPECT_EQ(rows.editMode(), data::EditMode::None);
-    Recordset seen;
+    Recordset seen(Opening::Screen);
     open(seen, "Select * from Person where Seq = 9");
     EXPECT_EQ(seen.recordCount(), 1);
 }

@@ -117,7 +117,8 @@ TEST_F(Editing, TextsThatAreNoPlainUtf8CompareAsTheyStand) {
     sql("UPDATE Person SET LegalName = CAST(X'EFBBBF41' AS TEXT) WHERE ID = 1;"
         "UPDATE Person SET LegalName = CAST(X'42FF43C3' AS TEXT) WHERE ID = 2;"
         "UPDATE Person SET LegalName = CAST(X'EDA080F09F9880' AS TEXT) WHERE ID = 3");
-    Recordset rows, found;
+    Recordset rows(Opening::Screen);
+    Recordset found(Opening::Screen);
     open(rows, "Select * from Person Order By ID");
     for (int id = 1; !rows.eof(); ++id, rows.moveNext()) {
         const QString name = rows.value(u"LegalName"_s).toString();
@@ -134,7 +135,9 @@ TEST_F(Editing, TextsThatAreNoPlainUtf8CompareAsTheyStand) {
 }
 
 TEST_F(Editing, SnapshotOutlivesWhatOtherStatementsDo) {
-    Recordset rows, other, third;
+    Recordset rows(Opening::Screen);
+    Recordset other(Opening::Screen);
+    Recordset third(Opening::Screen);
     open(rows, "Select * from Person Order By Seq");
     other.open(u"Update Person Set Seq = Seq + 10, LegalName = 'Z' Where ID = 2"_s, connection_);
     other.open(u"Delete from Person Where ID = 3"_s, connection_);
@@ -157,7 +160,8 @@ TEST_F(Editing, SnapshotOutlivesWhatOtherStatementsDo) {
 
 TEST_F(Editing, NumberGivenAgainIsAnotherRow) {
     sql("CREATE TABLE Plain (Name TEXT(9)); INSERT INTO Plain VALUES ('old')");
-    Recordset rows, other;
+    Recordset rows(Opening::Screen);
+    Recordset other(Opening::Screen);
     open(rows, "Select * from Plain");
     other.open(u"Delete from Plain"_s, connection_);
     rows.addNew();
@@ -171,7 +175,8 @@ TEST_F(Editing, NumberGivenAgainIsAnotherRow) {
 }
 
 TEST_F(Editing, OwnWritesShowInARowPutAside) {
-    Recordset rows, other;
+    Recordset rows(Opening::Screen);
+    Recordset other(Opening::Screen);
     open(rows, "Select * from Person");
     other.open(u"Update Person Set Seq = 50"_s, connection_);
     rows.setValue(u"LegalName"_s, u"New"_s);

@@ -60,7 +60,7 @@ TEST_F(FormsTest, ABoxIsCheckedBeforeTheFocusLeavesIt) {
         static_cast<void>(log.news());
         play(move.gesture);
         // The key that held a modifier goes to the form first.
-        static const QRegularExpression modifier(u"Down \\d+ \\d+;"_s);
+        static const QRegularExpression modifier(u"Down (Shift\\+Shift|Alt\\+Alt);"_s);
         EXPECT_EQ(log.news().remove(modifier), (move.validates ? u"Validate;"_s : QString()) + move.effect);
         EXPECT_EQ(focus(), move.focus);
         if (move.gesture == u"click chkFields(0)"_s) user.click(u"chkFields(0)"_s);
