@@ -61,7 +61,7 @@ void CategoryTree::countNode(int nodeIndex) {
 }
 
 QString CategoryTree::counted(const CategoryNode& node) const {
-    const QString all = node.table();
+    QString all = node.table();
     const bool everybody = session_.gsPersonName == u"Whole Family"_s || session_.gsPersonName == u"Family"_s;
     if (everybody || node.picture.memberColumn.isEmpty()) return all;
     return all + u" where "_s + node.picture.memberColumn + u" = "_s + QString::number(session_.gPersonID);

@@ -108,11 +108,11 @@ QIcon themeIcon(const QString& name) {
 
 QIcon ownIcon(const QString& name) {
     QHash<QString, QIcon>& known = knownIcons(u"kinbook"_s);
-    if (const QIcon icon = known.value(name); !icon.isNull()) return icon;
+    if (QIcon icon = known.value(name); !icon.isNull()) return icon;
     knowPictures();
     QFile file(u":/kinbook/%1.svg"_s.arg(name));
     const QByteArray picture = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    const QIcon icon = drawnIcon([picture](QPainter& painter, const QRectF& place) {
+    QIcon icon = drawnIcon([picture](QPainter& painter, const QRectF& place) {
         const QString ink = QApplication::palette().color(QPalette::ButtonText).name();
         QSvgRenderer(QByteArray(picture).replace("currentColor", ink.toLatin1())).render(&painter, place);
     });
