@@ -16,6 +16,23 @@ enum class ShownIn { Box, StateCombo, StatusCombo, Nowhere };
 /// What a column holds in a new row that doesn't set it. A yes/no column is always no.
 enum class Initially { Null, Zero };
 
+/// What a date tells of the days to come.
+struct Coming {
+    enum class When { Never, Once, EachYear, NoMore };
+
+    When when = When::Never;
+    QLatin1StringView what{};  ///< empty: the label
+};
+
+/// Something expires, falls due or begins on that day.
+inline constexpr Coming ahead{Coming::When::Once};
+/// The day returns every year, and is called so.
+constexpr Coming eachYear(QLatin1StringView what) {
+    return {Coming::When::EachYear, what};
+}
+/// Whatever day of the row returned every year does so no more: a marriage that has ended has no wedding day.
+inline constexpr Coming returnsNoMore{Coming::When::NoMore};
+
 /// One field of a window and the column behind it. A window numbers its boxes in the order of the definitions, text
 /// boxes first, then check boxes.
 struct Column {
@@ -28,6 +45,7 @@ struct Column {
     QLatin1StringView hint{};
     ShownIn shownIn = ShownIn::Box;
     Initially initially = Initially::Null;
+    Coming coming{};
 
     [[nodiscard]] constexpr bool isStored() const { return !name.isEmpty(); }
     /// What the column goes by where a window names it.

@@ -59,7 +59,7 @@ constexpr Column cds[] = {
     {"Type"_L1,            "Type:"_L1,         Text,     50, {},              "Individual, Joint, etc."_L1},
     {"AccountNumber"_L1,   "Acct Number:"_L1,  Text,     50, "#,##0.00"_L1},
     {"CDAmount"_L1,        "CD Amount:"_L1,    Number,    0, "#,##0.00"_L1},
-    {"MaturityDate"_L1,    "Maturity:"_L1,     Date,      0, "M/d/yy"_L1,     "Maturity Date"_L1},
+    {"MaturityDate"_L1,    "Maturity:"_L1,     Date,      0, "M/d/yy"_L1,     "Maturity Date"_L1, Box, {}, ahead},
     {"AdditionalNames"_L1, "Comment/Additional Names on CD/CD Location:"_L1, LongText},
     {"Comment"_L1,         "Comment/Passbook Location:"_L1, LongText},
 };

@@ -36,17 +36,17 @@ constexpr Column parents[] = {
     {"MotherAlive"_L1,          "Mother Living:"_L1,    YesNo},
 };
 
-// Status is chosen from a list of its own, Date is the wedding.
+// Status is chosen from a list of its own, Date is the wedding, DeathDate that of the one whom the member married.
 constexpr Column marriage[] = {
     {"MarriedTo"_L1,       "Married To:"_L1,              Text,     50},
-    {"Date"_L1,            "Date Married:"_L1,            Date},
+    {"Date"_L1,            "Date Married:"_L1,            Date,      0, {},              {}, Box, {}, eachYear("Wedding day"_L1)},
     {"PerformedBy"_L1,     "Married By:"_L1,              Text,     50},
     {"Status"_L1,          "Status:"_L1,                  Text,      0, {},              {}, StatusCombo},
     {"City"_L1,            "City:"_L1,                    City,     50},
     {"County"_L1,          "County:"_L1,                  Text,     50},
     {"State"_L1,           "State:"_L1,                   Text,      0, {},              {}, StateCombo},
-    {"DeathDate"_L1,       "Death Date:"_L1,              Date},
-    {"DivorceDate"_L1,     "Divorce Date:"_L1,            Date},
+    {"DeathDate"_L1,       "Death Date:"_L1,              Date,      0, {},              {}, Box, {}, returnsNoMore},
+    {"DivorceDate"_L1,     "Divorce Date:"_L1,            Date,      0, {},              {}, Box, {}, returnsNoMore},
     {"LicenseLoc"_L1,      "Marriage License Location:"_L1, LongText},
     {"DeathCertLoc"_L1,    "Death Certificate Location:"_L1, LongText},
     {"DivorcePaperLoc"_L1, "Divorce Papers Location:"_L1, LongText},
@@ -93,7 +93,7 @@ constexpr Column memberships[] = {
     {"Standing"_L1,       "Standing:"_L1,        Text,     50},
     {"Dues"_L1,           "Dues:"_L1,            Number,    0, "#,##0.00"_L1},
     {"DuesPer"_L1,        "Dues Per:"_L1,        Text,     50, {},              paymentModes},
-    {"ExpirationDate"_L1, "Expiration Date:"_L1, Date},
+    {"ExpirationDate"_L1, "Expiration Date:"_L1, Date,      0, {},              {}, Box, {}, ahead},
     {"Comment"_L1,        "Comment:"_L1,         LongText},
 };
 

@@ -65,7 +65,7 @@ constexpr Column annuities[] = {
     {"Annuitant"_L1,    "Annuitant:"_L1,     Text,      0, "M/d/yy"_L1},
     {"Beneficiary"_L1,  "Beneficiary:"_L1,   Text,      0, "0.000%"_L1},
     {"PurchaseDate"_L1, "Purchase Date:"_L1, Date,      0, "M/d/yy"_L1,     "Maturity Date"_L1},
-    {"MaturityDate"_L1, "Maturity:"_L1,      Date,      0, "M/d/yy"_L1,     "Maturity Date"_L1},
+    {"MaturityDate"_L1, "Maturity:"_L1,      Date,      0, "M/d/yy"_L1,     "Maturity Date"_L1, Box, {}, ahead},
     {"Comment"_L1,      "Comment/Documents Location:/Qualification Type"_L1, LongText},
     {"Qualified"_L1,    "Qualified"_L1,      YesNo},
 };
@@ -82,8 +82,8 @@ constexpr Column bonds[] = {
     {"BondType"_L1,      "Bond Type:"_L1,     Text,     50, "#,##0.00"_L1,   "Corporate, Government, Municipal"_L1},
     {"Value"_L1,         "Cost Basis:"_L1,    Number,    0, "#,##0.00"_L1},
     {"ValuationDate"_L1, "Purchase Date:"_L1, Date,      0, "M/d/yy"_L1},
-    {"MaturityDate"_L1,  "Maturity:"_L1,      Date,      0, "M/d/yy"_L1,     "Maturity Date"_L1},
-    {"InterestDate"_L1,  "Call Date:"_L1,     Date,      0, "M/d/yy"_L1},
+    {"MaturityDate"_L1,  "Maturity:"_L1,      Date,      0, "M/d/yy"_L1,     "Maturity Date"_L1, Box, {}, ahead},
+    {"InterestDate"_L1,  "Call Date:"_L1,     Date,      0, "M/d/yy"_L1,     {}, Box, {}, ahead},
     {"InterestRate"_L1,  "Coupon Rate:"_L1,   Number,    0, "0.000"_L1},
     {"Comment"_L1,       "Comment/Documents Location:"_L1, LongText},
     {"TaxExempt"_L1,     "Tax Exempt"_L1,     YesNo},
@@ -110,7 +110,7 @@ constexpr Column mutualFunds[] = {
 // FaceValue is labelled as the market value; Value is what it cost.
 constexpr Column savingsBonds[] = {
     {"Payer"_L1,         "Issuer:"_L1,        Text,     50},
-    {"MaturityDate"_L1,  "Maturity Date:"_L1, Date},
+    {"MaturityDate"_L1,  "Maturity Date:"_L1, Date,      0, {},              {}, Box, {}, ahead},
     {"CUSIP"_L1,         "CUSIP #:"_L1,       Text,      0, "#,##0.00"_L1},
     {"ValuationDate"_L1, "Purchase Date:"_L1, Date},
     {"FaceValue"_L1,     "Market Value:"_L1,  Number,    0, "#,##0.00"_L1},
@@ -122,9 +122,9 @@ constexpr Column savingsBonds[] = {
 
 constexpr Column treasuryNotes[] = {
     {"Type"_L1,          "Type:"_L1,            Text,     50, {},              "Bill, Note, Bond, etc."_L1},
-    {"MaturityDate"_L1,  "Maturity Date:"_L1,   Date},
+    {"MaturityDate"_L1,  "Maturity Date:"_L1,   Date,      0, {},              {}, Box, {}, ahead},
     {"InterestRate"_L1,  "Coupon Rate:"_L1,     Number,    0, "0.000"_L1},
-    {"InterestDate"_L1,  "Interest Date:"_L1,   Date},
+    {"InterestDate"_L1,  "Interest Date:"_L1,   Date,      0, {},              {}, Box, {}, ahead},
     {"Value"_L1,         "Cost Basis:"_L1,      Number,    0, "#,##0.00"_L1},
     {"ValuationDate"_L1, "Purchase Date:"_L1,   Date},
     {"TradingAt"_L1,     "Trading At:"_L1,      Number,    0, "#,##0.00"_L1},
@@ -134,10 +134,10 @@ constexpr Column treasuryNotes[] = {
 
 constexpr Column otherSecurities[] = {
     {"SecurityType"_L1,  "Type:"_L1,          Text,     50},
-    {"MaturityDate"_L1,  "Maturity Date:"_L1, Date},
+    {"MaturityDate"_L1,  "Maturity Date:"_L1, Date,      0, {},              {}, Box, {}, ahead},
     {"Payer"_L1,         "Payer:"_L1,         Text,     50},
     {"InterestRate"_L1,  "Interest Rate:"_L1, Number,    0, "0.000"_L1},
-    {"InterestDate"_L1,  "Interest Date:"_L1, Date},
+    {"InterestDate"_L1,  "Interest Date:"_L1, Date,      0, {},              {}, Box, {}, ahead},
     {"AccountNumber"_L1, "Acct #:"_L1,        Text,     50, "#,##0.00"_L1},
     {"Value"_L1,         "Cost Basis:"_L1,    Number,    0, "#,##0.00"_L1},
     {"ValuationDate"_L1, "Purchase Date:"_L1, Date},

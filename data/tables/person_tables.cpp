@@ -15,7 +15,7 @@ using enum ShownIn;
 constexpr Column person[] = {
     {"Seq"_L1,             {},                    Whole,     0, {},              {}, Nowhere, Initially::Zero},
     {"LegalName"_L1,       "Legal Name:"_L1,      Text},
-    {"BirthDate"_L1,       "Date:"_L1,            Date},
+    {"BirthDate"_L1,       "Date:"_L1,            Date,      0, {},              {}, Box, {}, eachYear("Birthday"_L1)},
     {"Sex"_L1,             "Sex:"_L1,             Text,      1},
     {"BirthCity"_L1,       "City:"_L1,            City,     50},
     {"BirthCounty"_L1,     "County:"_L1,          Text,     50},
@@ -90,11 +90,11 @@ constexpr Column militaryService[] = {
 
 constexpr Column passports[] = {
     {"Citizenship"_L1,         "Nation of Citizenship:"_L1, Text,     50},
-    {"ResAlienCardExpDate"_L1, "Resident Alien Card Expires:"_L1, Date},
+    {"ResAlienCardExpDate"_L1, "Resident Alien Card Expires:"_L1, Date,      0, {},              {}, Box, {}, ahead},
     {"ImmigrationDocsLoc"_L1,  "Immigration Documents Location:"_L1, LongText},
     {"PassportIDNumber"_L1,    "Passport ID:"_L1,           Text,     50},
     {"DateIssued"_L1,          "Date Issued:"_L1,           Date},
-    {"DateExpired"_L1,         "Date Expired:"_L1,          Date},
+    {"DateExpired"_L1,         "Date Expired:"_L1,          Date,      0, {},              {}, Box, {}, ahead},
     {"PassportLoc"_L1,         "Passport Location:"_L1,     LongText},
     {"CitizenshipComment"_L1,  "Comment:"_L1,               LongText},
     {"Native"_L1,              "Native:"_L1,                YesNo},

@@ -24,7 +24,7 @@ constexpr Column retirementAccounts[] = {
     {"YearsContributed"_L1,     "Years Contributed:"_L1,     Number},
     {"Balance"_L1,              "Balance:"_L1,               Number,    0, "#,##0.00"_L1},
     {"BalanceDate"_L1,          "Balance Date:"_L1,          Date,      0, "M/d/yy"_L1},
-    {"WithdrawalStartDate"_L1,  "Withdrawal Start Date:"_L1, Date,      0, "#,##0.000"_L1},
+    {"WithdrawalStartDate"_L1,  "Withdrawal Start Date:"_L1, Date,      0, "#,##0.000"_L1,  {}, Box, {}, ahead},
     {"Comment"_L1,              "Comment/Documents Location:"_L1, LongText},
     {"Mortgaged"_L1,            "Mortgaged"_L1,              YesNo},
     {"CurrentlyWithdrawing"_L1, "Currently Withdrawing"_L1,  YesNo},
