@@ -1,11 +1,8 @@
 #include "lists/list_screen.h"
 
 #include <QLabel>
-#include <QToolBar>
-#include <QVBoxLayout>
 #include <utility>
 
-#include "output/grid_output.h"
 #include "platform/forms/data_grid.h"
 #include "platform/forms/desktop.h"
 #include "session/attachment_count.h"
@@ -19,33 +16,14 @@ namespace lists {
 
 ListScreen::ListScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
                        const ListDefinition& definition)
-    : DataWindow(desktop, session, workspace, definition.window),
-      definition_(definition),
-      grdDataGrid_(new platform::DataGrid(definition.rowLines, this)) {
+    : GridWindow(desktop, session, workspace, definition.window, definition.rowLines), definition_(definition) {
     connect(&rows_, &data::Recordset::moveComplete, this,
             [this] { this->desktop().attempt(u"MoveComplete Error"_s, [this] { moveComplete(); }); });
-    menus_ = std::make_unique<session::WindowMenus>(*this, commands());
-    for (QMenu* menu : menus_->menus())
-        addMenu(menu);
-    layOut();
-}
-
-void ListScreen::layOut() {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 6);
-    column->setSpacing(4);
-    column->addWidget(&menus_->toolbar());
-    grdDataGrid_->setName(u"grdDataGrid"_s);
-    grdDataGrid_->onRowChosen([this](int row) { desktop().run([&] { rowChosen(row); }); });
-    auto* page = new QVBoxLayout;
-    page->setContentsMargins(9, 0, 9, 0);
-    page->addWidget(grdDataGrid_, 1);
-    column->addLayout(page, 1);
-    buttons_ = std::make_unique<session::RecordButtons>(*this, *page, u"&Add"_s, actions());
+    layOut(commands(), actions());
     if (definition_.attachmentPrefix.isEmpty()) return;
     lblAttachments_ = new QLabel(this);
     lblAttachments_->setObjectName(u"lblAttachments"_s);
-    buttons_->addNote(*lblAttachments_);
+    buttons().addNote(*lblAttachments_);
 }
 
 session::RecordActions ListScreen::actions() {
@@ -68,15 +46,9 @@ session::RecordActions ListScreen::actions() {
 }
 
 session::WindowCommands ListScreen::commands() {
-    session::WindowCommands commands = commonCommands();
+    session::WindowCommands commands = gridCommands();
     commands.attachments = handler([this] { mAttachments_Click(); });
-    commands.print = handler([this] {
-        if (hasEntries(u"print"_s)) output::printGrid(desktop(), printable());
-    });
-    commands.save =
-        handler([this] { output::saveGrid(desktop(), session().applicationFolder, [this] { return printable(); }); });
     commands.hasAttachments = !definition_.attachmentPrefix.isEmpty();
-    commands.hasAllRecords = false;
     return commands;
 }
 
@@ -85,49 +57,43 @@ session::WindowCommands ListScreen::commands() {
 void ListScreen::Form_Load() {
     rows_.open(selectStatement(), session().gConnection);
     prepareRows();
-    grdDataGrid_->setSource(&rows_);
+    grid().setSource(&rows_);
     formatGrid();
     setCaption(captionText());
 }
 
 void ListScreen::formatGrid() {
-    grdDataGrid_->setShares(definition_.shares);
+    grid().setShares(definition_.shares);
     setAttachKey();
 }
 
 QString ListScreen::cell(int column) const {
-    return grdDataGrid_->columnText(column);
+    return grid().columnText(column);
 }
 
 void ListScreen::moveComplete() {
     const int position = rows_.absolutePosition();
-    buttons_->status().setText(u"Record: "_s + QString::number(std::max(position, 0)));
+    buttons().status().setText(u"Record: "_s + QString::number(std::max(position, 0)));
     if (position >= 0) setAttachKey();
 }
 
 void ListScreen::rebind(bool givesUpChange) {
-    grdDataGrid_->setSource(nullptr);
+    grid().setSource(nullptr);
     if (givesUpChange && rows_.editMode() != data::EditMode::None) rows_.cancelUpdate();
     rows_.requery();
     prepareRows();
-    grdDataGrid_->setSource(&rows_);
+    grid().setSource(&rows_);
     formatGrid();
 }
 
 // Add and edit -----------------------------------------------------------------------------------------------------
-
-bool ListScreen::hasEntries(const QString& purpose) {
-    const bool empty = rows_.bof() && rows_.eof();
-    if (empty) desktop().notice(u"There are no entries to %1."_s.arg(purpose), u"No Entries"_s);
-    return !empty;
-}
 
 void ListScreen::cmdAdd_Click() {
     desktop().attempt(u"Add Error"_s, [this] {
         if (!mayChange()) return;
         openDialog();
         if (definition_.closesTree) workspace().enableTree(false);
-        buttons_->status().setText(u"Add record"_s);
+        buttons().status().setText(u"Add record"_s);
         bAdding_ = true;
         bChange = true;
         setButtons(false);
@@ -142,7 +108,7 @@ void ListScreen::cmdEdit_Click() {
         openDialog();
         fillDialog();
         beginEdit();
-        buttons_->status().setText(u"Edit record"_s);
+        buttons().status().setText(u"Edit record"_s);
         bEditing_ = true;
         setButtons(false);
         dialog_->initScreen();
@@ -193,7 +159,7 @@ void ListScreen::showSaved() {
     closeDialog();
     if (bAdding_) platform::Desktop::passOver([this] { rows_.moveLast(); });
     endEditing();
-    grdDataGrid_->setFocus();
+    grid().setFocus();
 }
 
 bool ListScreen::saveRow() {
@@ -271,7 +237,7 @@ void ListScreen::rowChosen(int row) {
 
 void ListScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
     if (bEditing_ || bAdding_) return;
-    session::navigate(key, held, *buttons_);
+    session::navigate(key, held, buttons());
 }
 
 // Close ------------------------------------------------------------------------------------------------------------
@@ -283,7 +249,7 @@ void ListScreen::cmdClose_Click() {
 
 void ListScreen::Form_Unload() {
     closeDialog();
-    grdDataGrid_->setSource(nullptr);
+    grid().setSource(nullptr);
     restRows();
     desktop().setPointer(platform::Pointer::Default);
 }
@@ -307,35 +273,11 @@ void ListScreen::setAttachKey() {
     });
 }
 
-// Listings ---------------------------------------------------------------------------------------------------------
-
-output::PrintableGrid ListScreen::printable() {
-    std::vector<int> shown;
-    output::PrintableGrid grid{.caption = caption()};
-    for (int column = 0; column < grdDataGrid_->columnCount(); ++column) {
-        if (grdDataGrid_->isColumnHidden(column)) continue;
-        shown.push_back(column);
-        grid.columns.push_back({grdDataGrid_->columnCaption(column),
-                                output::listingWidth(grdDataGrid_->columnWidth(column), grdDataGrid_->width())});
-    }
-    // The rows are looked at where they stand, so that the list stays at its current one.
-    grid.walk = [this, shown](const std::function<void(const QStringList&)>& visit) {
-        for (int row = 0; row < rows_.rowCount(); ++row) {
-            const QStringList texts = grdDataGrid_->rowTexts(row);
-            QStringList cells;
-            for (const int column : shown)
-                cells.append(texts[column]);
-            visit(cells);
-        }
-    };
-    return grid;
-}
-
 // What the window shows of its state -------------------------------------------------------------------------------
 
 void ListScreen::setButtons(bool browsing) {
-    buttons_->showBrowsing(browsing);
-    buttons_->enableMoves(browsing);
+    buttons().showBrowsing(browsing);
+    buttons().enableMoves(browsing);
 }
 
 data::Recordset& ListScreen::rowWrite() {

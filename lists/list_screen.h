@@ -4,16 +4,9 @@
 
 #include "data/recordset.h"
 #include "lists/edit_dialog.h"
-#include "output/printable_grid.h"
-#include "session/data_window.h"
-#include "session/record_buttons.h"
-#include "session/window_menus.h"
+#include "lists/grid_window.h"
 
 class QLabel;
-
-namespace platform {
-class DataGrid;
-}
 
 namespace lists {
 
@@ -39,7 +32,7 @@ struct ListDefinition {
 ///
 /// The row that is selected in the grid is the recordset's current one. After an edit or a cancel that is the first
 /// row, after an add the last.
-class ListScreen : public session::DataWindow {
+class ListScreen : public GridWindow {
     Q_OBJECT
 
 public:
@@ -48,10 +41,7 @@ public:
                const ListDefinition& definition);
 
     void Form_Load() override;
-    [[nodiscard]] bool keyPreview() const override { return true; }
     void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
-    /// A list has nothing to lose: what was entered stands in the file.
-    void Form_QueryUnload(bool& /*cancel*/) override {}
     void Form_Unload() override;
 
 protected:
@@ -92,12 +82,11 @@ protected:
     void run(const QString& statement);
 
 private:
-    void layOut();
     [[nodiscard]] session::RecordActions actions();
     [[nodiscard]] session::WindowCommands commands();
     void formatGrid();
     void moveComplete();
-    void rowChosen(int row);
+    void rowChosen(int row) override;
     /// Reads the rows anew with the grid let go.
     void rebind(bool givesUpChange);
 
@@ -108,8 +97,6 @@ private:
     void cmdCancel_Click();
     void cmdDelete_Click();
     void cmdClose_Click();
-    /// False, after telling so, in an empty list.
-    [[nodiscard]] bool hasEntries(const QString& purpose);
     void openDialog();
     void fillDialog();
     void runDialog();
@@ -126,7 +113,6 @@ private:
 
     void mAttachments_Click();
     void setAttachKey();
-    [[nodiscard]] output::PrintableGrid printable();
 
     void setButtons(bool browsing);
 
@@ -135,9 +121,6 @@ private:
     data::Recordset rsRowWrite_{data::Opening::List};
     data::Recordset rsStatement_;
     data::Recordset rsCount_;
-    std::unique_ptr<session::WindowMenus> menus_;
-    std::unique_ptr<session::RecordButtons> buttons_;
-    platform::DataGrid* grdDataGrid_;
     QLabel* lblAttachments_ = nullptr;
     /// Loaded while a row is added or edited.
     EditDialog* dialog_ = nullptr;

@@ -83,6 +83,7 @@ void RecordButtons::makeActionRow(QWidget& form, QVBoxLayout& column, const QStr
     update_ = button(*buttons, u"cmdUpdate"_s, u"&Save"_s, actions_.update);
     cancel_ = button(*buttons, u"cmdCancel"_s, u"&Cancel"_s, actions_.cancel);
     delete_ = button(*buttons, u"cmdDelete"_s, u"&Delete"_s, actions_.remove);
+    if (actions_.open) open_ = button(*buttons, u"cmdOpen"_s, u"O&pen"_s, actions_.open);
     actionRow_ = static_cast<QHBoxLayout*>(buttons->layout());
     actionRow_->addStretch(1);
     close_ = button(*buttons, u"cmdClose"_s, u"C&lose"_s, actions_.close);
@@ -99,7 +100,8 @@ void RecordButtons::showBrowsing(bool browsing) {
     show({edit_, close_, update_, cancel_}, true);
     // A button that goes with the focus would leave it to the owner, who may be one that can't be left.
     if (heir) heir->setFocus();
-    show({edit_, close_}, browsing);
+    show({close_}, browsing);
+    show({edit_}, browsing && actions_.edit);
     show({add_, delete_}, browsing && actions_.add);
     show({update_, cancel_}, !browsing);
     status_->setAutoFillBackground(!browsing);

@@ -14,10 +14,12 @@ class CommandButton;
 
 namespace session {
 
-/// What the two rows at the foot of a data window set off. Without `add` and `remove` the window has neither button.
+/// What the two rows at the foot of a data window set off. Without `add` and `remove` the window has neither button;
+/// one whose rows are only read has no `edit` either, and one that leads to other windows has `open`.
 struct RecordActions {
     std::function<void()> first, previous, next, last;
     std::function<void()> add, edit, update, cancel, remove, close;
+    std::function<void()> open{};
 };
 
 /// The move row with the status line, and the action row below it.
@@ -31,6 +33,8 @@ public:
     void enableMoves(bool enabled);
     [[nodiscard]] QLabel& status() const { return *status_; }
     [[nodiscard]] platform::CommandButton& add() const { return *add_; }
+    /// nullptr in a window without it.
+    [[nodiscard]] platform::CommandButton* open() const { return open_; }
     [[nodiscard]] const RecordActions& actions() const { return actions_; }
     /// Puts a label into the action row, ahead of Close.
     void addNote(QLabel& note);
@@ -44,7 +48,7 @@ private:
     QHBoxLayout* actionRow_ = nullptr;
     platform::CommandButton *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
     platform::CommandButton *add_ = nullptr, *edit_ = nullptr, *update_ = nullptr, *cancel_ = nullptr;
-    platform::CommandButton *delete_ = nullptr, *close_ = nullptr;
+    platform::CommandButton *delete_ = nullptr, *open_ = nullptr, *close_ = nullptr;
 };
 
 }  // namespace session

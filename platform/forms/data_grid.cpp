@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <algorithm>
 
@@ -49,6 +50,10 @@ void DataGrid::setSource(RowSource* source) {
     if (!source) return;
     connect(source, &RecordSource::rowShown, this, &DataGrid::showCurrentRow);
     showCurrentRow();
+}
+
+int DataGrid::rowCount() const {
+    return model_->rowCount();
 }
 
 int DataGrid::columnCount() const {
@@ -119,6 +124,12 @@ void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& pre
 void DataGrid::keyPressEvent(QKeyEvent* event) {
     // The form moves its recordset by the keyboard, and the grid goes with it.
     event->ignore();
+}
+
+void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTableView::mouseDoubleClickEvent(event);
+    const bool onRow = event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid();
+    if (onRow && opened_) opened_();
 }
 
 }  // namespace platform

@@ -30,7 +30,10 @@ public:
     void setSource(RowSource* source);
     /// The user chose a row, from 0: whoever hears of it makes it the current one.
     void onRowChosen(std::function<void(int)> handler) { chosen_ = std::move(handler); }
+    /// The current row was clicked twice.
+    void onRowOpened(std::function<void()> handler) { opened_ = std::move(handler); }
 
+    [[nodiscard]] int rowCount() const;
     [[nodiscard]] int columnCount() const;
     [[nodiscard]] QString columnCaption(int column) const;
     /// Text of the current row's cell. Throws RuntimeError 3021 without a current row.
@@ -43,6 +46,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -57,6 +61,7 @@ private:
     std::unique_ptr<GridModel> model_;
     QPointer<RowSource> source_;
     std::function<void(int)> chosen_;
+    std::function<void()> opened_;
     std::vector<double> shares_;
     bool following_ = false;
 };
