@@ -41,21 +41,23 @@ Dispatch::Dispatch(platform::TreeView& tree, platform::Desktop& desktop, session
 
 void Dispatch::nodeClick(int nodeIndex) {
     desktop_.attempt(u"NodeClick Error"_s, [&] {
-        if (desktop_.count() > 1 && windows_.activeHasChanges()) {
-            selector_.restoreName();
-            session::showScreenChanges(desktop_);
-            showFrontNode();
-            return;
-        }
-        if (tooManyWindows()) {
-            showFrontNode();
-            return;
-        }
+        if (!admitsClick()) return;
         categories_.setImage(iCurrentNode_);
         tree_.setImage(nodeIndex, withData);
         iCurrentNode_ = nodeIndex;
         if (follow(CategoryTree::node(nodeIndex))) tree_.setImage(nodeIndex, withData);
     });
+}
+
+bool Dispatch::admitsClick() {
+    const bool changed = desktop_.count() > 1 && windows_.activeHasChanges();
+    if (changed) {
+        selector_.restoreName();
+        session::showScreenChanges(desktop_);
+    }
+    if (!changed && !tooManyWindows()) return true;
+    showFrontNode();
+    return false;
 }
 
 int Dispatch::nodeOf(const QString& window) const {

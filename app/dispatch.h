@@ -26,6 +26,10 @@ public:
              FamilySelector& selector, OpenWindows& windows);
 
     void nodeClick(int nodeIndex);
+    /// False, after telling why, while no node may be clicked: the window in front holds changes, or too many are open.
+    [[nodiscard]] bool admitsClick();
+    /// Index of the node that opens a window: of two the one that was clicked last; 0 if no node does.
+    [[nodiscard]] int nodeOf(const QString& window) const;
     /// Selects the node of the window in front in the tree, or none.
     void showFrontNode();
     /// A branch was opened or closed.
@@ -51,8 +55,6 @@ private:
     template <class Page>
     [[nodiscard]] bool showPage();
     [[nodiscard]] bool tooManyWindows() const;
-    /// Index of the node that opens a window: of two the one that was clicked last; 0 if no node does.
-    [[nodiscard]] int nodeOf(const QString& window) const;
 
     platform::TreeView& tree_;
     platform::Desktop& desktop_;

@@ -50,7 +50,12 @@ void FamilySelector::loadFamily() {
 // Selection --------------------------------------------------------------------------------------------------------
 
 void FamilySelector::cbPerson_Click() {
-    desktop_.attempt(u"cbPersonClick Error"_s, [this] {
+    select();
+}
+
+bool FamilySelector::select() {
+    bool chosen = false;
+    desktop_.attempt(u"cbPersonClick Error"_s, [&] {
         if (windows_.leavesChanges()) {
             restoreName();
             session::showScreenChanges(desktop_);
@@ -71,20 +76,48 @@ void FamilySelector::cbPerson_Click() {
             if (session::DataWindow* screen = windows_.touch(personScreen)) screen->show();
         }
         categories_.setAllImages();
+        chosen = true;
     });
+    return chosen;
+}
+
+qint16 FamilySelector::memberNamed(const QString& name) {
+    data::Recordset& members = rows_.select(u"SELECT ID from Person where LegalName = '"_s + name + u"'"_s);
+    const qint16 member = members.eof() ? qint16{0} : platform::toInteger(members.value(u"ID"_s).toDouble());
+    members.close();
+    return member;
 }
 
 bool FamilySelector::accept() {
     session_.gsPersonName = name();
-    data::Recordset& members =
-        rows_.select(u"SELECT ID from Person where LegalName = '"_s + session_.gsPersonName + u"'"_s);
-    const bool found = !members.eof();
-    session_.gPersonID = found ? platform::toInteger(members.value(u"ID"_s).toDouble()) : qint16{0};
-    if (found) panel_.tvTree().setEnabled(true);
-    members.close();
+    session_.gPersonID = memberNamed(session_.gsPersonName);
+    if (session_.gPersonID != 0) panel_.tvTree().setEnabled(true);
     session_.gbWholeFamily = session_.gsPersonName == wholeFamily && session_.gPersonID == 0;
     if (session_.gbWholeFamily) panel_.tvTree().setEnabled(true);
     return session_.gsPersonName == wholeFamily || session_.gPersonID != 0;
+}
+
+bool FamilySelector::shows(qint16 member) const {
+    if (name() != session_.gsPersonName) return false;
+    return session_.gbWholeFamily || member == 0 || member == session_.gPersonID;
+}
+
+QString FamilySelector::entryFor(qint16 member) {
+    data::Recordset& row = rows_.select(u"SELECT LegalName from Person where ID = "_s + QString::number(member));
+    const QString name = row.eof() ? QString() : row.value(u"LegalName"_s).toString();
+    row.close();
+    qint16 found = 0;
+    // Of two members with one name the first is found, and a name with an apostrophe ends the statement.
+    platform::Desktop::passOver([&] { found = memberNamed(name); });
+    return found != 0 && found == member ? name : wholeFamily;
+}
+
+bool FamilySelector::choose(qint16 member) {
+    const QString before = name();
+    setName(entryFor(member));
+    if (select()) return true;
+    setName(before);
+    return false;
 }
 
 FamilySelector::Selection FamilySelector::selection() const {

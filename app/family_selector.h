@@ -26,6 +26,11 @@ public:
     /// Fills the list with the family's names.
     void loadFamily();
     void cbPerson_Click();
+    /// All windows show that member's rows, or, for 0, what belongs to nobody in particular.
+    [[nodiscard]] bool shows(qint16 member) const;
+    /// Chooses the member in the list; the whole family for 0 and for one whom his name doesn't lead to. False, with
+    /// the selection as it was, when it was refused.
+    bool choose(qint16 member);
     void cmdAddNew_Click();
 
     [[nodiscard]] QString name() const;
@@ -49,6 +54,12 @@ private:
         bool treeEnabled = false;
     };
 
+    /// False when the choice was refused or failed.
+    bool select();
+    /// ID of the member of that name; 0 for nobody's.
+    [[nodiscard]] qint16 memberNamed(const QString& name);
+    /// The entry by which a member's rows can be chosen.
+    [[nodiscard]] QString entryFor(qint16 member);
     /// Sets the session's member from the selector's text; false when it matches nobody.
     [[nodiscard]] bool accept();
     void refuse();

@@ -33,6 +33,7 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
       categories_(panel_->tvTree(), session, rows_),
       selector_(*panel_, desktop, session, rows_, windows_, categories_),
       dispatch_(panel_->tvTree(), desktop, session, categories_, selector_, windows_),
+      road_(desktop, *panel_, session, rows_, windows_, selector_, dispatch_),
       database_(desktop, session, selector_, windows_) {
     desktop.setHost(this);
     setPanel(*panel_);

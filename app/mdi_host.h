@@ -4,6 +4,7 @@
 #include "app/database_commands.h"
 #include "app/dispatch.h"
 #include "app/family_selector.h"
+#include "app/go_to.h"
 #include "app/host_rows.h"
 #include "app/open_windows.h"
 #include "platform/forms/mdi_frame.h"
@@ -49,6 +50,7 @@ public:
     void newDatabase() override { database_.newDB(); }
     void restoreDatabase() override { database_.openDB(); }
     void backupDatabase() override { database_.backupDB(); }
+    bool goTo(const session::Place& place) override { return road_.goTo(place); }
     void showHelp() override;
     void showAbout() override;
     void exitProgram() override;
@@ -69,6 +71,7 @@ private:
     CategoryTree categories_;
     FamilySelector selector_;
     Dispatch dispatch_;
+    GoTo road_;
     DatabaseCommands database_;
     std::unique_ptr<HelpViewer> help_;
 };

@@ -1,6 +1,10 @@
 #include "data/fetched_rows.h"
 
+#include <algorithm>
+
 #include "data/connection_private.h"
+
+using namespace Qt::StringLiterals;
 
 namespace data {
 
@@ -34,6 +38,15 @@ FetchedRows::FetchedRows(Connection::Private& connection, SQLite::Statement& sta
         while (statement.executeStep())
             rows_.push_back(storedRow(statement));
     });
+}
+
+std::optional<int> FetchedRows::find(qint64 id) const {
+    const auto column = std::ranges::find(columns_, u"ID"_s, &ShownColumn::name) - columns_.begin();
+    if (column == static_cast<std::ptrdiff_t>(columns_.size())) return {};
+    const auto found = std::ranges::find_if(
+        rows_, [&](const StoredRow& row) { return row[static_cast<size_t>(column)].toLongLong() == id; });
+    if (found == rows_.end()) return {};
+    return static_cast<int>(found - rows_.begin());
 }
 
 }  // namespace data

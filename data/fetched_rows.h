@@ -22,6 +22,8 @@ public:
     [[nodiscard]] const std::vector<ShownColumn>& columns() const override { return columns_; }
     [[nodiscard]] int count() const override { return static_cast<int>(rows_.size()); }
     [[nodiscard]] std::optional<StoredRow> read(int row) override { return rows_[static_cast<size_t>(row)]; }
+    /// In the first column of that name.
+    [[nodiscard]] std::optional<int> find(qint64 id) const override;
 
 private:
     std::vector<ShownColumn> columns_;

@@ -112,6 +112,12 @@ std::optional<StoredRow> KeyedRows::read(int row) {
     });
 }
 
+std::optional<int> KeyedRows::find(qint64 id) const {
+    const auto found = std::ranges::find(keys_, id);
+    if (found == keys_.end()) return {};
+    return static_cast<int>(found - keys_.begin());
+}
+
 StoredRow KeyedRows::defaults() {
     if (defaults_) return *defaults_;
     QStringList expressions;

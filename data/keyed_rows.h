@@ -30,6 +30,8 @@ public:
     [[nodiscard]] const std::vector<ShownColumn>& columns() const override { return columns_; }
     [[nodiscard]] int count() const override { return static_cast<int>(keys_.size()); }
     [[nodiscard]] std::optional<StoredRow> read(int row) override;
+    /// The ID is the key that the rows are held by.
+    [[nodiscard]] std::optional<int> find(qint64 id) const override;
 
     /// What a new row holds before anything is set: the defaults of its columns.
     [[nodiscard]] StoredRow defaults();

@@ -287,6 +287,14 @@ void Recordset::setBookmark(double bookmark) {
     });
 }
 
+std::optional<double> Recordset::bookmarkOf(qint64 id) const {
+    d_->requireOpen();
+    if (d_->stream) throw RuntimeError(Error::NotUpdatable);
+    const std::optional<int> row = d_->rows->find(id);
+    if (!row) return {};
+    return *row + 1;
+}
+
 /// A stream begins anew.
 void Recordset::moveFirst() {
     if (isOpen() && d_->stream) return travel([this] { d_->restartStream(); });

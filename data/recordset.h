@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "data/connection.h"
@@ -52,6 +53,8 @@ public:
     [[nodiscard]] int absolutePosition() const;  ///< 1..N; -1 empty or unknown, -2 before the first, -3 behind the last
     [[nodiscard]] double bookmark() const;       ///< ordinal of the row in the fetched set, from 1; 3021 without a row
     void setBookmark(double bookmark);
+    /// Bookmark of the row with that ID, also one that was deleted since; nothing when none has it. Not for a stream.
+    [[nodiscard]] std::optional<double> bookmarkOf(qint64 id) const;
     [[nodiscard]] EditMode editMode() const;
 
     void moveFirst();

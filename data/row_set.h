@@ -27,6 +27,8 @@ public:
     [[nodiscard]] virtual int count() const = 0;
     /// Nothing for a row that another program has taken out of the file.
     [[nodiscard]] virtual std::optional<StoredRow> read(int row) = 0;
+    /// Number of the row with that ID; nothing when none has it.
+    [[nodiscard]] virtual std::optional<int> find(qint64 id) const = 0;
 };
 
 }  // namespace data

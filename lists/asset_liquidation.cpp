@@ -40,6 +40,10 @@ const RequiredText required{
 AssetLiquidation::AssetLiquidation(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace)
     : SequencedList(desktop, session, workspace, assetList) {}
 
+const ListDefinition& AssetLiquidation::list() {
+    return assetList;
+}
+
 QString AssetLiquidation::selectStatement() const {
     return u"Select ID, Seq, Asset, Directions from AssetLiquidation Order By Seq"_s;
 }

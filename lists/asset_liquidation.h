@@ -11,6 +11,8 @@ class AssetLiquidation : public SequencedList {
 public:
     AssetLiquidation(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace);
 
+    [[nodiscard]] static const ListDefinition& list();
+
 protected:
     [[nodiscard]] QString selectStatement() const override;
     [[nodiscard]] std::unique_ptr<EditDialog> makeDialog() override;

@@ -235,6 +235,18 @@ void ListScreen::rowChosen(int row) {
     rows_.setBookmark(row + 1);
 }
 
+bool ListScreen::standOn(qint64 record, const QString& /*column*/) {
+    bool stands = false;
+    desktop().attempt(u"Goto Record Error"_s, [&] {
+        const std::optional<double> there = rows_.bookmarkOf(record);
+        if (!there) return;
+        rows_.setBookmark(*there);
+        grid().setFocus();
+        stands = true;
+    });
+    return stands;
+}
+
 void ListScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
     if (bEditing_ || bAdding_) return;
     session::navigate(key, held, buttons());

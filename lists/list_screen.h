@@ -43,6 +43,8 @@ public:
     void Form_Load() override;
     void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
     void Form_Unload() override;
+    /// The grid has the focus, whichever the column.
+    [[nodiscard]] bool standOn(qint64 record, const QString& column) override;
 
 protected:
     // The steps in which a kind of list differs.

@@ -45,6 +45,10 @@ QVariant dateOf(const QString& text) {
 MedicalLog::MedicalLog(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace)
     : ListScreen(desktop, session, workspace, logList) {}
 
+const ListDefinition& MedicalLog::list() {
+    return logList;
+}
+
 QString MedicalLog::selectStatement() const {
     QString all =
         u"SELECT MedicalLog.ID, Person.LegalName, MedicalLog.TreatmentStartDate as StartDate, "

@@ -11,6 +11,8 @@ class MedicalLog : public ListScreen {
 public:
     MedicalLog(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace);
 
+    [[nodiscard]] static const ListDefinition& list();
+
 protected:
     [[nodiscard]] QString selectStatement() const override;
     [[nodiscard]] QString captionText() const override;

@@ -32,6 +32,10 @@ const ListDefinition giftList{
 WhoGetsWhat::WhoGetsWhat(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace)
     : ListScreen(desktop, session, workspace, giftList) {}
 
+const ListDefinition& WhoGetsWhat::list() {
+    return giftList;
+}
+
 QString WhoGetsWhat::selectStatement() const {
     return u"Select ID, Item, Person from WhoGetsWhat"_s;
 }

@@ -173,6 +173,12 @@ void OwnedScreen::goLast() {
     setAttachKey();
 }
 
+void OwnedScreen::goTo(double bookmark) {
+    rows().setBookmark(bookmark);
+    updateName();
+    setAttachKey();
+}
+
 void OwnedScreen::goNext() {
     if (!rows().eof()) rows().moveNext();
     if (rows().eof()) {

@@ -38,6 +38,7 @@ protected:
     void goPrevious() override;
     void goNext() override;
     void goLast() override;
+    void goTo(double bookmark) override;
     [[nodiscard]] bool validatesCombos() override;
     void showChild(ChildKind kind) override;
 

@@ -140,6 +140,12 @@ void PersonScreen::goLast() {
     setAttachKey();
 }
 
+void PersonScreen::goTo(double bookmark) {
+    rows().setBookmark(bookmark);
+    setPerson(static_cast<qint16>(rows().value(u"ID"_s).toInt()));
+    setAttachKey();
+}
+
 void PersonScreen::goNext() {
     if (!rows().eof()) {
         rows().moveNext();

@@ -34,6 +34,7 @@ protected:
     void goPrevious() override;
     void goNext() override;
     void goLast() override;
+    void goTo(double bookmark) override;
     [[nodiscard]] QString moveCompleteTitle() const override;
     void cmdClose_Click() override;
     [[nodiscard]] bool validates(int box) override;

@@ -3,8 +3,10 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QScrollArea>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "platform/forms/check_box.h"
@@ -12,6 +14,7 @@
 #include "platform/forms/command_button.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
+#include "screens/catalogue/catalogue.h"
 #include "screens/field_checks.h"
 #include "screens/frame_layout.h"
 #include "session/attachment_count.h"
@@ -54,10 +57,10 @@ void RecordScreen::layOut() {
     column->setSpacing(4);
     column->addWidget(&menus_->toolbar());
 
-    auto* scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
+    page_ = new QScrollArea(this);
+    page_->setWidgetResizable(true);
+    page_->setFrameShape(QFrame::NoFrame);
+    page_->setFocusPolicy(Qt::NoFocus);
     auto* page = new QWidget;
     auto* frames = new QVBoxLayout(page);
     frames->setContentsMargins(9, 0, 9, 0);
@@ -65,9 +68,9 @@ void RecordScreen::layOut() {
     lblAttachments_->setObjectName(u"lblAttachments"_s);
     lblAttachments_->setHidden(definition_.attachmentPrefix.isEmpty());
     const std::vector<QWidget*> order = layOutFrames(*page, *frames, definition_, boxes_, *lblAttachments_);
-    scroll->setWidget(page);
+    page_->setWidget(page);
     FieldBoxes::orderTabs(order);
-    column->addWidget(scroll, 1);
+    column->addWidget(page_, 1);
 
     auto* foot = new QVBoxLayout;
     foot->setContentsMargins(9, 0, 9, 0);
@@ -167,6 +170,25 @@ void RecordScreen::focusOn(platform::TextControl& box) {
     }
     box.widget().setFocus();
     box.selectAll();
+}
+
+void RecordScreen::focusOn(const QString& column) {
+    const auto shows = [&](const auto& text) { return text.second.column && text.second.column->name == column; };
+    const auto found = std::ranges::find_if(boxes_.texts(), shows);
+    if (found == boxes_.texts().end()) return;
+    platform::ComboBox* combo = boxes_.comboOver(found->first);
+    QWidget* target = combo ? combo : &found->second.box->widget();
+    // Behind what a window that comes up does with the focus itself.
+    QTimer::singleShot(0, target, [this, target] {
+        target->setFocus(Qt::TabFocusReason);
+        page_->ensureWidgetVisible(target);
+    });
+}
+
+void RecordScreen::openChild(const QString& window) {
+    const auto children = childScreens();
+    const auto child = std::ranges::find_if(children, [&](const auto& entry) { return entry.name == window; });
+    if (child != children.end()) showChild(static_cast<ChildKind>(child - children.begin()));
 }
 
 void RecordScreen::show() {
@@ -332,29 +354,29 @@ void RecordScreen::deleteCurrentRow() {
 // Moves ------------------------------------------------------------------------------------------------------------
 
 void RecordScreen::cmdFirst_Click() {
-    move(u"Goto First Record Error"_s, &RecordScreen::goFirst);
+    move(u"Goto First Record Error"_s, [this] { goFirst(); });
 }
 
 void RecordScreen::cmdPrevious_Click() {
-    move(u"Goto Previous Record Error"_s, &RecordScreen::goPrevious);
+    move(u"Goto Previous Record Error"_s, [this] { goPrevious(); });
 }
 
 bool RecordScreen::cmdNext_Click() {
-    return move(u"Goto Next Record Error"_s, &RecordScreen::goNext);
+    return move(u"Goto Next Record Error"_s, [this] { goNext(); });
 }
 
 void RecordScreen::cmdLast_Click() {
-    move(u"Goto Last Record Error"_s, &RecordScreen::goLast);
+    move(u"Goto Last Record Error"_s, [this] { goLast(); });
 }
 
-bool RecordScreen::move(const QString& errorTitle, void (RecordScreen::*step)()) {
-    return desktop().attempt(errorTitle, [this, step] {
+bool RecordScreen::move(const QString& errorTitle, const std::function<void()>& step) {
+    return desktop().attempt(errorTitle, [&] {
         if (bChange) {
             session::showScreenChanges(desktop());
             return;
         }
         if (!walking_) boxes_.bindDates(&rows_);
-        (this->*step)();
+        step();
         // A move can change a bound check box, and its click raises the flag.
         bChange = false;
         if (!walking_) boxes_.bindDates(nullptr);
@@ -388,6 +410,21 @@ void RecordScreen::goPrevious() {
         rows_.moveFirst();
     }
     setAttachKey();
+}
+
+void RecordScreen::goTo(double bookmark) {
+    rows_.setBookmark(bookmark);
+    setAttachKey();
+}
+
+bool RecordScreen::standOn(qint64 record, const QString& column) {
+    const std::optional<double> there = rows_.isOpen() ? rows_.bookmarkOf(record) : std::nullopt;
+    if (!there) return false;
+    const auto isThere = [&] { return rows_.hasCurrentRow() && rows_.bookmark() == *there; };
+    if (!isThere()) move(u"Goto Record Error"_s, [&] { goTo(*there); });
+    if (!isThere()) return false;
+    focusOn(column);
+    return true;
 }
 
 void RecordScreen::moveComplete() {

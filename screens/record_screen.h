@@ -11,6 +11,7 @@
 #include "session/window_menus.h"
 
 class QLabel;
+class QScrollArea;
 
 namespace output {
 struct PrintableScreen;
@@ -31,9 +32,11 @@ public:
     RecordScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
                  const ScreenDefinition& definition, OwnerBox owner = OwnerBox::None);
 
-    /// Raised when cmdNext runs off the end: a walk over all records stops on it.
     /// Presses the add button.
     void pressAdd();
+    [[nodiscard]] bool standOn(qint64 record, const QString& column) override;
+    /// Opens the child screen of the record on screen, by the name of its window, as its toolbar key does.
+    void openChild(const QString& window);
 
     void show() override;
     [[nodiscard]] bool keyPreview() const override { return true; }
@@ -51,6 +54,8 @@ protected:
     void beginEmpty();
     /// Gives the box the focus with its whole text selected; in a load, once the window comes up.
     void focusOn(platform::TextControl& box);
+    /// Gives the focus to the box of a column, or to the combo that stands for it.
+    void focusOn(const QString& column);
 
     // Add, edit, save, cancel, delete. The steps in which a kind of screen differs are its overrides.
     void cmdAdd_Click();
@@ -92,6 +97,7 @@ protected:
     virtual void goPrevious();
     virtual void goNext();
     virtual void goLast();
+    virtual void goTo(double bookmark);
     void showPosition();
     /// Title under which a failure to show the position is reported.
     [[nodiscard]] virtual QString moveCompleteTitle() const { return QStringLiteral("MoveComplete Error"); }
@@ -154,7 +160,7 @@ private:
     void moveComplete();
     [[nodiscard]] QString attachKey() const;
     /// False when the move failed.
-    bool move(const QString& errorTitle, void (RecordScreen::*step)());
+    bool move(const QString& errorTitle, const std::function<void()>& step);
     /// False, with a beep, when there is no record to put out or to attach to: the last one was deleted.
     [[nodiscard]] bool hasRecord();
     /// True if all records may be put out one after the other; tells what speaks against it.
@@ -168,6 +174,7 @@ private:
     FieldBoxes boxes_;
     std::unique_ptr<session::WindowMenus> menus_;
     std::unique_ptr<session::RecordButtons> buttons_;
+    QScrollArea* page_ = nullptr;
     QLabel* lblAttachments_ = nullptr;
     /// What the count reads when an add is cancelled; a new record has no files.
     QString countBesideAdd_;
@@ -177,6 +184,7 @@ private:
     bool bEditing_ = false;
     bool bAdding_ = false;
     bool walking_ = false;
+    /// Raised when cmdNext runs off the end: a walk over all records stops on it.
     bool bLastRecord_ = false;
     /// The record that was current when the last add began. Not cleared after use: a cancelled edit goes there too.
     std::optional<double> vBookmark_;

@@ -26,6 +26,9 @@ public:
     /// ShowMe, right before the host shows the window. One whose rows can't be read goes, so that the next try makes it
     /// anew; the failure goes to the caller.
     void fill();
+    /// Goes to the row with that ID and gives the focus to its field of that column, or to none in particular. False,
+    /// where it was, when the window doesn't hold the row or can't leave the one it stands on.
+    [[nodiscard]] virtual bool standOn(qint64 /*record*/, const QString& /*column*/) { return false; }
     /// It came up without all of its parts; the host makes it anew when it is asked for again.
     [[nodiscard]] bool loadFailed() const { return loadFailed_; }
 

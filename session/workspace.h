@@ -4,6 +4,8 @@
 
 namespace session {
 
+struct Place;
+
 /// Which rows a child screen is to show: those that hang on one row of one kind of site.
 struct ChildRequest {
     QString title;     ///< caption of the child's window
@@ -56,6 +58,12 @@ public:
     /// Opens the help at its contents; it stays open beside the program.
     virtual void showHelp() = 0;
     virtual void showAbout() = 0;
+
+    /// Goes to a record, to the field that the place names: by the click on the tree that opens its window, behind the
+    /// choice in the family selector without which the window wouldn't show it. False when one of these was refused,
+    /// which the user has been told, or when the record isn't there any more. A choice closes every window but the
+    /// host, so a window that asks for it must return at once.
+    virtual bool goTo(const Place& place) = 0;
 
     /// Leaves the program.
     virtual void exitProgram() = 0;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <span>
+
+#include "session/place.h"
+#include "session/shown_rows.h"
+
+namespace app {
+
+/// All that the windows show of the family's file, category by category in the order of the tree, each window once; a
+/// site's children stand behind it, the cover page at the end. The lists of passwords are left out: what stands in them
+/// is nobody's to find.
+[[nodiscard]] std::span<const session::ShownRows> shownRows();
+
+/// The record to which a file with that attachment key is attached; nullopt for a key that no window makes.
+[[nodiscard]] std::optional<session::Place> placeOfAttachment(const QString& key);
+
+}  // namespace app
