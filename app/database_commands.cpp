@@ -170,7 +170,7 @@ bool DatabaseCommands::closeWindows() {
 }
 
 data::BookReplacement DatabaseCommands::replacement() const {
-    return {session_.gsDatabasePath, attachments()};
+    return {session_.gsDatabasePath, attachments(), session_.path(u"Backup"_s)};
 }
 
 void DatabaseCommands::replaceLive(data::BookReplacement& book, const QString& source, const QString& companion) {

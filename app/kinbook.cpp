@@ -8,9 +8,12 @@
 #include "app/splash_window.h"
 #include "data/book_check.h"
 #include "data/book_replacement.h"
+#include "data/daily_copy.h"
 #include "data/provider_error.h"
+#include "platform/base/clock.h"
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
+#include "platform/base/unexpected_error.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/icons.h"
 #include "session/definition_file.h"
@@ -65,6 +68,7 @@ void Kinbook::start() {
     desktop_->load(std::make_unique<MDIHost>(*desktop_, *session_)).show();
     session::hidePinsLeftPlain(*desktop_, session_->gConnection);
     unloadSplash();
+    startDailyCopy();
     tellIfReadOnly(*desktop_, *session_);
 }
 
@@ -74,6 +78,10 @@ QString Kinbook::live() const {
 
 QString Kinbook::attachments() const {
     return session_->path(u"Attachments"_s);
+}
+
+QString Kinbook::backups() const {
+    return session_->path(u"Backup"_s);
 }
 
 bool Kinbook::getSplashValues() {
@@ -100,7 +108,7 @@ bool Kinbook::getSplashValues() {
 // Database ---------------------------------------------------------------------------------------------------------
 
 void Kinbook::finishReplacement() {
-    data::BookReplacement book(live(), attachments());
+    data::BookReplacement book(live(), attachments(), backups());
     if (!book.isClaimed()) return;
     book.discardRemains();
     if (book.isUnfinished()) tellFinished(book);
@@ -133,6 +141,12 @@ bool Kinbook::openDatabase() {
     } catch (const data::NoDatabase& lack) {
         return restoreMissingDatabase(connection.isOpen() ? lack.description() : QString());
     }
+}
+
+void Kinbook::startDailyCopy() {
+    const auto copy = [live = live(), backups = backups(), today = platform::systemClock().today()](
+                          const std::stop_token& stop) { data::makeDailyCopy(live, backups, today, stop); };
+    platform::passOver([&] { dailyCopy_ = std::jthread(copy); });
 }
 
 SplashWindow& Kinbook::splash() {
@@ -171,7 +185,7 @@ void Kinbook::replaceDatabase(const QString& chosen) {
     session_->useLiveDatabase();
     if (session_->gConnection.isOpen()) session_->gConnection.close();
     desktop_->unloadAll([](const platform::Form& form) { return form.name() != MDIHost::formName(); });
-    data::BookReplacement(live(), attachments()).replaceLostDatabase(chosen);
+    data::BookReplacement(live(), attachments(), backups()).replaceLostDatabase(chosen);
     session_->gConnection.open(session_->gsDatabasePath);
     desktop_->notice(u"Your database, "_s + chosenName + u", has been restored as "_s + session_->gsDatabaseName +
                      u", and is ready for use."_s);

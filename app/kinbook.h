@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <memory>
+#include <thread>
 
 namespace platform {
 class Desktop;
@@ -49,9 +50,13 @@ private:
     void replaceDatabase(const QString& chosen);
     [[nodiscard]] QString live() const;
     [[nodiscard]] QString attachments() const;
+    [[nodiscard]] QString backups() const;
+    /// In a thread of its own, so that nobody waits for it.
+    void startDailyCopy();
 
     std::unique_ptr<platform::Desktop> desktop_;
     std::unique_ptr<session::Session> session_;
+    std::jthread dailyCopy_;
 };
 
 }  // namespace app

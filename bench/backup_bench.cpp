@@ -71,7 +71,7 @@ void backUp(const QString& live, const QString& target) {
 }
 
 void restore(const QString& source, const QString& live) {
-    data::BookReplacement book(live + u"/FamilyInfo.mdb"_s, live + u"/Attachments"_s);
+    data::BookReplacement book(live + u"/FamilyInfo.mdb"_s, live + u"/Attachments"_s, {});
     book.replaceDatabase(source, data::companionFolder(source));
     book.replaceAttachments();
 }

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "data/book_check.h"
+#include "data/kept_book.h"
 #include "platform/base/file_identity.h"
 #include "platform/base/file_replacement.h"
 #include "platform/base/files.h"
@@ -65,8 +66,11 @@ void makeRoomFor(const QString& kept, const QString& place) {
 
 }  // namespace
 
-BookReplacement::BookReplacement(const QString& live, QString attachments)
-    : place_(placeOf(live)), attachments_(std::move(attachments)), claim_(QFileInfo(place_).absolutePath()) {}
+BookReplacement::BookReplacement(const QString& live, QString attachments, QString backups)
+    : place_(placeOf(live)),
+      attachments_(std::move(attachments)),
+      backups_(std::move(backups)),
+      claim_(QFileInfo(place_).absolutePath()) {}
 
 void BookReplacement::requireClaim() const {
     if (!isClaimed()) throw RuntimeError(Error::PermissionDenied);
@@ -81,12 +85,15 @@ void BookReplacement::replaceDatabase(const QString& source, const QString& comp
     if (files::fileExists(place_) && files::isReadOnly(place_)) throw RuntimeError(Error::PermissionDenied);
     const Unless successorGoes([this] { QFile::remove(successor()); });
     copyCheckedToSuccessor(source, place_);
-    // A note without a successor says that the new file has its place: the note is the first to go.
-    Unless noteGoes([this] { discardNote(); });
-    writeNote(companion);
+    const KeptBook kept = KeptBook::ofNow(backups_, attachments_);
+    // A note without a successor says that the new file has its place: the note goes before it.
+    Unless nothingBegan([&] { forget(kept); });
+    writeNote(companion, kept.name());
+    // Last of all, so that the new file has its room first.
+    kept.keepDatabase(place_);
     discardJournal();
     putSuccessorInPlace();
-    noteGoes.keep();
+    nothingBegan.keep();
 }
 
 void BookReplacement::replaceLostDatabase(const QString& source) {
@@ -134,12 +141,15 @@ void BookReplacement::putSuccessorInPlace() const {
     files::settleFolder(QFileInfo(place_).absolutePath());
 }
 
-// Attached files ---------------------------------------------------------------------------------------------------
+// Note -------------------------------------------------------------------------------------------------------------
 
-void BookReplacement::writeNote(const QString& companion) const {
+// A path, and behind a null, which none can hold, the name of the book that is kept.
+
+void BookReplacement::writeNote(const QString& companion, const QString& kept) const {
     const bool exists = files::folderExists(companion);
+    const QByteArray from = exists ? QFileInfo(companion).absoluteFilePath().toUtf8() : QByteArray();
     files::FileReplacement file(note());
-    file.write(exists ? QFileInfo(companion).absoluteFilePath().toUtf8() : QByteArray());
+    file.write(kept.isEmpty() ? from : from + '\0' + kept.toUtf8());
     file.place();
     files::syncFolder(file.folder());
 }
@@ -152,28 +162,62 @@ bool BookReplacement::isUnfinished() const {
     return files::fileExists(note());
 }
 
-QString BookReplacement::companion() const {
+QString BookReplacement::noted(qsizetype part) const {
     QFile file(note());
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll().split('\0').value(part)) : QString();
 }
+
+QString BookReplacement::companion() const {
+    return noted(0);
+}
+
+KeptBook BookReplacement::kept() const {
+    return {backups_, noted(1)};
+}
+
+// Attached files ---------------------------------------------------------------------------------------------------
 
 void BookReplacement::replaceAttachments() {
     const Unless over([this] { discardNote(); });
     const QString from = companion();
+    const KeptBook old = kept();
     files::makeFolder(attachments_);
+    old.takeFiles(attachments_);
     if (!from.isEmpty() && !files::folderExists(from)) throw RuntimeError(Error::PathNotFound);
-    emptyFolder(attachments_);
-    if (!from.isEmpty() && !files::entriesOf(from).files.isEmpty()) files::copyAllFiles(from, attachments_);
+    // The one that is restored from stays until its files are copied.
+    old.discardOldest(from);
+    bringFiles(from, old);
+    old.discardOldest({});
+}
+
+void BookReplacement::bringFiles(const QString& from, const KeptBook& old) const {
+    const auto bring = [&] {
+        emptyFolder(attachments_);
+        if (!from.isEmpty() && !files::entriesOf(from).files.isEmpty()) files::copyAllFiles(from, attachments_);
+    };
+    try {
+        bring();
+    } catch (const RuntimeError& failure) {
+        if (failure.error() != Error::DiskFull || !old.isKept() || !files::areOnOneDisk(backups_, attachments_)) throw;
+        // The old files would have made room for the new ones, had they not been kept.
+        old.discard();
+        bring();
+    }
+}
+
+void BookReplacement::forget(const KeptBook& kept) const {
+    kept.forgetDatabase();
+    discardNote();
 }
 
 void BookReplacement::discardRemains() const {
     // The old file is still in its place: nothing has begun.
     if (files::isTaken(successor())) {
-        discardNote();
+        forget(kept());
         QFile::remove(successor());
     }
-    files::discardUnfinished(QFileInfo(place_).absolutePath());
-    files::discardUnfinished(attachments_);
+    for (const QString& folder : {QFileInfo(place_).absolutePath(), attachments_, backups_})
+        files::discardUnfinished(folder);
 }
 
 void emptyFolder(const QString& folder) {

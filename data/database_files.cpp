@@ -13,8 +13,6 @@ namespace data {
 using platform::Error;
 using platform::RuntimeError;
 
-namespace {}  // namespace
-
 QString companionFolder(const QString& databasePath) {
     const qsizetype nameAt = databasePath.lastIndexOf(files::separator()) + 1;
     const qsizetype dot = databasePath.lastIndexOf(u'.');
@@ -24,6 +22,14 @@ QString companionFolder(const QString& databasePath) {
 
 double kilobytes(qint64 bytes) {
     return platform::roundHalfEven(static_cast<double>(bytes) / 1024, 2);
+}
+
+QStringList beyondNewest(QStringList names, qsizetype count, const QStringList& staying) {
+    const qsizetype all = names.size();
+    names.removeIf([&](const QString& name) { return staying.contains(name); });
+    names.sort();
+    const qsizetype stayingHere = all - names.size();
+    return names.first(qMax(0, names.size() - qMax(0, count - stayingHere)));
 }
 
 void requireApart(const QString& folder, const QString& other) {

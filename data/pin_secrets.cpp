@@ -18,13 +18,13 @@ void encipherRow(Recordset& row) {
     row.update();
 }
 
+}  // namespace
+
 void encipherFile(const QString& path) {
     Connection file;
     file.open(path);
     encipherPins(file);
 }
-
-}  // namespace
 
 bool hasPlainPins(Connection& connection) {
     Recordset plain;

@@ -28,6 +28,9 @@ class Connection;
 /// one that failed stay plain.
 void encipherPins(Connection& connection, std::optional<qint16> member = {});
 
+/// The same for all lists of a database file that nobody has open. Throws as Connection::open() too.
+void encipherFile(const QString& path);
+
 /// Copies a database file, which may be open, to a backup in which no secret is plain. It is on the disk when this
 /// returns, or the target is as it was. Gives the bytes that the copy has to have. Throws as files::copyFile().
 [[nodiscard]] qint64 backUpDatabase(const QString& source, const QString& target);

@@ -1,14 +1,17 @@
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
 
 namespace platform {
 
-/// The local date: the one place where the program learns what day it is.
+/// The local date and time: the one place where the program learns what day it is.
 class Clock {
 public:
     virtual ~Clock() = default;
     [[nodiscard]] virtual QDate today() const;
+    /// To the second.
+    [[nodiscard]] QDateTime now() const;
 };
 
 /// The clock in use: the computer's, unless a ClockInPlace stands for it.

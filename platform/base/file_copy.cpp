@@ -124,6 +124,14 @@ void copyFiles(const QStringList& names, const QString& folder, const QString& t
     syncFolder(targetFolder);
 }
 
+/// Between two disks the copy is lasting before the file goes.
+void moveBetweenDisks(const QString& path, const QString& target) {
+    // Left by a run that died before it could delete the file.
+    if (isTaken(target)) deleteFile(target, true);
+    copyFile(path, target);
+    deleteFile(path, true);
+}
+
 }  // namespace
 
 void copyFile(const QString& source, const QString& target, const CopyFinish& finish) {
@@ -151,6 +159,25 @@ void copyAllFiles(const QString& folder, const QString& targetFolder) {
     if (names.isEmpty()) throw RuntimeError(Error::FileNotFound);
     if (!folderExists(targetFolder)) throw RuntimeError(Error::PathNotFound);
     copyFiles(names, folder, targetFolder);
+}
+
+void moveAllFiles(const QString& folder, const QString& targetFolder) {
+    for (const QString& name : entriesOf(folder).files) {
+        const QString path = join(folder, name);
+        const QString target = join(targetFolder, name);
+        if (::rename(QFile::encodeName(path).constData(), QFile::encodeName(target).constData()) == 0) continue;
+        if (errno != EXDEV) throwSystemError(errno, Error::FileNotFound);
+        moveBetweenDisks(path, target);
+    }
+    syncFolder(targetFolder);
+    syncFolder(folder);
+}
+
+bool areOnOneDisk(const QString& folder, const QString& other) {
+    struct stat one {};
+    struct stat two {};
+    return ::stat(QFile::encodeName(folder).constData(), &one) == 0 &&
+           ::stat(QFile::encodeName(other).constData(), &two) == 0 && one.st_dev == two.st_dev;
 }
 
 void makeFolder(const QString& path) {

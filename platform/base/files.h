@@ -43,6 +43,11 @@ void flush(const QString& path);
 /// Copies the files of a folder, not its subfolders, each as copyFile(); stops at the first error. 53 when there are
 /// none.
 void copyAllFiles(const QString& folder, const QString& targetFolder);
+/// Moves the files of a folder, not its subfolders, into another one; on the disk when this returns. Between two disks
+/// each is copied and then deleted. Stops at the first error.
+void moveAllFiles(const QString& folder, const QString& targetFolder);
+/// True for two folders that share their room, for they lie on one disk.
+[[nodiscard]] bool areOnOneDisk(const QString& folder, const QString& other);
 /// Errors: 53 missing, 70 read-only and not forced.
 void deleteFile(const QString& path, bool force);
 /// Deletes the files of a folder, read-only ones too, not its subfolders; stops at the first error. 53 when there are

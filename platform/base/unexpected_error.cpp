@@ -18,4 +18,13 @@ RuntimeError asRuntimeError(const std::exception& failure) {
     return {Error::Internal, u"Internal error (%1)"_s.arg(QString::fromUtf8(failure.what()))};
 }
 
+bool passOver(const std::function<void()>& step) noexcept {
+    try {
+        step();
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
 }  // namespace platform

@@ -111,11 +111,7 @@ void Desktop::run(const std::function<void()>& handler) {
 }
 
 void Desktop::passOver(const std::function<void()>& step) {
-    try {
-        step();
-    } catch (const std::exception&) {
-        return;
-    }
+    platform::passOver(step);
 }
 
 void Desktop::setPointer(Pointer pointer) {

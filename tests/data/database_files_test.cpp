@@ -51,7 +51,7 @@ void exec(const QString& path, const char* statements) {
 
 /// Without a word about attached files, as after the last of them.
 void replaceDatabase(const QString& source, const QString& live) {
-    data::BookReplacement(live, {}).replaceDatabase(source, {});
+    data::BookReplacement(live, {}, {}).replaceDatabase(source, {});
     QFile::remove(live + u".restoring"_s);
 }
 
@@ -239,7 +239,7 @@ TEST_F(DatabaseFiles, ARunKilledWhileItReplacesLeavesOneOfTheTwoFilesWhole) {
         EXPECT_TRUE(found == bytesOf(first) || found == bytesOf(second));
     }
     EXPECT_GT(interrupted, 0) << "no kill ever met a file half copied";
-    data::BookReplacement(live, path(u"Attachments"_s)).discardRemains();
+    data::BookReplacement(live, path(u"Attachments"_s), path(u"Backup"_s)).discardRemains();
     QFile::remove(live + u".restoring"_s);
     EXPECT_EQ(names(), QStringList({u"first.mdb"_s, u"live.mdb"_s, u"second.mdb"_s}));
 }

@@ -22,8 +22,9 @@ void limitFiles(rlim_t bytes) {
 
 }  // namespace
 
-SmallDisk::SmallDisk() {
-    isMounted_ = mount("none", folder_.path().toLocal8Bit().constData(), "tmpfs", 0, "size=256k") == 0;
+SmallDisk::SmallDisk(int kilobytes) {
+    const QByteArray size = "size=" + QByteArray::number(kilobytes) + "k";
+    isMounted_ = mount("none", folder_.path().toLocal8Bit().constData(), "tmpfs", 0, size.constData()) == 0;
     std::signal(SIGXFSZ, SIG_IGN);
 }
 

@@ -3,10 +3,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// A disk with little room: a mounted one of 256 KB where the test may mount, otherwise a limit on how far files grow.
+/// A disk with little room: a mounted one where the test may mount, otherwise a limit on how far files grow.
 class SmallDisk {
 public:
-    SmallDisk();
+    explicit SmallDisk(int kilobytes = 256);
     ~SmallDisk();
     SmallDisk(const SmallDisk&) = delete;
     SmallDisk& operator=(const SmallDisk&) = delete;
@@ -15,6 +15,8 @@ public:
     /// Leaves no room for another page.
     void fill();
     void makeRoom();
+    /// It is a disk of its own.
+    [[nodiscard]] bool isMounted() const { return isMounted_; }
 
 private:
     QTemporaryDir folder_;

@@ -1,5 +1,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QSet>
@@ -35,10 +37,68 @@ protected:
     }
     [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
 
+    [[nodiscard]] QStringList namesIn(const QString& name) const {
+        return QDir(path(name)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    [[nodiscard]] QByteArray bytesOf(const QString& name) const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
+        return file.readAll();
+    }
+    void write(const QString& name, const QByteArray& bytes) const {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    /// Of the books kept in the folder of backups.
+    [[nodiscard]] QStringList keptNames() const {
+        return namesIn(u"Backup"_s).filter(u".mdb"_s).replaceInStrings(u".mdb"_s, QString());
+    }
+    [[nodiscard]] data::BookReplacement book() const {
+        return {path(u"FamilyInfo.mdb"_s), path(u"Attachments"_s), path(u"Backup"_s)};
+    }
+    void replaceByMonday() const {
+        data::BookReplacement running = book();
+        running.replaceDatabase(path(u"Mon.mdb"_s), path(u"MonAttachments"_s));
+        running.replaceAttachments();
+    }
+    void layOldBookOut(const QByteArray& database) const {
+        for (const auto& folder : {u"Attachments"_s, u"Backup"_s}) {
+            QDir(path(folder)).removeRecursively();
+            QDir().mkdir(path(folder));
+        }
+        write(u"FamilyInfo.mdb"_s, database);
+        for (const auto& file : {u"a.txt"_s, u"old.txt"_s}) {
+            write(u"Attachments/"_s + file, "old");
+            files::setReadOnly(path(u"Attachments/"_s + file));
+        }
+    }
+    /// False for a run that came to its end before.
+    [[nodiscard]] bool diesAfter(int operations) const {
+        constexpr int atTheEnd = 7;
+        const pid_t child = ::fork();
+        if (child == 0) {
+            support::WatchedDisk disk;
+            disk.dieAfter(operations);
+            replaceByMonday();
+            ::_exit(atTheEnd);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status));
+        return WEXITSTATUS(status) != atTheEnd;
+    }
+    /// What the next start does.
+    void finish() const {
+        data::BookReplacement found = book();
+        found.discardRemains();
+        if (found.isUnfinished()) found.replaceAttachments();
+    }
+
     /// How many renames gave a file or folder its name; each when all of it was on the disk, and the name right after.
-    static int expectFlushedRenames(const support::WatchedDisk& disk) {
+    /// `before`: what lay on the disk already.
+    static int expectFlushedRenames(const support::WatchedDisk& disk, QSet<QString> before = {}) {
         const QStringList all = disk.operations();
-        QSet<QString> flushed;
+        QSet<QString> flushed = std::move(before);
         int renames = 0;
         for (qsizetype i = 0; i < all.size(); ++i) {
             const QStringList words = all[i].split(u' ');
@@ -58,7 +118,7 @@ protected:
 
 TEST_F(PowerCut, NoFileBearsItsNameBeforeItIsOnTheDisk) {
     const support::WatchedDisk disk;
-    data::BookReplacement book(path(u"FamilyInfo.mdb"_s), path(u"Attachments"_s));
+    data::BookReplacement book(path(u"FamilyInfo.mdb"_s), path(u"Attachments"_s), {});
     book.replaceDatabase(path(u"Mon.mdb"_s), path(u"MonAttachments"_s));
     book.replaceAttachments();
     const QString live = u"rename %1.new %1"_s.arg(path(u"FamilyInfo.mdb"_s));
@@ -74,6 +134,51 @@ TEST_F(PowerCut, NoFileBearsItsNameBeforeItIsOnTheDisk) {
     }
     // The copy and the name of the live file, its note, two files; the backup and twice two files in their folder.
     EXPECT_EQ(expectFlushedRenames(disk), 5 + 1 + 2 * 3);
+}
+
+TEST_F(PowerCut, ABookThatIsKeptBearsItsNameWhenItIsOnTheDisk) {
+    QDir(folder_.path()).mkdir(u"Backup"_s);
+    const support::WatchedDisk disk;
+    replaceByMonday();
+    const QString kept = u"Backup/"_s + keptNames().value(0);
+    const QSet<QString> attached{path(u"Attachments/a.txt"_s), path(u"Attachments/b.txt"_s)};
+    // Five as without it; the kept database, its two files, their folder.
+    EXPECT_EQ(expectFlushedRenames(disk, attached), 5 + 4);
+    const qsizetype switched = disk.last(u"rename %1.new %1"_s.arg(path(u"FamilyInfo.mdb"_s)));
+    EXPECT_GT(disk.last(u"flush "_s + path(u"Backup"_s), switched), 0) << "the old database is safe before it goes";
+    EXPECT_GT(disk.last(u"flush "_s + path(kept + u"Attachments.moving"_s)), switched);
+    EXPECT_TRUE(QFile::exists(path(kept + u"Attachments/a.txt"_s)));
+}
+
+TEST_F(PowerCut, WhereverARunDiesOneBookIsLiveAndTheOtherOneCanBeRestored) {
+    QDir(folder_.path()).mkdir(u"Backup"_s);
+    SQLite::Database(path(u"Mon.mdb"_s).toStdString(), SQLite::OPEN_READWRITE)
+        .exec("INSERT INTO Person (LegalName) VALUES ('Monday')");
+    const QByteArray old = bytesOf(u"FamilyInfo.mdb"_s);
+    const QByteArray monday = bytesOf(u"Mon.mdb"_s);
+    int begun = 0;
+    bool over = false;
+    for (int operations = 0; !over; ++operations) {
+        SCOPED_TRACE(operations);
+        layOldBookOut(old);
+        over = !diesAfter(operations);
+        finish();
+        const bool isMonday = bytesOf(u"FamilyInfo.mdb"_s) == monday;
+        EXPECT_TRUE(isMonday || bytesOf(u"FamilyInfo.mdb"_s) == old);
+        const QStringList mondays{u"a.txt"_s, u"b.txt"_s};
+        const QStringList olds{u"a.txt"_s, u"old.txt"_s};
+        EXPECT_EQ(namesIn(u"Attachments"_s), isMonday ? mondays : olds);
+        EXPECT_EQ(namesIn({}).filter(u"FamilyInfo"_s), QStringList{u"FamilyInfo.mdb"_s});
+        const QStringList kept = keptNames();
+        ASSERT_EQ(kept.size(), isMonday ? 1 : 0);
+        EXPECT_EQ(namesIn(u"Backup"_s).size(), kept.size() * 2);
+        if (!isMonday) continue;
+        ++begun;
+        EXPECT_EQ(bytesOf(u"Backup/"_s + kept[0] + u".mdb"_s), old);
+        EXPECT_EQ(namesIn(u"Backup/"_s + kept[0] + u"Attachments"_s), olds);
+        EXPECT_EQ(bytesOf(u"Backup/"_s + kept[0] + u"Attachments/a.txt"_s), "old");
+    }
+    EXPECT_GT(begun, 10) << "no death ever met the files on their way";
 }
 
 TEST_F(PowerCut, ASavedTextIsOnTheDiskWithItsName) {

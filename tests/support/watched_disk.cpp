@@ -1,6 +1,7 @@
 #include "tests/support/watched_disk.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -14,10 +15,13 @@ namespace {
 std::mutex guard;
 QStringList seen;
 bool watching = false;
+int operationsToLive = -1;
 
 void note(const QString& operation) {
     const std::lock_guard lock(guard);
-    if (watching) seen << operation;
+    if (!watching) return;
+    if (operationsToLive >= 0 && seen.size() >= operationsToLive) _exit(0);
+    seen << operation;
 }
 
 /// The name under which an open file is known.
@@ -80,6 +84,16 @@ int renameat2(int fromFolder, const char* from, int toFolder, const char* to, un
     return static_cast<int>(::syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
 }
 
+int mkdir(const char* name, mode_t mode) noexcept {
+    if (watching) note(u"make "_s + QFile::decodeName(name));
+    return static_cast<int>(::syscall(SYS_mkdir, name, mode));
+}
+
+int rmdir(const char* name) noexcept {
+    if (watching) note(u"remove "_s + QFile::decodeName(name));
+    return static_cast<int>(::syscall(SYS_rmdir, name));
+}
+
 int unlink(const char* name) noexcept {
     if (watching) note(u"remove "_s + QFile::decodeName(name));
     return static_cast<int>(::syscall(SYS_unlink, name));
@@ -103,6 +117,10 @@ WatchedDisk::~WatchedDisk() {
 QStringList WatchedDisk::operations() const {
     const std::lock_guard lock(guard);
     return seen;
+}
+
+void WatchedDisk::dieAfter(int operations) {
+    operationsToLive = operations;
 }
 
 qsizetype WatchedDisk::last(const QString& operation, qsizetype end) const {

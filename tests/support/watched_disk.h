@@ -6,7 +6,8 @@
 namespace support {
 
 /// What the program asks of the disk while this lives, by whichever library: "write PATH", "flush PATH", "rename PATH
-/// TARGET" and "remove PATH", in their order. Linked into a test it stands before the system's own functions.
+/// TARGET", "make PATH" for a folder, and "remove PATH", in their order. Linked into a test it stands before the
+/// system's own functions.
 class WatchedDisk {
 public:
     WatchedDisk();
@@ -16,6 +17,8 @@ public:
 
     /// All operations so far.
     [[nodiscard]] QStringList operations() const;
+    /// From here on the process dies instead of the operation that follows so many others.
+    void dieAfter(int operations);
     /// Place of the last operation of that kind before `end`; -1 for none.
     [[nodiscard]] qsizetype last(const QString& operation, qsizetype end = -1) const;
 };
