@@ -75,7 +75,7 @@ bool DatabaseCommands::confirmFreshStart() {
         "NOTE also that you must clear your password if you have set one on your current database before you start "
         "this new database.  If you do not clear your password you will be locked out of your new database.  Do you "
         "still want to continue?"_s,
-        u"Fresh Start Confirmation"_s);
+        u"Fresh Start Confirmation"_s, platform::Buttons::NoYes);
     if (!goesOn) {
         desktop_.notice(
             u"No changes were made to your existing database.  It is recommended that you backup your existing "
@@ -118,7 +118,7 @@ bool DatabaseCommands::confirmRestore() {
         "you must backup the current database before continuing \r\n"
         "this restore function.\r\n\r\n"
         "Do you want to continue?"_s,
-        u"Restore Database Confirmation"_s);
+        u"Restore Database Confirmation"_s, platform::Buttons::NoYes);
 }
 
 void DatabaseCommands::restore() {

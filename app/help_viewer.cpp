@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
 #include <QToolBar>
@@ -79,6 +80,7 @@ void HelpViewer::layOut() {
         search_->selectAll();
     });
     addAction(find);
+    new QShortcut(Qt::Key_Escape, this, [this] { close(); });
     notFound_ = bar->addWidget(new QLabel(u"Not found"_s, this));
     notFound_->setVisible(false);
 

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
+#include <QShortcut>
 
 #include "app/about_dialog.h"
 #include "app/help_viewer.h"
@@ -73,6 +74,9 @@ void MDIHost::makeMenus() {
 }
 
 void MDIHost::connectControls() {
+    setStops({&panel_->cbPerson(), &panel_->tvTree()});
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            handler([this] { showHelp(); }));
     panel_->cbPerson().onClick(handler([this] { selector_.cbPerson_Click(); }));
     panel_->cbPerson().onEnter(handler([this] { selector_.cbPerson_Click(); }));
     panel_->cmdAddNew().onClick(handler([this] { selector_.cmdAddNew_Click(); }));

@@ -38,21 +38,13 @@ struct OwnClass {
 
 /// The record screens that are more than their entry. Every other one is an OwnedScreen.
 constexpr OwnClass ownClasses[] = {
-    {"frmAgSite"_L1, make<screens::AgSiteScreen>},
-    {"frmAlimony"_L1, make<screens::AlimonyScreen>},
-    {"frmChildSupport"_L1, make<screens::SharedTableScreen>},
-    {"frmContacts"_L1, make<screens::ReferenceScreen>},
-    {"frmCoverPage"_L1, make<screens::CoverPageScreen>},
-    {"frmDoctors"_L1, make<screens::ReferenceScreen>},
-    {"frmEducation"_L1, make<screens::EducationScreen>},
-    {"frmHomesRented"_L1, make<screens::HomesRentedScreen>},
-    {"frmImprovements"_L1, make<screens::ChildScreen>},
-    {"frmInventory"_L1, make<screens::ChildScreen>},
-    {"frmLoans"_L1, make<screens::SharedTableScreen>},
-    {"frmMortgages"_L1, make<screens::SharedTableScreen>},
-    {"frmOutbuildings"_L1, make<screens::ChildScreen>},
-    {"frmStocks"_L1, make<screens::StocksScreen>},
-    {"frmTheyOweYou"_L1, make<screens::SharedTableScreen>},
+    {"frmAlimony"_L1, make<screens::AlimonyScreen>},         {"frmChildSupport"_L1, make<screens::SharedTableScreen>},
+    {"frmContacts"_L1, make<screens::ReferenceScreen>},      {"frmCoverPage"_L1, make<screens::CoverPageScreen>},
+    {"frmDoctors"_L1, make<screens::ReferenceScreen>},       {"frmEducation"_L1, make<screens::EducationScreen>},
+    {"frmHomesRented"_L1, make<screens::HomesRentedScreen>}, {"frmImprovements"_L1, make<screens::ChildScreen>},
+    {"frmInventory"_L1, make<screens::ChildScreen>},         {"frmLoans"_L1, make<screens::SharedTableScreen>},
+    {"frmMortgages"_L1, make<screens::SharedTableScreen>},   {"frmOutbuildings"_L1, make<screens::ChildScreen>},
+    {"frmStocks"_L1, make<screens::StocksScreen>},           {"frmTheyOweYou"_L1, make<screens::SharedTableScreen>},
 };
 
 using PlainMaker = Made (*)(platform::Desktop&, session::Session&, session::Workspace&);

@@ -209,7 +209,8 @@ void AttachDialog::cmdDelete_Click() {
     if (!mayChange()) return;
     if (!hasSelection(u"There is no attachment available to delete."_s)) return;
     desktop().attempt(u"Error in Delete Process"_s, [this] {
-        if (!desktop().ask(u"Do you want to delete the highlighted attachment?"_s, u"Delete File Confirmation"_s)) {
+        if (!desktop().ask(u"Do you want to delete the highlighted attachment?"_s, u"Delete File Confirmation"_s,
+                           platform::Buttons::NoYes)) {
             return;
         }
         store_.remove(selectedName());

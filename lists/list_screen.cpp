@@ -191,6 +191,7 @@ void ListScreen::cmdCancel_Click() {
     endEditing();
     platform::Desktop::passOver([this] { rows_.cancelUpdate(); });
     platform::Desktop::passOver([this] { rows_.moveFirst(); });
+    grid().setFocus();
 }
 
 // Delete -----------------------------------------------------------------------------------------------------------
@@ -198,7 +199,10 @@ void ListScreen::cmdCancel_Click() {
 void ListScreen::cmdDelete_Click() {
     desktop().attempt(u"Delete Error"_s, [this] {
         if (!mayChange() || !hasEntries(u"delete"_s) || !mayDeleteRow()) return;
-        if (!desktop().ask(u"Are you sure you want to delete this entry?"_s, u"Delete Confirmation"_s)) return;
+        if (!desktop().ask(u"Are you sure you want to delete this entry?"_s, u"Delete Confirmation"_s,
+                           platform::Buttons::NoYes)) {
+            return;
+        }
         run(u"Delete from %1 Where ID = "_s.arg(definition_.table) + key());
         finishDelete();
         rebind(true);
@@ -247,9 +251,8 @@ bool ListScreen::standOn(qint64 record, const QString& /*column*/) {
     return stands;
 }
 
-void ListScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
-    if (bEditing_ || bAdding_) return;
-    session::navigate(key, held, buttons());
+bool ListScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
+    return !bEditing_ && !bAdding_ && session::navigate(key, held, buttons());
 }
 
 // Close ------------------------------------------------------------------------------------------------------------

@@ -41,7 +41,7 @@ public:
                const ListDefinition& definition);
 
     void Form_Load() override;
-    void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
+    bool Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
     void Form_Unload() override;
     /// The grid has the focus, whichever the column.
     [[nodiscard]] bool standOn(qint64 record, const QString& column) override;

@@ -11,6 +11,7 @@ namespace screens {
 namespace {
 constexpr int nameBox = 0;
 constexpr int locationBox = 1;
+constexpr int firstOwnBox = 2;
 }  // namespace
 
 ChildScreen::ChildScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
@@ -65,6 +66,10 @@ void ChildScreen::showOwner() {
         if (!rsLookup().eof()) name = rsLookup().value(u"LegalName"_s).toString();
     }
     boxes().text(nameBox).setText(name);
+}
+
+int ChildScreen::firstTyped() const {
+    return firstOwnBox;
 }
 
 void ChildScreen::beginAdd() {

@@ -22,6 +22,7 @@ public:
 
 protected:
     void beginAdd() override;
+    [[nodiscard]] int firstTyped() const override;
 
 private:
     void showOwner();

@@ -99,6 +99,7 @@ void FieldBoxes::makeCombo(QWidget& form, int shadow) {
     const int index = definition_.firstField() + static_cast<int>(combos_.size());
     combo.box->setName(definition_.soleCombo ? u"cbFields"_s : indexedName(u"cbFields"_s, index));
     combo.box->setAccessibleName(text.label->text());
+    combo.box->setCompletes(text.column->shownIn == data::ShownIn::StateCombo);
     combo.binding = std::make_unique<platform::Binding>(*combo.box, text.column->name, QString(), true);
     text.box->widget().hide();
     text.label->setBuddy(combo.box);

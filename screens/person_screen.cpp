@@ -63,12 +63,6 @@ void PersonScreen::Form_Load() {
 
 // Add and save -----------------------------------------------------------------------------------------------------
 
-void PersonScreen::beginAdd() {
-    RecordScreen::beginAdd();
-    // While the screen loads nothing can take the focus; it falls on the name box when the window comes up.
-    if (boxes().text(legalNameColumn).widget().isVisible()) boxes().text(legalNameColumn).widget().setFocus();
-}
-
 bool PersonScreen::readyToSave() {
     if (legalName().isEmpty()) {
         desktop().notice(

@@ -23,7 +23,6 @@ public:
 protected:
     /// The first member can be entered whatever the session may do.
     [[nodiscard]] bool mayAdd() override { return true; }
-    void beginAdd() override;
     [[nodiscard]] bool readyToSave() override;
     [[nodiscard]] bool finishAdd() override;
     void finishSave() override;

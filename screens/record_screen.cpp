@@ -35,6 +35,12 @@ const QString noAttachments = u"Attachments:  0"_s;
 const std::pair<QString, QString> childKeys[] = {
     {u"Inventory"_s, u"view-list-details"_s}, {u"Improvements"_s, u"tools"_s}, {u"Outbuildings"_s, u"go-home"_s}};
 
+/// Ctrl+A, Ctrl+C, Ctrl+N and Ctrl+S select, copy, add and save: they type nothing, whatever comes of them.
+bool isCommand(int keyAscii) {
+    constexpr auto ctrl = [](char letter) { return letter - 'A' + 1; };
+    return keyAscii == ctrl('A') || keyAscii == ctrl('C') || keyAscii == ctrl('N') || keyAscii == ctrl('S');
+}
+
 }  // namespace
 
 RecordScreen::RecordScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
@@ -163,13 +169,24 @@ void RecordScreen::beginEmpty() {
     cmdAdd_Click();
 }
 
-void RecordScreen::focusOn(platform::TextControl& box) {
+void RecordScreen::focusOn(QWidget& box) {
     if (!isVisible()) {
         focusWhenShown_ = &box;
         return;
     }
-    box.widget().setFocus();
-    box.selectAll();
+    box.setFocus(Qt::TabFocusReason);
+    page_->ensureWidgetVisible(&box);
+    // One that has the focus already takes no notice of that.
+    if (auto* text = dynamic_cast<platform::TextControl*>(&box)) text->selectAll();
+}
+
+void RecordScreen::focusOnFirstTyped() {
+    const auto& texts = boxes_.texts();
+    for (auto text = texts.lower_bound(firstTyped()); text != texts.end(); ++text) {
+        platform::ComboBox* combo = boxes_.comboOver(text->first);
+        if (combo ? combo->isLocked() : text->second.box->isLocked()) continue;
+        return focusOn(combo ? *combo : text->second.box->widget());
+    }
 }
 
 void RecordScreen::focusOn(const QString& column) {
@@ -193,7 +210,7 @@ void RecordScreen::openChild(const QString& window) {
 
 void RecordScreen::show() {
     DataWindow::show();
-    if (platform::TextControl* box = std::exchange(focusWhenShown_, nullptr)) focusOn(*box);
+    if (QWidget* box = std::exchange(focusWhenShown_, nullptr)) focusOn(*box);
 }
 
 // Add --------------------------------------------------------------------------------------------------------------
@@ -208,7 +225,9 @@ void RecordScreen::cmdAdd_Click() {
             session::showScreenChanges(desktop());
             return;
         }
-        if (mayAdd()) beginAdd();
+        if (!mayAdd()) return;
+        beginAdd();
+        focusOnFirstTyped();
     });
 }
 
@@ -237,7 +256,7 @@ void RecordScreen::cmdEdit_Click() {
         buttons_->status().setText(u"Edit record"_s);
         bEditing_ = true;
         setButtons(false);
-        beginEdit();
+        focusOnFirstTyped();
     });
 }
 
@@ -336,7 +355,7 @@ void RecordScreen::cmdDelete_Click() {
 }
 
 bool RecordScreen::confirmsDelete() {
-    return desktop().ask(deleteQuestion(), u"Delete Confirmation"_s);
+    return desktop().ask(deleteQuestion(), u"Delete Confirmation"_s, platform::Buttons::NoYes);
 }
 
 QString RecordScreen::deleteQuestion() {
@@ -461,11 +480,12 @@ void RecordScreen::Form_Unload() {
 // Keys -------------------------------------------------------------------------------------------------------------
 
 void RecordScreen::Form_KeyPress(int keyAscii) {
-    if (keyAscii != '\r' && keyAscii != '\t') bChange = true;
+    const bool goesOn = keyAscii == '\r' || keyAscii == '\t';
+    if (!goesOn && !isCommand(keyAscii)) bChange = true;
 }
 
-void RecordScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
-    if (isBrowsing()) session::navigate(key, held, *buttons_);
+bool RecordScreen::Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) {
+    return isBrowsing() && session::navigate(key, held, *buttons_);
 }
 
 // Checks and aids --------------------------------------------------------------------------------------------------

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <memory>
 #include <optional>
 
@@ -40,7 +41,7 @@ public:
 
     void show() override;
     [[nodiscard]] bool keyPreview() const override { return true; }
-    void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
+    bool Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override;
     void Form_KeyPress(int keyAscii) override;
     void Form_Unload() override;
 
@@ -52,17 +53,18 @@ protected:
     void showStateCombos();
     /// A screen without rows begins in an add.
     void beginEmpty();
-    /// Gives the box the focus with its whole text selected; in a load, once the window comes up.
-    void focusOn(platform::TextControl& box);
+    /// Gives the box the focus as Tab does, its whole text selected; in a load, once the window comes up.
+    void focusOn(QWidget& box);
     /// Gives the focus to the box of a column, or to the combo that stands for it.
     void focusOn(const QString& column);
+    /// The first of the numbered boxes in which an add or an edit may begin.
+    [[nodiscard]] virtual int firstTyped() const { return 0; }
 
     // Add, edit, save, cancel, delete. The steps in which a kind of screen differs are its overrides.
     void cmdAdd_Click();
     [[nodiscard]] virtual bool mayAdd() { return mayChange(); }
     virtual void beginAdd();
     void cmdEdit_Click();
-    virtual void beginEdit() {}
     void cmdUpdate_Click();
     /// The name that no row goes without.
     [[nodiscard]] virtual QString requiredName() const;
@@ -154,6 +156,8 @@ protected:
 
 private:
     void layOut();
+    /// Puts the focus where the user goes on: in the first box that takes what is typed.
+    void focusOnFirstTyped();
     void connectControls();
     [[nodiscard]] session::RecordActions actions();
     [[nodiscard]] session::WindowCommands commands();
@@ -179,7 +183,7 @@ private:
     /// What the count reads when an add is cancelled; a new record has no files.
     QString countBesideAdd_;
     std::unique_ptr<HiddenBox> txtID_;
-    platform::TextControl* focusWhenShown_ = nullptr;
+    QPointer<QWidget> focusWhenShown_;
 
     bool bEditing_ = false;
     bool bAdding_ = false;

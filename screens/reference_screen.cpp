@@ -5,6 +5,7 @@
 
 #include "platform/forms/combo_box.h"
 #include "platform/forms/desktop.h"
+#include "platform/forms/text_control.h"
 #include "session/refusals.h"
 #include "session/session.h"
 
@@ -27,6 +28,8 @@ ReferenceScreen::ReferenceScreen(platform::Desktop& desktop, session::Session& s
     line->addWidget(label);
     line->addWidget(cbSelect_, 1);
     placeOnTop(*row);
+    // It stands above the boxes, and comes before them.
+    setTabOrder(boxes().text(0).widget().previousInFocusChain(), cbSelect_);
 }
 
 void ReferenceScreen::Form_Load() {
@@ -42,7 +45,7 @@ void ReferenceScreen::Form_Load() {
         beginEmpty();
     } else {
         setAttachKey();
-        focusOn(boxes().text(0));
+        focusOn(boxes().text(0).widget());
     }
 }
 

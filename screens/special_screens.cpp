@@ -11,11 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace screens {
 
-void AgSiteScreen::beginEdit() {
-    focusOn(boxes().text(definition().firstField()));
-    OwnedScreen::beginEdit();
-}
-
 void AlimonyScreen::goFirst() {
     workspace().enableTree(true);
     SharedTableScreen::goFirst();

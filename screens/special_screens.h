@@ -7,15 +7,6 @@ namespace screens {
 
 // The owned screens that do one thing otherwise than all the others, by the alphabet.
 
-/// Farm land: an edit begins in its first box, ready to be typed over.
-class AgSiteScreen : public OwnedScreen {
-public:
-    using OwnedScreen::OwnedScreen;
-
-protected:
-    void beginEdit() override;
-};
-
 /// Alimony: going to the first record also gives the category tree back to the user while another window's add has it.
 class AlimonyScreen : public SharedTableScreen {
 public:

@@ -4,7 +4,7 @@
 
 namespace session {
 
-void navigate(Qt::Key key, Qt::KeyboardModifiers held, const RecordButtons& buttons) {
+bool navigate(Qt::Key key, Qt::KeyboardModifiers held, const RecordButtons& buttons) {
     const RecordActions& actions = buttons.actions();
     const bool ctrl = held == Qt::ControlModifier;
     switch (key) {
@@ -26,8 +26,9 @@ void navigate(Qt::Key key, Qt::KeyboardModifiers held, const RecordButtons& butt
             ctrl ? actions.last() : actions.next();
             break;
         default:
-            break;
+            return false;
     }
+    return true;
 }
 
 }  // namespace session

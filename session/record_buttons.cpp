@@ -84,6 +84,8 @@ void RecordButtons::makeActionRow(QWidget& form, QVBoxLayout& column, const QStr
     cancel_ = button(*buttons, u"cmdCancel"_s, u"&Cancel"_s, actions_.cancel);
     delete_ = button(*buttons, u"cmdDelete"_s, u"&Delete"_s, actions_.remove);
     if (actions_.open) open_ = button(*buttons, u"cmdOpen"_s, u"O&pen"_s, actions_.open);
+    add_->addKey(QKeySequence::New);
+    update_->addKey(QKeySequence::Save);
     actionRow_ = static_cast<QHBoxLayout*>(buttons->layout());
     actionRow_->addStretch(1);
     close_ = button(*buttons, u"cmdClose"_s, u"C&lose"_s, actions_.close);

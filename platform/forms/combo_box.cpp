@@ -200,7 +200,21 @@ void ComboBox::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
+    const QString before = currentText();
     QComboBox::keyPressEvent(event);
+    const bool writes = !event->text().isEmpty() && event->text().front().isPrint();
+    if (completes_ && writes && currentText() != before) complete();
+}
+
+void ComboBox::complete() {
+    const auto typed = static_cast<int>(currentText().size());
+    if (line_->cursorPosition() < typed) return;
+    const int entry = findText(currentText(), Qt::MatchStartsWith);
+    if (entry < 0) return;
+    const QSignalBlocker quiet(this);
+    setCurrentIndex(entry);
+    setEditText(itemText(entry));
+    line_->setSelection(typed, line_->maxLength());
 }
 
 }  // namespace platform

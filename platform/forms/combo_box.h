@@ -11,7 +11,7 @@ namespace platform {
 
 class LineEdit;
 
-/// A drop-down list with free typing and no completion.
+/// A drop-down list with free typing.
 class ComboBox : public QComboBox, public Control, public Bindable {
     Q_OBJECT
 
@@ -38,6 +38,9 @@ public:
     [[nodiscard]] bool isLocked() const { return locked_; }
     /// A locked combo takes neither typing nor a choice; code can still set it.
     void setLocked(bool locked);
+    /// What is typed at the end is completed to the first entry that begins like it, the rest selected, so that the
+    /// next letter replaces it.
+    void setCompletes(bool completes) { completes_ = completes; }
     void select(int start, int length);
     void selectAll();
     [[nodiscard]] int selStart() const;
@@ -64,6 +67,7 @@ protected:
 
 private:
     void click();
+    void complete();
     /// Brings a text into the box, or its beginning where it is too long to be drawn.
     void showText(const QString& text);
 
@@ -74,6 +78,7 @@ private:
     std::optional<QString> held_;
     QString long_;  ///< the whole of a text whose beginning is shown; what is typed takes its place
     bool locked_ = false;
+    bool completes_ = false;
 };
 
 }  // namespace platform

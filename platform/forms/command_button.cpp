@@ -1,6 +1,7 @@
 #include "platform/forms/command_button.h"
 
-#include <QEvent>
+#include <QKeyEvent>
+#include <QShortcutEvent>
 
 namespace platform {
 
@@ -13,13 +14,27 @@ void CommandButton::press() {
     if (handler_) handler_();
 }
 
+void CommandButton::addKey(const QKeySequence& key) {
+    key_ = key;
+    grabShortcut(key);
+}
+
 bool CommandButton::event(QEvent* event) {
     if (event->type() == QEvent::Shortcut && isEnabled()) {
-        setFocus(Qt::ShortcutFocusReason);
+        const bool byKey = static_cast<QShortcutEvent*>(event)->key() == key_;
+        if (!byKey) setFocus(Qt::ShortcutFocusReason);
         click();
         return true;
     }
     return QPushButton::event(event);
+}
+
+void CommandButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+    } else {
+        QPushButton::keyPressEvent(event);
+    }
 }
 
 }  // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QPushButton>
 #include <functional>
 
@@ -7,7 +8,8 @@
 
 namespace platform {
 
-/// A push button. Its accelerator gives it the focus and clicks at once, like the mouse.
+/// A push button. Its accelerator gives it the focus and clicks at once, like the mouse; Enter clicks the one that has
+/// the focus.
 class CommandButton : public QPushButton, public Control {
     Q_OBJECT
 
@@ -18,12 +20,16 @@ public:
     void onClick(std::function<void()> handler) { handler_ = std::move(handler); }
     /// Clicks by code, also when the button is hidden.
     void press();
+    /// A key that clicks it while it shows, besides its accelerator; the focus stays where it is.
+    void addKey(const QKeySequence& key);
 
 protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     std::function<void()> handler_;
+    QKeySequence key_;
 };
 
 }  // namespace platform

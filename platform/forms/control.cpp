@@ -37,6 +37,10 @@ Control* Control::of(QWidget* widget) {
     return nullptr;
 }
 
+bool takesTab(const QWidget& widget) {
+    return (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget.focusProxy() && widget.isEnabled();
+}
+
 QString indexedName(const QString& array, int index) {
     return u"%1(%2)"_s.arg(array).arg(index);
 }

@@ -42,6 +42,9 @@ private:
     bool checkDue_ = false;
 };
 
+/// Tab stops at the widget when it is in sight.
+[[nodiscard]] bool takesTab(const QWidget& widget);
+
 /// "txtFields" and 3 give "txtFields(3)".
 [[nodiscard]] QString indexedName(const QString& array, int index);
 

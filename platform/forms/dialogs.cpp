@@ -5,7 +5,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <algorithm>
@@ -19,30 +18,6 @@ namespace platform {
 namespace {
 
 constexpr int longestText = 1024;
-
-/// A box whose question must be answered by a button: it has no close box, and Esc stands for no answer.
-class Box : public QMessageBox {
-public:
-    explicit Box(bool mustAnswer) : QMessageBox(QApplication::activeWindow()), mustAnswer_(mustAnswer) {
-        setWindowFlag(Qt::WindowCloseButtonHint, !mustAnswer);
-    }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (mustAnswer_ && event->key() == Qt::Key_Escape) return;
-        QMessageBox::keyPressEvent(event);
-    }
-    void closeEvent(QCloseEvent* event) override {
-        if (mustAnswer_) {
-            event->ignore();
-        } else {
-            QMessageBox::closeEvent(event);
-        }
-    }
-
-private:
-    bool mustAnswer_;
-};
 
 /// An input box wide enough for a sentence, which comes up with the beginning of its text in sight.
 class InputBox : public QInputDialog {
@@ -87,7 +62,7 @@ QMessageBox::StandardButton presetButton(Buttons buttons) {
 
 Answer Dialogs::messageBox(const QString& text, Icon icon, const QString& title, Buttons buttons) {
     const bool asks = buttons != Buttons::Ok;
-    Box box(asks);
+    QMessageBox box(QApplication::activeWindow());
     box.setObjectName(u"MessageBox"_s);
     box.setTextFormat(Qt::PlainText);
     box.setText(text.left(longestText));
@@ -95,6 +70,11 @@ Answer Dialogs::messageBox(const QString& text, Icon icon, const QString& title,
     box.setIcon(boxIcon(icon));
     box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(presetButton(buttons));
+    if (asks) {
+        // A question is answered by a button; Esc is its No.
+        box.setWindowFlag(Qt::WindowCloseButtonHint, false);
+        box.setEscapeButton(QMessageBox::No);
+    }
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

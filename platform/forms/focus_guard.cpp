@@ -4,15 +4,21 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QShortcutEvent>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 
+#include "platform/forms/command_button.h"
 #include "platform/forms/control.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/form.h"
+#include "platform/forms/form_window.h"
 #include "platform/forms/key_ascii.h"
+#include "platform/forms/mdi_frame.h"
 
 namespace platform {
 
@@ -51,6 +57,11 @@ Qt::KeyboardModifiers heldWith(const QKeyEvent& event) {
     return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
 }
 
+/// A blank on a button isn't typed.
+bool pressesButton(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Space && qobject_cast<CommandButton*>(QApplication::focusWidget());
+}
+
 }  // namespace
 
 FocusGuard::FocusGuard(Desktop& desktop) : desktop_(desktop) {
@@ -85,7 +96,7 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
             dropRelease_ = false;
             return true;
         case QEvent::Shortcut:
-            return accelerator(receiver);
+            return accelerator(receiver, static_cast<QShortcutEvent&>(*event));
         default:
             return false;
     }
@@ -97,9 +108,11 @@ bool FocusGuard::keyPressed(Form& form, QKeyEvent& event) {
     // A Tab that moves the focus is no key of the form.
     if (isTab(event)) return !mayLeave(form, nullptr);
     if (form.keyPreview()) {
-        desktop_.run([&] { form.Form_KeyDown(keyOf(event), heldWith(event)); });
-        if (gone()) return true;
-        if (const int character = keyAscii(event); character != 0) desktop_.run([&] { form.Form_KeyPress(character); });
+        bool usedUp = false;
+        desktop_.run([&] { usedUp = form.Form_KeyDown(keyOf(event), heldWith(event)); });
+        if (usedUp || gone()) return true;
+        const int character = pressesButton(event) ? 0 : keyAscii(event);
+        if (character != 0) desktop_.run([&] { form.Form_KeyPress(character); });
         if (gone()) return true;
     }
     return false;
@@ -128,7 +141,25 @@ bool FocusGuard::mousePressed(QObject* receiver, QMouseEvent& event) {
     return true;
 }
 
-bool FocusGuard::accelerator(QObject* receiver) {
+CommandButton* FocusGuard::buttonWith(const QKeySequence& key) const {
+    const FormWindow* front = desktop_.host() ? desktop_.host()->activeForm() : nullptr;
+    if (!front) return nullptr;
+    const auto buttons = front->findChildren<CommandButton*>();
+    const auto found = std::ranges::find_if(buttons, [&](const CommandButton* button) {
+        return button->shortcut() == key && button->isVisible() && button->isEnabled();
+    });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+bool FocusGuard::accelerator(QObject* receiver, const QShortcutEvent& event) {
+    if (event.isAmbiguous() && qobject_cast<QMenuBar*>(receiver)) {
+        // The two would take turns. F10 and Alt lead to the menu, only its letter to the button.
+        CommandButton* button = buttonWith(event.key());
+        if (!button) return false;
+        QShortcutEvent own(event.key(), 0);
+        QApplication::sendEvent(button, &own);
+        return true;
+    }
     auto* widget = qobject_cast<QWidget*>(receiver);
     if (!widget) return false;
     if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy()) widget = label->buddy();

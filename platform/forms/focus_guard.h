@@ -4,10 +4,13 @@
 
 class QInputMethodEvent;
 class QKeyEvent;
+class QKeySequence;
 class QMouseEvent;
+class QShortcutEvent;
 
 namespace platform {
 
+class CommandButton;
 class Control;
 class Desktop;
 class Form;
@@ -31,7 +34,9 @@ private:
     /// Dead keys and input methods bring a text without its keys: each character counts as typed.
     void textComposed(QWidget& receiver, const QInputMethodEvent& event);
     bool mousePressed(QObject* receiver, QMouseEvent& event);
-    bool accelerator(QObject* receiver);
+    bool accelerator(QObject* receiver, const QShortcutEvent& event);
+    /// The button of the form in front that has the accelerator; nullptr if none has.
+    [[nodiscard]] CommandButton* buttonWith(const QKeySequence& key) const;
     /// True if the focus may go from the form's active control to the given one.
     bool mayLeave(Form& form, const Control* target);
 

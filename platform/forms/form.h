@@ -57,8 +57,9 @@ public:
 
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
-    /// `held`: which of Shift, Ctrl and Alt.
-    virtual void Form_KeyDown(Qt::Key /*key*/, Qt::KeyboardModifiers /*held*/) {}
+    /// `held`: which of Shift, Ctrl and Alt. True if the key is used up: nothing else comes of it, neither a character
+    /// nor anything in the box.
+    virtual bool Form_KeyDown(Qt::Key /*key*/, Qt::KeyboardModifiers /*held*/) { return false; }
     virtual void Form_KeyPress(int /*keyAscii*/) {}
     virtual void Form_KeyUp(Qt::Key /*key*/) {}
     virtual void Form_QueryUnload(bool& /*cancel*/) {}

@@ -1,5 +1,6 @@
 #include "platform/forms/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
@@ -27,13 +28,25 @@ void FormWindow::show() {
     const bool first = !frame_;
     if (first) frame_ = desktop().host()->addChild(*this);
     desktop().host()->bringToFront(*frame_);
-    if (first) focusFirstControl();
+    if (first) {
+        focusFirstControl();
+    } else if (!isAncestorOf(QApplication::focusWidget())) {
+        takeFocus();
+    }
+}
+
+void FormWindow::takeFocus() {
+    QWidget* last = focusWidget();
+    if (last && last->isVisible() && last->isEnabled()) {
+        last->setFocus(Qt::OtherFocusReason);
+    } else {
+        focusFirstControl();
+    }
 }
 
 void FormWindow::focusFirstControl() {
     for (QWidget* widget = nextInFocusChain(); widget && widget != this; widget = widget->nextInFocusChain()) {
-        const bool takesTab = (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget->focusProxy();
-        if (!takesTab || !isAncestorOf(widget) || !widget->isVisibleTo(this) || !widget->isEnabled()) continue;
+        if (!takesTab(*widget) || !isAncestorOf(widget) || !widget->isVisibleTo(this)) continue;
         widget->setFocus(Qt::OtherFocusReason);
         return;
     }
@@ -79,8 +92,7 @@ void FormWindow::hideEvent(QHideEvent* event) {
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     CommandButton* button = nullptr;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        auto* focused = dynamic_cast<CommandButton*>(focusWidget());
-        button = focused ? focused : default_;
+        button = default_;
     } else if (event->key() == Qt::Key_Escape) {
         button = cancel_;
     }

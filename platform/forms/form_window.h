@@ -27,8 +27,10 @@ public:
     /// Shows the form and returns when it is hidden or unloaded.
     void showModal();
     void leave() override;
+    /// Gives the focus to the control that had it last, else to the first one.
+    void takeFocus();
 
-    /// Enter clicks it wherever nothing else takes the key; a button with the focus does.
+    /// Enter clicks it wherever nothing else takes the key.
     void setDefaultButton(CommandButton* button) { default_ = button; }
     /// Escape clicks it.
     void setCancelButton(CommandButton* button) { cancel_ = button; }

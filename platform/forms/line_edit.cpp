@@ -55,6 +55,13 @@ void LineEdit::focusInEvent(QFocusEvent* event) {
     if (byTab && selectionLength() > 0) selectAllFromStart();
 }
 
+void LineEdit::focusOutEvent(QFocusEvent* event) {
+    if (event->reason() != Qt::MenuBarFocusReason) return QLineEdit::focusOutEvent(event);
+    // A menu that is reached by the keyboard copies the selection just as one that the mouse opens.
+    QFocusEvent asByMouse(event->type(), Qt::PopupFocusReason);
+    QLineEdit::focusOutEvent(&asByMouse);
+}
+
 void LineEdit::initStyleOption(QStyleOptionFrame* option) const {
     QLineEdit::initStyleOption(option);
     if (isReadOnly()) option->palette.setBrush(QPalette::Base, option->palette.window());

@@ -3,12 +3,15 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QShortcut>
 #include <QSplitter>
 #include <algorithm>
 #include <utility>
 
+#include "platform/forms/control.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/form_window.h"
 
@@ -43,8 +46,10 @@ MdiFrame::MdiFrame(Desktop& desktop, const QString& name)
     centre_->setChildrenCollapsible(false);
     area_->setBackground(palette().brush(QPalette::Window));
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
+    area_->setFocusPolicy(Qt::NoFocus);
     setCentralWidget(centre_);
     connect(area_, &QMdiArea::subWindowActivated, this, &MdiFrame::childActivated);
+    addKeys();
 }
 
 MdiFrame::~MdiFrame() {
@@ -68,6 +73,8 @@ void MdiFrame::show() {
     // The records keep half of a small window.
     const int panel = std::min(panel_ ? panel_->sizeHint().width() : 0, width() / 2);
     centre_->setSizes({panel, width() - panel});
+    // What has the focus is seen from the start, before a key was pressed.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     QMainWindow::show();
     activateWindow();
 }
@@ -81,6 +88,9 @@ FormWindow* MdiFrame::activeForm() const {
 QMdiSubWindow* MdiFrame::addChild(FormWindow& child) {
     QMdiSubWindow* frame = area_->addSubWindow(&child);
     frame->setAttribute(Qt::WA_DeleteOnClose, false);
+    // The press of a toolbar key would fall through to the frame, which takes the focus and gives it back: the
+    // selection that the key is to copy would be gone.
+    frame->setFocusPolicy(Qt::NoFocus);
     return frame;
 }
 
@@ -125,6 +135,62 @@ void MdiFrame::childActivated() {
     order_.push_back(frame);
     child->desktop().run([child] { child->Form_Activate(); });
 }
+
+// Keys -------------------------------------------------------------------------------------------------------------
+
+void MdiFrame::addKeys() {
+    new QShortcut(Qt::Key_F6, this, [this] { goRound(1); });
+    new QShortcut(Qt::SHIFT | Qt::Key_F6, this, [this] { goRound(-1); });
+    new QShortcut(Qt::Key_F10, this, [this] { openMenuBar(); });
+}
+
+void MdiFrame::goRound(int step) {
+    std::vector<QWidget*> stops;
+    for (QWidget* stop : stops_) {
+        if (stop->isVisible() && stop->isEnabled()) stops.push_back(stop);
+    }
+    FormWindow* child = activeForm();
+    if (child) stops.push_back(child);
+    if (stops.empty()) return;
+    const QWidget* focus = focusWidget();
+    const auto holdsFocus = [focus](const QWidget* stop) { return stop == focus || stop->isAncestorOf(focus); };
+    const auto here = std::ranges::find_if(stops, holdsFocus);
+    const auto count = static_cast<int>(stops.size());
+    // From elsewhere the way leads to the first stop, or to the last.
+    const int from = here != stops.end() ? static_cast<int>(here - stops.begin()) : step > 0 ? -1 : 0;
+    QWidget* next = stops[static_cast<std::size_t>((from + step + count) % count)];
+    if (next == child) {
+        child->takeFocus();
+    } else {
+        next->setFocus(Qt::TabFocusReason);
+    }
+}
+
+void MdiFrame::openMenuBar() {
+    const QList<QAction*> menus = menuBar()->actions();
+    const auto usable = std::ranges::find_if(menus, &QAction::isEnabled);
+    if (usable == menus.end()) return;
+    menuBar()->setActiveAction(*usable);
+    QMenu& menu = *(*usable)->menu();
+    if (!menu.actions().isEmpty()) menu.setActiveAction(menu.actions().first());
+}
+
+bool MdiFrame::focusNextPrevChild(bool next) {
+    const auto step = [next](const QWidget* widget) {
+        return next ? widget->nextInFocusChain() : widget->previousInFocusChain();
+    };
+    const QMdiSubWindow* front = area_->currentSubWindow();
+    const QWidget* from = focusWidget() ? focusWidget() : this;
+    for (QWidget* widget = step(from); widget != from; widget = step(widget)) {
+        const bool isBehind = area_->isAncestorOf(widget) && !(front && front->isAncestorOf(widget));
+        if (isBehind || !takesTab(*widget) || !widget->isVisible()) continue;
+        widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
+}
+
+// Menus ------------------------------------------------------------------------------------------------------------
 
 void MdiFrame::showMenus() {
     FormWindow* owner = activeForm();

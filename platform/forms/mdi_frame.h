@@ -36,6 +36,10 @@ public:
 
 protected:
     void setPanel(QWidget& panel);
+    /// F6 goes round these controls of the panel, in this order, and the child in front; Shift+F6 the other way.
+    void setStops(std::vector<QWidget*> stops) { stops_ = std::move(stops); }
+    /// Tab goes by the children behind the one in front: it would bring them up.
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
     /// Runs the whole way down; the frame's close box and its menu entries lead here.
     virtual void closeHost() = 0;
@@ -45,6 +49,9 @@ protected:
     void setEmptyPicture(const QIcon& picture);
 
 private:
+    void addKeys();
+    void goRound(int step);
+    void openMenuBar();
     void showMenus();
     void arrange(const std::function<void()>& step);
     void childActivated();
@@ -54,6 +61,7 @@ private:
     QSplitter* centre_;
     Area* area_;
     QWidget* panel_ = nullptr;
+    std::vector<QWidget*> stops_;
     FormWindow* menuOwner_ = nullptr;
     QMdiSubWindow* front_ = nullptr;
     /// The children that have been active, the latest last.

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <chrono>
 
 #include "platform/base/runtime_error.h"
 #include "platform/forms/grid_delegate.h"
@@ -12,7 +13,9 @@ namespace platform {
 
 namespace {
 constexpr int indexRole = Qt::UserRole;
-}
+/// How long the arrow keys rest on a node until it counts as clicked.
+constexpr std::chrono::milliseconds restTime{600};
+}  // namespace
 
 TreeView::TreeView(QWidget* parent) : QTreeWidget(parent) {
     setHeaderHidden(true);
@@ -24,8 +27,12 @@ TreeView::TreeView(QWidget* parent) : QTreeWidget(parent) {
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     header()->setStretchLastSection(false);
     connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        rest_.stop();
         if (clicked_) clicked_(indexOf(item));
     });
+    rest_.setSingleShot(true);
+    rest_.setInterval(restTime);
+    connect(&rest_, &QTimer::timeout, this, &TreeView::rested);
     const auto toggle = [this] {
         if (toggled_) toggled_();
     };
@@ -123,9 +130,34 @@ int TreeView::previous(int index) const {
 }
 
 void TreeView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space) {
+        clickCurrent();
+        return;
+    }
     const QTreeWidgetItem* before = currentItem();
     QTreeWidget::keyPressEvent(event);
-    if (currentItem() && currentItem() != before && clicked_) clicked_(indexOf(currentItem()));
+    if (currentItem() == before) return;
+    // Letters that look for a node open none: the next one would be typed into what came up.
+    if (event->text().isEmpty()) {
+        rest_.start();
+    } else {
+        rest_.stop();
+    }
+}
+
+void TreeView::focusOutEvent(QFocusEvent* event) {
+    rest_.stop();
+    QTreeWidget::focusOutEvent(event);
+}
+
+void TreeView::clickCurrent() {
+    rest_.stop();
+    if (currentItem() && clicked_) clicked_(indexOf(currentItem()));
+}
+
+void TreeView::rested() {
+    clickCurrent();
+    if (isEnabled() && isActiveWindow()) setFocus();
 }
 
 const TreeView::Node& TreeView::at(int index) const {

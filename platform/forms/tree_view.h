@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QTreeWidget>
 #include <functional>
 #include <vector>
@@ -45,13 +46,15 @@ public:
     [[nodiscard]] int lastSibling(int index) const;
     [[nodiscard]] int previous(int index) const;
 
-    /// The user clicked a node's text or picture, or moved the selection to it by the keyboard.
+    /// The user clicked a node's text or picture, pressed Enter or Space on it, or rested on it with the arrow keys; in
+    /// that case the tree keeps the focus, unless it was disabled.
     void onNodeClick(std::function<void(int index)> handler) { clicked_ = std::move(handler); }
     /// A branch was opened or closed.
     void onToggle(std::function<void()> handler) { toggled_ = std::move(handler); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -62,6 +65,8 @@ private:
         int image = 0;
     };
     [[nodiscard]] const Node& at(int index) const;
+    void clickCurrent();
+    void rested();
     /// Sets what depends on the font.
     void measure();
     [[nodiscard]] int indexOf(const QTreeWidgetItem* item) const;
@@ -70,6 +75,7 @@ private:
     std::vector<QIcon> images_;
     std::function<void(int)> clicked_;
     std::function<void()> toggled_;
+    QTimer rest_;
 };
 
 }  // namespace platform

@@ -118,7 +118,7 @@ void expectRestIsKept(const QString& text) {
     timer.start();
     box.setText(text);
     box.grab();
-    EXPECT_LT(timer.elapsed(), 1000) << "it took minutes once";
+    EXPECT_LT(timer.elapsed(), 5000) << "it took minutes once";
     EXPECT_EQ(box.text(), text);
     box.select(2, 3);
     box.setSelText(u"-"_s);

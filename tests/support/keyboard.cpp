@@ -20,7 +20,7 @@ struct NamedKey {
     char16_t writes = 0;
 };
 
-constexpr std::array<NamedKey, 20> namedKeys{{
+constexpr std::array<NamedKey, 21> namedKeys{{
     {"Tab"_L1, Qt::Key_Tab, u'\t'},
     {"Return"_L1, Qt::Key_Return, u'\r'},
     {"Enter"_L1, Qt::Key_Enter, u'\r'},
@@ -41,6 +41,7 @@ constexpr std::array<NamedKey, 20> namedKeys{{
     {"Plus"_L1, Qt::Key_Plus, u'+'},
     {"Shift"_L1, Qt::Key_Shift},
     {"Menu"_L1, Qt::Key_Menu},
+    {"Alt"_L1, Qt::Key_Alt},
 }};
 
 struct NamedModifier {
@@ -139,6 +140,8 @@ KeyStroke keyNamed(const QString& name) {
         }
     }
     stroke->held |= held;
+    // A desktop tells of the Alt key as held while it goes down.
+    if (stroke->key == Qt::Key_Alt) stroke->held |= Qt::AltModifier;
     if (stroke->held == Qt::ShiftModifier && stroke->key == Qt::Key_Tab) stroke->key = Qt::Key_Backtab;
     const bool letter = stroke->key >= Qt::Key_A && stroke->key <= Qt::Key_Z;
     if (letter && stroke->held.testFlag(Qt::ControlModifier)) stroke->text = QChar(stroke->key - Qt::Key_A + 1);

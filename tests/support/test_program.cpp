@@ -106,8 +106,9 @@ public:
     }
 
     [[nodiscard]] bool keyPreview() const override { return true; }
-    void Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override {
+    bool Form_KeyDown(Qt::Key key, Qt::KeyboardModifiers held) override {
         write(u"Down "_s + QKeySequence(key | held).toString());
+        return false;
     }
     void Form_KeyPress(int keyAscii) override { write(u"Press %1"_s.arg(keyAscii)); }
     void Form_QueryUnload(bool& cancel) override { cancel = !desktop().ask(u"Leave?"_s, u"Leaving"_s); }
