@@ -4,12 +4,15 @@
 #include <QMenu>
 #include <QScreen>
 #include <QShortcut>
+#include <algorithm>
 
 #include "app/about_dialog.h"
 #include "app/help_viewer.h"
 #include "app/host_panel.h"
+#include "app/shown_rows.h"
 #include "app/tree_pictures.h"
 #include "attachments/attach_dialog.h"
+#include "lists/coming_dates.h"
 #include "platform/base/files.h"
 #include "platform/forms/combo_box.h"
 #include "platform/forms/command_button.h"
@@ -64,6 +67,8 @@ void MDIHost::makeMenus() {
     platform::addEntry(*file, u"mCoverPage"_s, u"Cover Page"_s, handler([this] { showCoverPage(); }));
     platform::addSeparator(*file, u"Sep4"_s);
     platform::addEntry(*file, u"mExit"_s, u"Exit"_s, handler([this] { closeHost(); }));
+    platform::addSeparator(*file, u"Sep5"_s);
+    platform::addEntry(*file, u"mComing"_s, u"Coming Dates..."_s, handler([this] { showComingDates(); }));
     addMenu(file);
 
     QMenu* help = platform::makeMenu(*this, u"mnuHelp1"_s, u"&Help"_s);
@@ -145,6 +150,16 @@ void MDIHost::showOutbuildingsScreen(const session::ChildRequest& request) {
 
 void MDIHost::showCoverPage() {
     windows_.touch(u"frmCoverPage"_s)->fill();
+}
+
+void MDIHost::showComingDates() {
+    if (dispatch_.admitsClick()) windows_.touch(lists::ComingDates::formName())->show();
+}
+
+QString MDIHost::categoryOf(const QString& table) const {
+    const auto all = shownRows();
+    const auto shown = std::ranges::find_if(all, [&](const auto& rows) { return rows.table->name == table; });
+    return shown == all.end() ? QString() : shown->category;
 }
 
 void MDIHost::showAttachments(const QString& ownerName) {

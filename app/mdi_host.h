@@ -46,6 +46,8 @@ public:
     void showImprovementsScreen(const session::ChildRequest& request) override;
     void showOutbuildingsScreen(const session::ChildRequest& request) override;
     void showCoverPage() override;
+    void showComingDates() override;
+    [[nodiscard]] QString categoryOf(const QString& table) const override;
     void showAttachments(const QString& ownerName) override;
     void newDatabase() override { database_.newDB(); }
     void restoreDatabase() override { database_.openDB(); }

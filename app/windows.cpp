@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lists/asset_liquidation.h"
+#include "lists/coming_dates.h"
 #include "lists/family_sequence.h"
 #include "lists/medical_log.h"
 #include "lists/pins_and_passwords.h"
@@ -62,6 +63,7 @@ struct PlainClass {
 /// The windows without an entry in the catalogue.
 constexpr PlainClass plainClasses[] = {
     {"frmAssetLiquidation"_L1, makePlain<lists::AssetLiquidation>},
+    {"frmComing"_L1, makePlain<lists::ComingDates>},
     {"frmFamilySequence"_L1, makePlain<lists::FamilySequence>},
     {"frmKinbook"_L1, makePlain<screens::PersonScreen>},
     {"frmMedicalLog"_L1, makePlain<lists::MedicalLog>},

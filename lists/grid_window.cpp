@@ -30,8 +30,7 @@ session::WindowCommands GridWindow::gridCommands() {
     return commands;
 }
 
-void GridWindow::layOut(const session::WindowCommands& commands, const session::RecordActions& actions,
-                        QLayout* above) {
+void GridWindow::layOut(const session::WindowCommands& commands, const session::RecordActions& actions) {
     menus_ = std::make_unique<session::WindowMenus>(*this, commands);
     for (QMenu* menu : menus_->menus())
         addMenu(menu);
@@ -39,12 +38,15 @@ void GridWindow::layOut(const session::WindowCommands& commands, const session::
     column->setContentsMargins(0, 0, 0, 6);
     column->setSpacing(4);
     column->addWidget(&menus_->toolbar());
-    auto* page = new QVBoxLayout;
-    page->setContentsMargins(9, 0, 9, 0);
-    if (above) page->addLayout(above);
-    page->addWidget(grdDataGrid_, 1);
-    column->addLayout(page, 1);
-    buttons_ = std::make_unique<session::RecordButtons>(*this, *page, u"&Add"_s, actions);
+    page_ = new QVBoxLayout;
+    page_->setContentsMargins(9, 0, 9, 0);
+    page_->addWidget(grdDataGrid_, 1);
+    column->addLayout(page_, 1);
+    buttons_ = std::make_unique<session::RecordButtons>(*this, *page_, u"&Add"_s, actions);
+}
+
+void GridWindow::addHead(QLayout& head) {
+    page_->insertLayout(0, &head);
 }
 
 bool GridWindow::hasEntries(const QString& purpose) {

@@ -8,6 +8,7 @@
 #include "session/window_menus.h"
 
 class QLayout;
+class QVBoxLayout;
 
 namespace platform {
 class DataGrid;
@@ -32,9 +33,10 @@ protected:
 
     /// The commands of every grid, those of its listing among them.
     [[nodiscard]] session::WindowCommands gridCommands();
-    /// Puts the window together. `above`: what stands between toolbar and grid, if anything.
-    void layOut(const session::WindowCommands& commands, const session::RecordActions& actions,
-                QLayout* above = nullptr);
+    /// Puts the window together.
+    void layOut(const session::WindowCommands& commands, const session::RecordActions& actions);
+    /// Puts a row between toolbar and grid, which takes it over.
+    void addHead(QLayout& head);
     /// The user chose a row, from 0.
     virtual void rowChosen(int row) = 0;
 
@@ -49,6 +51,7 @@ private:
     std::unique_ptr<session::WindowMenus> menus_;
     std::unique_ptr<session::RecordButtons> buttons_;
     platform::DataGrid* grdDataGrid_;
+    QVBoxLayout* page_ = nullptr;
 };
 
 }  // namespace lists

@@ -45,6 +45,7 @@ WindowCommands DataWindow::commonCommands() {
     commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
     commands.cut = handler([this] { copySelection(*this, Copy::Cut); });
     commands.paste = handler([this] { pasteSelection(*this); });
+    commands.comingDates = handler([this] { workspace_.showComingDates(); });
     commands.help = handler([this] { workspace_.showHelp(); });
     commands.about = handler([this] { workspace_.showAbout(); });
     return commands;

@@ -51,6 +51,8 @@ WindowMenus::WindowMenus(QWidget& form, const WindowCommands& commands) : toolba
     if (commands.hasAllRecords)
         addKey(u"tbSaveAll"_s, platform::ownIcon(u"text-files"_s), commands.saveAllHint, commands.saveAll);
     if (!commands.children.empty()) addChildren(commands.children);
+    platform::addSeparator(*options_, u"Sep5"_s);
+    entry(*options_, u"mComing"_s, u"Coming Dates..."_s, commands.comingDates);
 }
 
 void WindowMenus::makeFileMenu(QWidget& form, const WindowCommands& commands) {

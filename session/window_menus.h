@@ -26,6 +26,7 @@ struct WindowCommands {
     std::function<void()> newDatabase, restore, backup, coverPage, exit;
     std::function<void()> copy, cut, paste;
     std::function<void()> attachments, print, printAll, save, saveAll;
+    std::function<void()> comingDates;
     std::function<void()> help, about;
     std::vector<ChildCommand> children{};
     bool hasAttachments = true;

@@ -46,6 +46,9 @@ public:
     virtual void showImprovementsScreen(const ChildRequest& request) = 0;
     virtual void showOutbuildingsScreen(const ChildRequest& request) = 0;
     virtual void showCoverPage() = 0;
+    virtual void showComingDates() = 0;
+    /// What the tree calls the category whose window shows a table's rows; empty for a table that none shows.
+    [[nodiscard]] virtual QString categoryOf(const QString& table) const = 0;
     /// Shows the files of the session's attachment key, and returns when the user has closed them.
     virtual void showAttachments(const QString& ownerName) = 0;
 

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -128,6 +129,24 @@ void ComboBox::clearList() {
 void ComboBox::setLocked(bool locked) {
     locked_ = locked;
     lineEdit()->setReadOnly(locked);
+}
+
+void ComboBox::setListOnly() {
+    lineEdit()->setReadOnly(true);
+    lineEdit()->installEventFilter(this);
+}
+
+bool ComboBox::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != lineEdit() || event->type() != QEvent::MouseButtonPress)
+        return QComboBox::eventFilter(watched, event);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QPoint arrow = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this).center();
+    const auto& press = static_cast<const QMouseEvent&>(*event);
+    QMouseEvent onArrow(press.type(), arrow, press.globalPosition(), press.button(), press.buttons(),
+                        press.modifiers());
+    mousePressEvent(&onArrow);
+    return true;
 }
 
 void ComboBox::select(int start, int length) {

@@ -41,6 +41,8 @@ public:
     /// What is typed at the end is completed to the first entry that begins like it, the rest selected, so that the
     /// next letter replaces it.
     void setCompletes(bool completes) { completes_ = completes; }
+    /// Only its entries can be chosen from here on, and nothing typed: a click anywhere in it opens the list.
+    void setListOnly();
     void select(int start, int length);
     void selectAll();
     [[nodiscard]] int selStart() const;
@@ -61,6 +63,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void initStyleOption(QStyleOptionComboBox* option) const override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
