@@ -8,7 +8,7 @@
 #include <QUrl>
 #include <QtEndian>
 
-#include "data/connection_private.h"
+#include "data/open_file.h"
 #include "data/provider_error.h"
 #include "data/schema.h"
 #include "data/tables.h"
@@ -124,7 +124,7 @@ void checkDatabase(const QString& path) {
 }
 
 void checkTables(const Connection& connection) {
-    connection.handle().run({}, [&](SQLite::Database& database) { checkNames(database, connection.path()); });
+    connection.file().run({}, [&](SQLite::Database& database) { checkNames(database, connection.path()); });
 }
 
 }  // namespace data

@@ -5,9 +5,9 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "data/connection_private.h"
 #include "data/engine_files.h"
-#include "data/recordset.h"
+#include "data/open_file.h"
+#include "data/row_changes.h"
 #include "platform/base/files.h"
 
 using namespace Qt::StringLiterals;
@@ -68,7 +68,7 @@ std::unique_ptr<SQLite::Database> openDatabase(const QString& path) {
 
 }  // namespace
 
-Connection::Connection() : d_(std::make_unique<Private>()) {}
+Connection::Connection() : file_(std::make_unique<OpenFile>()) {}
 
 Connection::~Connection() {
     close();
@@ -77,31 +77,31 @@ Connection::~Connection() {
 void Connection::open(const QString& path) {
     if (isOpen()) throw RuntimeError(Error::Open);
     refuseWhatIsNoFile(path);
-    d_->database = openDatabase(path);
-    d_->path = path;
-    watchRowChanges(*d_);
+    file_->database = openDatabase(path);
+    file_->path = path;
+    watchRowChanges(*file_);
 }
 
 void Connection::close() {
-    while (!d_->recordsets.empty())
-        d_->recordsets.back()->release();
-    d_->database.reset();
-    d_->path.clear();
+    while (!file_->held.empty())
+        file_->held.back()->letGo();
+    file_->database.reset();
+    file_->path.clear();
 }
 
 bool Connection::isOpen() const {
-    return d_->database != nullptr;
+    return file_->database != nullptr;
 }
 
 bool Connection::isReadOnly() const {
     if (!isOpen()) throw RuntimeError(Error::NoConnection);
-    if (sqlite3_db_readonly(d_->database->getHandle(), "main") == 1) return true;
+    if (sqlite3_db_readonly(file_->database->getHandle(), "main") == 1) return true;
     // Each save begins with a journal beside the file.
-    return !files::mayChange(QFileInfo(QFileInfo(d_->path).canonicalFilePath()).absolutePath());
+    return !files::mayChange(QFileInfo(QFileInfo(file_->path).canonicalFilePath()).absolutePath());
 }
 
 QString Connection::path() const {
-    return d_->path;
+    return file_->path;
 }
 
 std::vector<QString> Connection::tableNames() const {
@@ -110,7 +110,7 @@ std::vector<QString> Connection::tableNames() const {
     const char* statement =
         "SELECT name FROM sqlite_schema WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "
         "ORDER BY type, substr(name, 1, 4) <> 'MSys', name COLLATE NOCASE";
-    return d_->run(QString::fromUtf8(statement), [statement](SQLite::Database& database) {
+    return file_->run(QString::fromUtf8(statement), [statement](SQLite::Database& database) {
         std::vector<QString> names;
         SQLite::Statement rows(database, statement);
         while (rows.executeStep())
@@ -122,15 +122,15 @@ std::vector<QString> Connection::tableNames() const {
 // Reading at length ------------------------------------------------------------------------------------------------
 
 Connection::ReadHold::ReadHold(Connection& connection)
-    : connection_(connection.handle()),
-      holds_(connection.isOpen() && sqlite3_get_autocommit(connection_.database->getHandle()) != 0) {
-    if (holds_) connection_.run({}, [](SQLite::Database& file) { file.exec("BEGIN"); });
+    : file_(connection.file()),
+      holds_(connection.isOpen() && sqlite3_get_autocommit(file_.database->getHandle()) != 0) {
+    if (holds_) file_.run({}, [](SQLite::Database& database) { database.exec("BEGIN"); });
 }
 
 Connection::ReadHold::~ReadHold() {
     if (!holds_) return;
     try {
-        connection_.database->exec("COMMIT");
+        file_.database->exec("COMMIT");
     } catch (const SQLite::Exception&) {
         // A failed read has ended it already.
     }

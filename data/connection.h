@@ -6,7 +6,7 @@
 
 namespace data {
 
-class Recordset;
+struct OpenFile;
 
 /// The one open database file of the run.
 class Connection {
@@ -15,8 +15,6 @@ public:
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
-
-    /// Default for the recordsets opened here that set no location of their own.
 
     /// Opens an existing file for reading and writing, or for reading where no more is allowed; never makes one. Throws
     /// RuntimeError -2147467259 with the provider's words: NoDatabase for a missing, empty, truncated or foreign file,
@@ -36,11 +34,10 @@ public:
     /// Nothing may be written meanwhile. Inside another one, or on a closed connection, it does nothing.
     class ReadHold;
 
-    struct Private;
-    [[nodiscard]] Private& handle() const { return *d_; }
+    [[nodiscard]] OpenFile& file() const { return *file_; }
 
 private:
-    std::unique_ptr<Private> d_;
+    std::unique_ptr<OpenFile> file_;
 };
 
 class Connection::ReadHold {
@@ -51,7 +48,7 @@ public:
     ReadHold& operator=(const ReadHold&) = delete;
 
 private:
-    Private& connection_;
+    OpenFile& file_;
     bool holds_;
 };
 

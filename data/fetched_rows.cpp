@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "data/connection_private.h"
+#include "data/open_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,9 +32,8 @@ std::vector<ShownColumn> shownColumns(const SQLite::Statement& statement) {
     return columns;
 }
 
-FetchedRows::FetchedRows(Connection::Private& connection, SQLite::Statement& statement)
-    : columns_(shownColumns(statement)) {
-    connection.run({}, [&](SQLite::Database&) {
+FetchedRows::FetchedRows(OpenFile& file, SQLite::Statement& statement) : columns_(shownColumns(statement)) {
+    file.run({}, [&](SQLite::Database&) {
         while (statement.executeStep())
             rows_.push_back(storedRow(statement));
     });

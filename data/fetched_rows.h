@@ -1,6 +1,5 @@
 #pragma once
 
-#include "data/connection.h"
 #include "data/row_set.h"
 
 namespace SQLite {
@@ -8,6 +7,8 @@ class Statement;
 }
 
 namespace data {
+
+struct OpenFile;
 
 /// The columns that a prepared select shows.
 [[nodiscard]] std::vector<ShownColumn> shownColumns(const SQLite::Statement& statement);
@@ -17,7 +18,7 @@ namespace data {
 class FetchedRows : public RowSet {
 public:
     /// Throws the provider's errors.
-    FetchedRows(Connection::Private& connection, SQLite::Statement& statement);
+    FetchedRows(OpenFile& file, SQLite::Statement& statement);
 
     [[nodiscard]] const std::vector<ShownColumn>& columns() const override { return columns_; }
     [[nodiscard]] int count() const override { return static_cast<int>(rows_.size()); }

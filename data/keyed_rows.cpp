@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "data/connection_private.h"
 #include "data/file_text.h"
+#include "data/open_file.h"
 #include "data/select_shape.h"
 #include "data/sql_tokens.h"
 
@@ -30,13 +30,13 @@ std::unique_ptr<SQLite::Statement> prepareIfUnderstood(SQLite::Database& databas
 
 }  // namespace
 
-std::unique_ptr<KeyedRows> KeyedRows::select(Connection::Private& connection, const QString& statement) {
+std::unique_ptr<KeyedRows> KeyedRows::select(OpenFile& file, const QString& statement) {
     const auto shape = selectShape(statement);
     if (!shape) return nullptr;
-    return connection.run(statement, [&](SQLite::Database& database) -> std::unique_ptr<KeyedRows> {
+    return file.run(statement, [&](SQLite::Database& database) -> std::unique_ptr<KeyedRows> {
         auto table = baseTable(database, shape->table);
         if (!table) return nullptr;
-        std::unique_ptr<KeyedRows> rows(new KeyedRows(connection, std::move(*table)));
+        std::unique_ptr<KeyedRows> rows(new KeyedRows(file, std::move(*table)));
         const auto& keys = shape->keyStatements;
         const bool isKeyed = rows->showColumns(*shape) && std::any_of(keys.begin(), keys.end(), [&](const auto& key) {
                                  return rows->takeKeys(key);
@@ -48,13 +48,13 @@ std::unique_ptr<KeyedRows> KeyedRows::select(Connection::Private& connection, co
     });
 }
 
-KeyedRows::KeyedRows(Connection::Private& connection, BaseTable table)
-    : connection_(connection), table_(std::move(table)), tableName_(table_.name.toUtf8()) {
-    connection_.snapshots.push_back(this);
+KeyedRows::KeyedRows(OpenFile& file, BaseTable table)
+    : file_(file), table_(std::move(table)), tableName_(table_.name.toUtf8()) {
+    file_.snapshots.push_back(this);
 }
 
 KeyedRows::~KeyedRows() {
-    std::erase(connection_.snapshots, this);
+    std::erase(file_.snapshots, this);
 }
 
 bool KeyedRows::showColumns(const SelectShape& shape) {
@@ -75,7 +75,7 @@ bool KeyedRows::showColumns(const SelectShape& shape) {
 }
 
 bool KeyedRows::takeKeys(const QString& statement) {
-    const auto rows = prepareIfUnderstood(*connection_.database, statement);
+    const auto rows = prepareIfUnderstood(*file_.database, statement);
     if (!rows) return false;
     keys_.clear();
     const int key = rows->getColumnCount() - 1;
@@ -98,7 +98,7 @@ void KeyedRows::prepareReading() {
     for (int column = 0; column < static_cast<int>(columns_.size()); ++column)
         names.push_back(columnName(column));
     const QString statement = u"SELECT %1 FROM %2 WHERE rowid = ?"_s.arg(names.join(u", "_s), quotedName(table_.name));
-    reading_ = std::make_unique<SQLite::Statement>(*connection_.database, statement.toStdString());
+    reading_ = std::make_unique<SQLite::Statement>(*file_.database, statement.toStdString());
 }
 
 std::optional<StoredRow> KeyedRows::read(int row) {
@@ -106,7 +106,7 @@ std::optional<StoredRow> KeyedRows::read(int row) {
     if (const auto kept = aside_.find(key); kept != aside_.end()) return kept->second;
     // A statement left behind its row would hold a lock on the file.
     const auto release = qScopeGuard([this] { reading_->tryReset(); });
-    return connection_.run({}, [&](SQLite::Database&) {
+    return file_.run({}, [&](SQLite::Database&) {
         reading_->bind(1, static_cast<int64_t>(key));
         return reading_->executeStep() ? std::optional(storedRow(*reading_)) : std::nullopt;
     });
@@ -126,7 +126,7 @@ StoredRow KeyedRows::defaults() {
         expressions.push_back(expression.isEmpty() ? u"NULL"_s : u'(' + expression + u')');
     }
     const QString statement = u"SELECT "_s + expressions.join(u", "_s);
-    defaults_ = connection_.run(statement, [&](SQLite::Database& database) {
+    defaults_ = file_.run(statement, [&](SQLite::Database& database) {
         SQLite::Statement row(database, statement.toStdString());
         row.executeStep();
         return storedRow(row);
@@ -138,7 +138,7 @@ StoredRow KeyedRows::defaults() {
 int KeyedRows::write(const QString& statement, const std::vector<QVariant>& values) {
     isWriting_ = true;
     const auto done = qScopeGuard([this] { isWriting_ = false; });
-    return connection_.run(statement, [&](SQLite::Database& database) {
+    return file_.run(statement, [&](SQLite::Database& database) {
         SQLite::Statement writing(database, statement.toStdString());
         int place = 0;
         for (const auto& value : values)
@@ -159,7 +159,7 @@ void KeyedRows::insert(const StoredChanges& changes) {
     const QString what =
         names.isEmpty() ? u"DEFAULT VALUES"_s : u"(%1) VALUES (%2)"_s.arg(names.join(u", "_s), places.join(u", "_s));
     write(u"INSERT INTO %1 "_s.arg(quotedName(table_.name)) + what, values);
-    keys_.push_back(connection_.database->getLastInsertRowid());
+    keys_.push_back(file_.database->getLastInsertRowid());
 }
 
 void KeyedRows::update(int row, const StoredChanges& changes, const StoredRow& old) {

@@ -5,7 +5,6 @@
 #include <unordered_map>
 
 #include "data/base_table.h"
-#include "data/connection.h"
 #include "data/row_set.h"
 
 namespace SQLite {
@@ -14,6 +13,7 @@ class Statement;
 
 namespace data {
 
+struct OpenFile;
 struct SelectShape;
 
 /// The rows of a select over one table's columns, held as keys alone: a row is read when it is reached and written by
@@ -24,7 +24,7 @@ struct SelectShape;
 class KeyedRows : public RowSet {
 public:
     /// Nothing for a select whose rows aren't each a row of one table. Throws the provider's errors.
-    static std::unique_ptr<KeyedRows> select(Connection::Private& connection, const QString& statement);
+    static std::unique_ptr<KeyedRows> select(OpenFile& file, const QString& statement);
     ~KeyedRows() override;
 
     [[nodiscard]] const std::vector<ShownColumn>& columns() const override { return columns_; }
@@ -53,7 +53,7 @@ public:
     void retire(const char* table, qint64 key);
 
 private:
-    KeyedRows(Connection::Private& connection, BaseTable table);
+    KeyedRows(OpenFile& file, BaseTable table);
     bool showColumns(const SelectShape& shape);
     bool takeKeys(const QString& statement);
     void prepareReading();
@@ -61,7 +61,7 @@ private:
     [[nodiscard]] QString columnName(int column) const;
     void followKey(int row, const StoredChanges& changes);
 
-    Connection::Private& connection_;
+    OpenFile& file_;
     BaseTable table_;
     QByteArray tableName_;
     std::vector<ShownColumn> columns_;

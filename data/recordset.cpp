@@ -5,10 +5,10 @@
 #include <cmath>
 #include <functional>
 
-#include "data/connection_private.h"
 #include "data/fetched_rows.h"
 #include "data/file_text.h"
 #include "data/keyed_rows.h"
+#include "data/open_file.h"
 #include "data/row_position.h"
 #include "data/row_stream.h"
 #include "data/sql_dialect.h"
@@ -38,12 +38,13 @@ ColumnKind kindOf(const QVariant& stored) {
 }  // namespace
 
 /// How sets are opened, and the set while it is open.
-struct Recordset::Private {
-    explicit Private(Opening how) : opening(how) {}
+struct Recordset::Private final : HeldRows {
+    Private(Recordset& recordset, Opening how) : self(recordset), opening(how) {}
 
+    Recordset& self;
     const Opening opening;
 
-    Connection::Private* connection = nullptr;  // null while closed
+    OpenFile* file = nullptr;  // null while closed
     QString statement;
     std::unique_ptr<RowStream> stream;
     std::unique_ptr<RowSet> rows;
@@ -65,7 +66,8 @@ struct Recordset::Private {
     [[nodiscard]] bool streams() const;
     [[nodiscard]] bool hasPending() const { return mode == EditMode::InProgress || mode == EditMode::Add; }
 
-    bool load(Connection::Private& from, const QString& text);
+    bool load(const QString& text);
+    void letGo() override { self.release(); }
     void loadStream(std::unique_ptr<RowStream> fresh);
     void loadRows(std::unique_ptr<RowSet> fresh);
     void stand(const RowPosition& target);
@@ -77,7 +79,7 @@ struct Recordset::Private {
 };
 
 void Recordset::Private::requireOpen() const {
-    if (connection == nullptr) throw RuntimeError(Error::Closed);
+    if (file == nullptr) throw RuntimeError(Error::Closed);
 }
 
 void Recordset::Private::requireWritable() const {
@@ -125,12 +127,12 @@ bool Recordset::Private::streams() const {
 }
 
 /// False for a statement that returns no rows; it has then been carried out.
-bool Recordset::Private::load(Connection::Private& from, const QString& text) {
-    if (auto keyed = streams() ? nullptr : KeyedRows::select(from, text)) {
+bool Recordset::Private::load(const QString& text) {
+    if (auto keyed = streams() ? nullptr : KeyedRows::select(*file, text)) {
         loadRows(std::move(keyed));
         return true;
     }
-    auto prepared = from.run(text, [&text](SQLite::Database& database) {
+    auto prepared = file->run(text, [&text](SQLite::Database& database) {
         auto ready = std::make_unique<SQLite::Statement>(database, textToFile(text).toStdString());
         if (ready->getColumnCount() == 0) {
             ready->exec();
@@ -139,9 +141,9 @@ bool Recordset::Private::load(Connection::Private& from, const QString& text) {
         return ready;
     });
     if (prepared && streams())
-        loadStream(std::make_unique<RowStream>(from, std::move(prepared)));
+        loadStream(std::make_unique<RowStream>(*file, std::move(prepared)));
     else if (prepared)
-        loadRows(std::make_unique<FetchedRows>(from, *prepared));
+        loadRows(std::make_unique<FetchedRows>(*file, *prepared));
     return stream || rows;
 }
 
@@ -176,7 +178,7 @@ void Recordset::Private::advanceStream() {
 
 void Recordset::Private::restartStream() {
     if (position.bof() && position.eof()) throw RuntimeError(Error::NoCurrentRecord);
-    load(*connection, statement);
+    load(statement);
 }
 
 void Recordset::Private::write() {
@@ -203,7 +205,7 @@ void Recordset::Private::readNewRow() {
 }
 
 void Recordset::Private::forget() {
-    connection = nullptr;
+    file = nullptr;
     stream.reset();
     rows.reset();
     writable = nullptr;
@@ -213,22 +215,21 @@ void Recordset::Private::forget() {
     pending.clear();
 }
 
-Recordset::Recordset(Opening opening) : d_(std::make_unique<Private>(opening)) {}
+Recordset::Recordset(Opening opening) : d_(std::make_unique<Private>(*this, opening)) {}
 
 Recordset::~Recordset() {
-    if (isOpen()) std::erase(d_->connection->recordsets, this);
+    if (isOpen()) std::erase(d_->file->held, d_.get());
 }
 
 void Recordset::open(const QString& statement, Connection& connection) {
     if (isOpen()) throw RuntimeError(Error::Open);
     if (!connection.isOpen()) throw RuntimeError(Error::NoConnection);
-    auto& from = connection.handle();
-    d_->connection = &from;
+    d_->file = &connection.file();
     auto undo = qScopeGuard([this] { d_->forget(); });
     d_->statement = toSqlite(statement);
-    if (!d_->load(from, d_->statement)) return;
+    if (!d_->load(d_->statement)) return;
     undo.dismiss();
-    from.recordsets.push_back(this);
+    d_->file->held.push_back(d_.get());
     announceRow();
 }
 
@@ -239,13 +240,13 @@ void Recordset::close() {
 
 void Recordset::release() {
     if (!isOpen()) return;
-    std::erase(d_->connection->recordsets, this);
+    std::erase(d_->file->held, d_.get());
     d_->forget();
     Q_EMIT rowShown();
 }
 
 bool Recordset::isOpen() const {
-    return d_->connection != nullptr;
+    return d_->file != nullptr;
 }
 
 bool Recordset::bof() const {
@@ -429,7 +430,7 @@ void Recordset::deleteCurrent() {
 void Recordset::requery() {
     d_->requireNoChange();
     refuseInsideHandler();
-    d_->load(*d_->connection, d_->statement);
+    d_->load(d_->statement);
     announceRow();
 }
 

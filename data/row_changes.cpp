@@ -1,8 +1,10 @@
+#include "data/row_changes.h"
+
 #include <sqlite3.h>
 
-#include "data/connection_private.h"
 #include "data/file_text.h"
 #include "data/keyed_rows.h"
+#include "data/open_file.h"
 
 namespace data {
 
@@ -31,8 +33,8 @@ QVariant oldValue(sqlite3* database, int column) {
 
 void beforeChange(void* context, sqlite3* database, int operation, const char*, const char* table, sqlite3_int64 oldKey,
                   sqlite3_int64 newKey) {
-    const auto* connection = static_cast<Connection::Private*>(context);
-    for (auto* snapshot : connection->snapshots) {
+    const auto* file = static_cast<OpenFile*>(context);
+    for (auto* snapshot : file->snapshots) {
         if (operation == SQLITE_INSERT)
             snapshot->retire(table, newKey);
         else
@@ -42,8 +44,8 @@ void beforeChange(void* context, sqlite3* database, int operation, const char*, 
 
 }  // namespace
 
-void watchRowChanges(Connection::Private& connection) {
-    sqlite3_preupdate_hook(connection.database->getHandle(), beforeChange, &connection);
+void watchRowChanges(OpenFile& file) {
+    sqlite3_preupdate_hook(file.database->getHandle(), beforeChange, &file);
 }
 
 }  // namespace data

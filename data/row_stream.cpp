@@ -1,12 +1,12 @@
 #include "data/row_stream.h"
 
-#include "data/connection_private.h"
 #include "data/fetched_rows.h"
+#include "data/open_file.h"
 
 namespace data {
 
-RowStream::RowStream(Connection::Private& connection, std::unique_ptr<SQLite::Statement> statement)
-    : connection_(connection), statement_(std::move(statement)), columns_(shownColumns(*statement_)) {
+RowStream::RowStream(OpenFile& file, std::unique_ptr<SQLite::Statement> statement)
+    : file_(file), statement_(std::move(statement)), columns_(shownColumns(*statement_)) {
     current_ = fetch();
     ahead_ = fetch();
 }
@@ -20,7 +20,7 @@ void RowStream::next() {
 
 std::optional<StoredRow> RowStream::fetch() {
     if (!statement_) return std::nullopt;
-    return connection_.run({}, [this](SQLite::Database&) {
+    return file_.run({}, [this](SQLite::Database&) {
         if (statement_->executeStep()) return std::optional(storedRow(*statement_));
         statement_.reset();
         return std::optional<StoredRow>();

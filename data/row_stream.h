@@ -3,7 +3,6 @@
 #include <memory>
 #include <optional>
 
-#include "data/connection.h"
 #include "data/row_set.h"
 
 namespace SQLite {
@@ -12,6 +11,8 @@ class Statement;
 
 namespace data {
 
+struct OpenFile;
+
 /// The rows of a select one after another, each read once.
 ///
 /// It reads one row ahead, so that a look-up of a single row is finished with the file at once, however long it stays
@@ -19,7 +20,7 @@ namespace data {
 class RowStream {
 public:
     /// Begins with the first row of a statement that is ready to run. Throws the provider's errors.
-    RowStream(Connection::Private& connection, std::unique_ptr<SQLite::Statement> statement);
+    RowStream(OpenFile& file, std::unique_ptr<SQLite::Statement> statement);
     ~RowStream();
 
     [[nodiscard]] const std::vector<ShownColumn>& columns() const { return columns_; }
@@ -30,7 +31,7 @@ public:
 private:
     std::optional<StoredRow> fetch();
 
-    Connection::Private& connection_;
+    OpenFile& file_;
     std::unique_ptr<SQLite::Statement> statement_;
     std::vector<ShownColumn> columns_;
     std::optional<StoredRow> current_;

@@ -6,6 +6,7 @@
 #include "platform/base/clock.h"
 #include "platform/base/text_writer.h"
 #include "platform/forms/desktop.h"
+#include "platform/print/device_in_use.h"
 #include "platform/print/print_device.h"
 #include "session/book_files.h"
 

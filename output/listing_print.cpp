@@ -2,7 +2,7 @@
 
 #include "output/print_failure.h"
 #include "platform/forms/desktop.h"
-#include "platform/print/print_device.h"
+#include "platform/print/device_in_use.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,7 +36,7 @@ void ListingPrint::printLine(const ListingLine& line) {
 }
 
 void ListingPrint::end() {
-    attemptPrint(desktop_, platform::Desktop::programTitle(), [this] {
+    attemptPrint(desktop_, platform::Dialogs::programTitle(), [this] {
         if (printer_) printer_->endDoc();
     });
 }

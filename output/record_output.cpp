@@ -12,7 +12,7 @@
 #include "platform/base/text_writer.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/progress.h"
-#include "platform/print/print_device.h"
+#include "platform/print/device_in_use.h"
 #include "platform/print/printer.h"
 #include "session/book_files.h"
 

@@ -1,6 +1,6 @@
 #include "screens/cover_page_print.h"
 
-#include "platform/print/print_device.h"
+#include "platform/print/device_in_use.h"
 #include "platform/print/printer.h"
 #include "session/session.h"
 

@@ -9,6 +9,7 @@
 #include "platform/forms/check_box.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
+#include "platform/print/device_in_use.h"
 #include "platform/print/print_device.h"
 #include "screens/record_screen.h"
 #include "session/refusals.h"

@@ -6,13 +6,12 @@
 #include <filesystem>
 
 #include "platform/base/file_errors.h"
-#include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 
 namespace platform::files {
 
 FolderEntries entriesOf(const QString& folder) {
-    if (!folderExists(folder)) throw RuntimeError(Error::PathNotFound);
+    if (!QFileInfo(folder).isDir()) throw RuntimeError(Error::PathNotFound);
     FolderEntries entries;
     std::error_code error;
     std::filesystem::directory_iterator at(QFile::encodeName(folder).toStdString(), error);

@@ -12,7 +12,6 @@
 #include "platform/base/runtime_error.h"
 #include "platform/base/unexpected_error.h"
 #include "platform/forms/focus_guard.h"
-#include "platform/forms/form.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,10 +28,6 @@ Desktop::~Desktop() {
     setPointer(Pointer::Default);
     while (!forms_.empty())
         forms_.pop_back();
-}
-
-QString Desktop::programTitle() {
-    return u"Kinbook"_s;
 }
 
 void Desktop::setDialogs(std::unique_ptr<Dialogs> dialogs) {
@@ -103,7 +98,7 @@ bool Desktop::attempt(const std::function<void()>& routine, const std::function<
 
 void Desktop::run(const std::function<void()>& handler) {
     try {
-        attempt(programTitle(), handler);
+        attempt(Dialogs::programTitle(), handler);
     } catch (const RunEnded& end) {
         notice(end.words, end.title, Icon::Critical);
         endRun();

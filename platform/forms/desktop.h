@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "platform/forms/dialogs.h"
+#include "platform/forms/form.h"
 
 namespace platform {
 
 class FocusGuard;
-class Form;
 class MdiFrame;
 class RuntimeError;
 
@@ -26,15 +26,12 @@ struct RunEnded {
 
 /// What all forms of one run share: the collection of loaded forms, the dialogs, the pointer, and the last net under
 /// a failure that no routine handles.
-class Desktop : public QObject {
+class Desktop : public QObject, public FormHolder {
     Q_OBJECT
 
 public:
     Desktop();
     ~Desktop() override;
-
-    /// Title of boxes that have none of their own.
-    [[nodiscard]] static QString programTitle();
 
     [[nodiscard]] Dialogs& dialogs() { return *dialogs_; }
     void setDialogs(std::unique_ptr<Dialogs> dialogs);
@@ -71,7 +68,7 @@ public:
     static bool attempt(const std::function<void()>& routine, const std::function<void(const RuntimeError&)>& failed);
     /// Runs what an event set off; a failure that no routine handled, of whatever kind, is shown under the program's
     /// own title, and the session goes on.
-    void run(const std::function<void()>& handler);
+    void run(const std::function<void()>& handler) override;
 
     /// Runs a step whose failure doesn't matter to the ones behind it.
     static void passOver(const std::function<void()>& step);
@@ -101,10 +98,9 @@ Q_SIGNALS:
     void emptied();
 
 private:
-    friend class Form;
+    [[nodiscard]] Desktop& desktop() override { return *this; }
     void take(std::unique_ptr<Form> form);
-    /// A form is unloaded: it leaves the collection at once and is destroyed when no event of it runs any more.
-    void retire(Form& form);
+    void retire(Form& form) override;
 
     std::unique_ptr<Dialogs> dialogs_;
     FileOpener openFile_;

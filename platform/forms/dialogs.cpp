@@ -9,8 +9,6 @@
 #include <QMessageBox>
 #include <algorithm>
 
-#include "platform/forms/desktop.h"
-
 using namespace Qt::StringLiterals;
 
 namespace platform {
@@ -60,13 +58,17 @@ QMessageBox::StandardButton presetButton(Buttons buttons) {
 
 }  // namespace
 
+QString Dialogs::programTitle() {
+    return u"Kinbook"_s;
+}
+
 Answer Dialogs::messageBox(const QString& text, Icon icon, const QString& title, Buttons buttons) {
     const bool asks = buttons != Buttons::Ok;
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName(u"MessageBox"_s);
     box.setTextFormat(Qt::PlainText);
     box.setText(text.left(longestText));
-    box.setWindowTitle(title.isEmpty() ? Desktop::programTitle() : title);
+    box.setWindowTitle(title.isEmpty() ? programTitle() : title);
     box.setIcon(boxIcon(icon));
     box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(presetButton(buttons));

@@ -30,6 +30,9 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
+    /// Title of boxes that have none of their own.
+    [[nodiscard]] static QString programTitle();
+
     /// Shows a box. Without a title of its own it bears the program's. Text beyond 1,024 characters is cut, so that the
     /// buttons stay on the screen.
     virtual Answer messageBox(const QString& text, Icon icon, const QString& title, Buttons buttons);

@@ -4,6 +4,8 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
@@ -14,11 +16,8 @@
 
 #include "platform/forms/command_button.h"
 #include "platform/forms/control.h"
-#include "platform/forms/desktop.h"
 #include "platform/forms/form.h"
-#include "platform/forms/form_window.h"
 #include "platform/forms/key_ascii.h"
-#include "platform/forms/mdi_frame.h"
 
 namespace platform {
 
@@ -62,9 +61,21 @@ bool pressesButton(const QKeyEvent& event) {
     return event.key() == Qt::Key_Space && qobject_cast<CommandButton*>(QApplication::focusWidget());
 }
 
+/// The button of the child in front that has the accelerator; nullptr if none has.
+CommandButton* buttonWith(const QKeySequence& key, const QMenuBar& host) {
+    const auto* area = host.window()->findChild<QMdiArea*>();
+    const QMdiSubWindow* front = area ? area->currentSubWindow() : nullptr;
+    if (!front) return nullptr;
+    const auto buttons = front->findChildren<CommandButton*>();
+    const auto found = std::ranges::find_if(buttons, [&](const CommandButton* button) {
+        return button->shortcut() == key && button->isVisible() && button->isEnabled();
+    });
+    return found == buttons.end() ? nullptr : *found;
+}
+
 }  // namespace
 
-FocusGuard::FocusGuard(Desktop& desktop) : desktop_(desktop) {
+FocusGuard::FocusGuard(FormHolder& forms) : forms_(forms) {
     qApp->installEventFilter(this);
 }
 
@@ -77,7 +88,7 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
             if (!form || !form->isLoaded()) return false;
             auto& key = static_cast<QKeyEvent&>(*event);
             if (event->type() == QEvent::KeyPress) return keyPressed(*form, key);
-            if (form->keyPreview()) desktop_.run([&] { form->Form_KeyUp(keyOf(key)); });
+            if (form->keyPreview()) forms_.run([&] { form->Form_KeyUp(keyOf(key)); });
             return false;
         }
         case QEvent::FocusIn:
@@ -109,10 +120,10 @@ bool FocusGuard::keyPressed(Form& form, QKeyEvent& event) {
     if (isTab(event)) return !mayLeave(form, nullptr);
     if (form.keyPreview()) {
         bool usedUp = false;
-        desktop_.run([&] { usedUp = form.Form_KeyDown(keyOf(event), heldWith(event)); });
+        forms_.run([&] { usedUp = form.Form_KeyDown(keyOf(event), heldWith(event)); });
         if (usedUp || gone()) return true;
         const int character = pressesButton(event) ? 0 : keyAscii(event);
-        if (character != 0) desktop_.run([&] { form.Form_KeyPress(character); });
+        if (character != 0) forms_.run([&] { form.Form_KeyPress(character); });
         if (gone()) return true;
     }
     return false;
@@ -123,7 +134,7 @@ void FocusGuard::textComposed(QWidget& receiver, const QInputMethodEvent& event)
     const QPointer<QWidget> window = form ? &form->window() : nullptr;
     for (const QChar character : event.commitString()) {
         if (!window || !form->isLoaded() || !form->keyPreview()) return;
-        desktop_.run([&] { form->Form_KeyPress(character.unicode()); });
+        forms_.run([&] { form->Form_KeyPress(character.unicode()); });
     }
 }
 
@@ -141,20 +152,10 @@ bool FocusGuard::mousePressed(QObject* receiver, QMouseEvent& event) {
     return true;
 }
 
-CommandButton* FocusGuard::buttonWith(const QKeySequence& key) const {
-    const FormWindow* front = desktop_.host() ? desktop_.host()->activeForm() : nullptr;
-    if (!front) return nullptr;
-    const auto buttons = front->findChildren<CommandButton*>();
-    const auto found = std::ranges::find_if(buttons, [&](const CommandButton* button) {
-        return button->shortcut() == key && button->isVisible() && button->isEnabled();
-    });
-    return found == buttons.end() ? nullptr : *found;
-}
-
 bool FocusGuard::accelerator(QObject* receiver, const QShortcutEvent& event) {
-    if (event.isAmbiguous() && qobject_cast<QMenuBar*>(receiver)) {
+    if (const auto* bar = qobject_cast<QMenuBar*>(receiver); bar && event.isAmbiguous()) {
         // The two would take turns. F10 and Alt lead to the menu, only its letter to the button.
-        CommandButton* button = buttonWith(event.key());
+        CommandButton* button = buttonWith(event.key(), *bar);
         if (!button) return false;
         QShortcutEvent own(event.key(), 0);
         QApplication::sendEvent(button, &own);
@@ -174,7 +175,7 @@ bool FocusGuard::mayLeave(Form& form, const Control* target) {
     if (!active || active == target || validating_ || Form::of(&active->widget()) != &form) return true;
     bool allowed = true;
     validating_ = true;
-    desktop_.run([&] { allowed = active->allowsLeaving(); });
+    forms_.run([&] { allowed = active->allowsLeaving(); });
     validating_ = false;
     return allowed;
 }

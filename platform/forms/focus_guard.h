@@ -4,16 +4,14 @@
 
 class QInputMethodEvent;
 class QKeyEvent;
-class QKeySequence;
 class QMouseEvent;
 class QShortcutEvent;
 
 namespace platform {
 
-class CommandButton;
 class Control;
-class Desktop;
 class Form;
+class FormHolder;
 
 /// Watches all input of the program for two rules of its forms: a form sees keys before its controls, and a control is
 /// checked before it loses the focus to another control of the same form.
@@ -25,7 +23,7 @@ class FocusGuard : public QObject {
     Q_OBJECT
 
 public:
-    explicit FocusGuard(Desktop& desktop);
+    explicit FocusGuard(FormHolder& forms);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
@@ -35,12 +33,10 @@ private:
     void textComposed(QWidget& receiver, const QInputMethodEvent& event);
     bool mousePressed(QObject* receiver, QMouseEvent& event);
     bool accelerator(QObject* receiver, const QShortcutEvent& event);
-    /// The button of the form in front that has the accelerator; nullptr if none has.
-    [[nodiscard]] CommandButton* buttonWith(const QKeySequence& key) const;
     /// True if the focus may go from the form's active control to the given one.
     bool mayLeave(Form& form, const Control* target);
 
-    Desktop& desktop_;
+    FormHolder& forms_;
     bool dropRelease_ = false;
     bool validating_ = false;
 };

@@ -3,14 +3,13 @@
 #include <QWidget>
 
 #include "platform/forms/control.h"
-#include "platform/forms/desktop.h"
 #include "platform/forms/long_text.h"
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
 
-Form::Form(Desktop& desktop, QString name) : desktop_(desktop), name_(std::move(name)) {}
+Form::Form(FormHolder& holder, QString name) : holder_(holder), name_(std::move(name)) {}
 
 Form::~Form() = default;
 
@@ -28,6 +27,10 @@ bool Form::agreesToClose() {
     return !cancel;
 }
 
+void Form::takeFocus() {
+    window().setFocus(Qt::OtherFocusReason);
+}
+
 bool Form::unload() {
     if (!loaded_) return true;
     if (!agreesToClose()) return false;
@@ -38,7 +41,7 @@ bool Form::unload() {
 void Form::leave() {
     if (!loaded_) return;
     Form_Unload();
-    desktop_.retire(*this);
+    holder_.retire(*this);
 }
 
 void Form::destroyLater() {
@@ -91,7 +94,7 @@ void Form::forgetChecks() {
 }
 
 std::function<void()> Form::handler(std::function<void()> routine) {
-    return [this, routine = std::move(routine)] { desktop_.run(routine); };
+    return [this, routine = std::move(routine)] { holder_.run(routine); };
 }
 
 }  // namespace platform

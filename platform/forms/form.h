@@ -11,6 +11,20 @@ namespace platform {
 
 class Control;
 class Desktop;
+class Form;
+
+/// What forms need of the desktop that holds them.
+class FormHolder {
+public:
+    [[nodiscard]] virtual Desktop& desktop() = 0;
+    /// Runs what an event set off; a failure in it that no routine handled is shown, and the session goes on.
+    virtual void run(const std::function<void()>& handler) = 0;
+    /// A form is unloaded: it leaves the collection at once and is destroyed when no event of it runs any more.
+    virtual void retire(Form& form) = 0;
+
+protected:
+    ~FormHolder() = default;
+};
 
 /// A window of the program: its name, its place in the collection of loaded forms, and its events.
 ///
@@ -18,12 +32,12 @@ class Desktop;
 /// window.
 class Form {
 public:
-    Form(Desktop& desktop, QString name);
+    Form(FormHolder& holder, QString name);
     virtual ~Form();
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
 
-    [[nodiscard]] Desktop& desktop() const { return desktop_; }
+    [[nodiscard]] Desktop& desktop() const { return holder_.desktop(); }
     [[nodiscard]] const QString& name() const { return name_; }
     [[nodiscard]] virtual QWidget& window() = 0;
     [[nodiscard]] QString caption() const { return caption_; }
@@ -32,6 +46,8 @@ public:
 
     /// Brings the window up, not modal; a child comes to the front of the host.
     virtual void show() = 0;
+    /// Gives the focus to the control that had it last, else to the first one.
+    virtual void takeFocus();
     /// Asks the form and lets it go; false when it vetoed and stays.
     bool unload();
     /// The form's part of an unload that is decided already: no veto.
@@ -77,7 +93,7 @@ private:
     friend class Desktop;
     [[nodiscard]] std::vector<Control*> controlsToCheck();
 
-    Desktop& desktop_;
+    FormHolder& holder_;
     QString name_;
     QString caption_;
     std::vector<QMenu*> menus_;

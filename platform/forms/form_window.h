@@ -27,8 +27,7 @@ public:
     /// Shows the form and returns when it is hidden or unloaded.
     void showModal();
     void leave() override;
-    /// Gives the focus to the control that had it last, else to the first one.
-    void takeFocus();
+    void takeFocus() override;
 
     /// Enter clicks it wherever nothing else takes the key.
     void setDefaultButton(CommandButton* button) { default_ = button; }

@@ -13,7 +13,6 @@
 
 #include "platform/forms/control.h"
 #include "platform/forms/desktop.h"
-#include "platform/forms/form_window.h"
 
 namespace platform {
 
@@ -79,13 +78,13 @@ void MdiFrame::show() {
     activateWindow();
 }
 
-FormWindow* MdiFrame::activeForm() const {
+Form* MdiFrame::activeForm() const {
     const QMdiSubWindow* frame = area_->currentSubWindow();
-    auto* child = frame ? dynamic_cast<FormWindow*>(frame->widget()) : nullptr;
+    auto* child = frame ? dynamic_cast<Form*>(frame->widget()) : nullptr;
     return child && child->isLoaded() ? child : nullptr;
 }
 
-QMdiSubWindow* MdiFrame::addChild(FormWindow& child) {
+QMdiSubWindow* MdiFrame::addChild(QWidget& child) {
     QMdiSubWindow* frame = area_->addSubWindow(&child);
     frame->setAttribute(Qt::WA_DeleteOnClose, false);
     // The press of a toolbar key would fall through to the frame, which takes the focus and gives it back: the
@@ -125,7 +124,7 @@ void MdiFrame::childActivated() {
     // While children are shown or taken away others are active for moments.
     if (arranging_) return;
     showMenus();
-    FormWindow* child = activeForm();
+    Form* child = activeForm();
     QMdiSubWindow* frame = area_->currentSubWindow();
     if (!child) frontChanged();
     if (!child || frame == front_) return;
@@ -149,8 +148,8 @@ void MdiFrame::goRound(int step) {
     for (QWidget* stop : stops_) {
         if (stop->isVisible() && stop->isEnabled()) stops.push_back(stop);
     }
-    FormWindow* child = activeForm();
-    if (child) stops.push_back(child);
+    Form* child = activeForm();
+    if (child) stops.push_back(&child->window());
     if (stops.empty()) return;
     const QWidget* focus = focusWidget();
     const auto holdsFocus = [focus](const QWidget* stop) { return stop == focus || stop->isAncestorOf(focus); };
@@ -159,7 +158,7 @@ void MdiFrame::goRound(int step) {
     // From elsewhere the way leads to the first stop, or to the last.
     const int from = here != stops.end() ? static_cast<int>(here - stops.begin()) : step > 0 ? -1 : 0;
     QWidget* next = stops[static_cast<std::size_t>((from + step + count) % count)];
-    if (next == child) {
+    if (child && next == &child->window()) {
         child->takeFocus();
     } else {
         next->setFocus(Qt::TabFocusReason);
@@ -193,7 +192,7 @@ bool MdiFrame::focusNextPrevChild(bool next) {
 // Menus ------------------------------------------------------------------------------------------------------------
 
 void MdiFrame::showMenus() {
-    FormWindow* owner = activeForm();
+    Form* owner = activeForm();
     if (owner && owner->menus().empty()) owner = nullptr;
     if (owner == menuOwner_ && !menuBar()->actions().isEmpty()) return;
     menuOwner_ = owner;

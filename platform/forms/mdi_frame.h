@@ -12,8 +12,6 @@ class QSplitter;
 
 namespace platform {
 
-class FormWindow;
-
 /// A host window: a panel at the left of a divider, child windows in the rest, and the active child's menus in its menu
 /// bar.
 class MdiFrame : public QMainWindow, public Form {
@@ -27,8 +25,9 @@ public:
     void show() override;
 
     /// The active child; nullptr if no child is loaded and shown.
-    [[nodiscard]] FormWindow* activeForm() const;
-    [[nodiscard]] QMdiSubWindow* addChild(FormWindow& child);
+    [[nodiscard]] Form* activeForm() const;
+    /// `child`: a form's window.
+    [[nodiscard]] QMdiSubWindow* addChild(QWidget& child);
     /// Shows the child maximized, in front, with the focus.
     void bringToFront(QMdiSubWindow& frame);
     /// Unloads a child and takes its frame away; the child that was in front before it comes to the front.
@@ -62,7 +61,7 @@ private:
     Area* area_;
     QWidget* panel_ = nullptr;
     std::vector<QWidget*> stops_;
-    FormWindow* menuOwner_ = nullptr;
+    Form* menuOwner_ = nullptr;
     QMdiSubWindow* front_ = nullptr;
     /// The children that have been active, the latest last.
     std::vector<QMdiSubWindow*> order_;

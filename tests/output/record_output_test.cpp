@@ -12,6 +12,7 @@
 #include "output/record_output.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
+#include "platform/print/device_in_use.h"
 #include "platform/print/print_device.h"
 #include "tests/data/hostile_disk.h"
 #include "tests/support/household.h"

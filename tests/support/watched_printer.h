@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <QString>
 
+#include "platform/print/device_in_use.h"
 #include "platform/print/print_device.h"
 
 namespace support {

@@ -6,18 +6,26 @@
 #include <memory>
 #include <vector>
 
-#include "data/connection.h"
 #include "data/provider_error.h"
 
 namespace data {
 
 class KeyedRows;
 
-/// What the recordsets of a connection share. Only `data` looks inside.
-struct Connection::Private {
+/// Rows of the file that someone holds; they go when it is closed.
+class HeldRows {
+public:
+    virtual void letGo() = 0;
+
+protected:
+    ~HeldRows() = default;
+};
+
+/// What a connection and the rows that are read through it share. Only `data` looks inside.
+struct OpenFile {
     std::unique_ptr<SQLite::Database> database;
     QString path;
-    std::vector<Recordset*> recordsets;
+    std::vector<HeldRows*> held;
     /// Snapshots that want to know of a row before it is changed or deleted.
     std::vector<KeyedRows*> snapshots;
 
@@ -31,8 +39,5 @@ struct Connection::Private {
         }
     }
 };
-
-/// Lets every snapshot put a row's values aside before a statement of this connection changes or deletes it.
-void watchRowChanges(Connection::Private& connection);
 
 }  // namespace data

@@ -1,4 +1,4 @@
-#include "platform/print/print_device.h"
+#include "platform/print/device_in_use.h"
 
 #include <utility>
 
