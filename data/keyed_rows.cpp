@@ -31,9 +31,9 @@ std::unique_ptr<SQLite::Statement> prepareIfUnderstood(SQLite::Database& databas
 }  // namespace
 
 std::unique_ptr<KeyedRows> KeyedRows::select(OpenFile& file, const QString& statement) {
-    const auto shape = selectShape(statement);
-    if (!shape) return nullptr;
     return file.run(statement, [&](SQLite::Database& database) -> std::unique_ptr<KeyedRows> {
+        const auto shape = selectShape(database, statement);
+        if (!shape) return nullptr;
         auto table = baseTable(database, shape->table);
         if (!table) return nullptr;
         std::unique_ptr<KeyedRows> rows(new KeyedRows(file, std::move(*table)));
@@ -58,18 +58,11 @@ KeyedRows::~KeyedRows() {
 }
 
 bool KeyedRows::showColumns(const SelectShape& shape) {
-    const auto show = [this](int column, const QString& name) {
-        columns_.push_back({name, table_.columns[static_cast<size_t>(column)].type});
-        tableColumns_.push_back(column);
-    };
     for (const auto& term : shape.terms) {
-        const int found = table_.indexOf(term.column);
-        if (!term.column.isEmpty() && found < 0) return false;
-        if (!term.column.isEmpty())
-            show(found, term.shown);
-        else
-            for (int column = 0; column < static_cast<int>(table_.columns.size()); ++column)
-                show(column, table_.columns[static_cast<size_t>(column)].name);
+        const int column = table_.indexOf(term.column);
+        if (column < 0) return false;
+        columns_.push_back({term.shown, table_.columns[static_cast<size_t>(column)].type});
+        tableColumns_.push_back(column);
     }
     return true;
 }

@@ -1,7 +1,12 @@
 #include "data/select_shape.h"
 
-#include <algorithm>
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
 
+#include <algorithm>
+#include <memory>
+
+#include "data/file_text.h"
 #include "data/sql_tokens.h"
 
 using namespace Qt::StringLiterals;
@@ -16,12 +21,6 @@ struct Source {
     QString spoken;
 };
 
-struct ListTerm {
-    QString qualifier;
-    QString column;
-    QString shown;
-};
-
 bool isAnyOf(const SqlToken& token, std::initializer_list<QStringView> words) {
     return std::any_of(words.begin(), words.end(), [&token](QStringView word) { return token.isWord(word); });
 }
@@ -30,15 +29,37 @@ bool same(const QString& left, const QString& right) {
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
+/// What the engine says of the columns that a select shows: the table of all of them, and each with its two names.
+/// Nothing for columns of several tables, for expressions, and for a statement that isn't understood.
+std::optional<SelectShape> shownByOneTable(SQLite::Database& database, const QString& statement) {
+    const QByteArray text = textToFile(statement);
+    sqlite3_stmt* prepared = nullptr;
+    sqlite3_prepare_v2(database.getHandle(), text.constData(), static_cast<int>(text.size()), &prepared, nullptr);
+    const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> owner(prepared, sqlite3_finalize);
+    SelectShape shape;
+    for (int column = 0; column < sqlite3_column_count(prepared); ++column) {
+        const QString table = QString::fromUtf8(sqlite3_column_table_name(prepared, column));
+        if (table.isEmpty() || (column > 0 && table != shape.table)) return std::nullopt;
+        shape.table = table;
+        shape.terms.push_back({QString::fromUtf8(sqlite3_column_origin_name(prepared, column)),
+                               QString::fromUtf8(sqlite3_column_name(prepared, column))});
+    }
+    return shape.terms.empty() ? std::nullopt : std::optional(shape);
+}
+
 /// Cuts one select into its clauses.
 class SelectReader {
 public:
     explicit SelectReader(const QString& statement) : text_(statement), tokens_(sqlTokens(statement)) {}
 
-    std::optional<SelectShape> run() {
-        if (!findClauses() || !readList() || !readSources()) return std::nullopt;
-        const auto source = theSource();
-        return source ? std::optional(shapeOf(*source)) : std::nullopt;
+    std::optional<SelectShape> run(SQLite::Database& database) {
+        if (!findClauses() || !readSources()) return std::nullopt;
+        auto shape = shownByOneTable(database, text_);
+        if (!shape) return std::nullopt;
+        const auto isShown = [&](const Source& source) { return same(source.table, shape->table); };
+        if (std::ranges::count_if(sources_, isShown) != 1) return std::nullopt;
+        addKeyStatements(*shape, std::ranges::find_if(sources_, isShown)->spoken);
+        return shape;
     }
 
 private:
@@ -74,33 +95,6 @@ private:
         return true;
     }
 
-    bool readList() {
-        size_t at = 1;
-        while (at < from_) {
-            const auto term = readTerm(at);
-            if (!term) return false;
-            list_.push_back(*term);
-            if (at < from_ && !tokens_[at++].isSymbol(u',')) return false;
-        }
-        return !list_.empty();
-    }
-
-    std::optional<ListTerm> readTerm(size_t& at) {
-        ListTerm term;
-        if (at + 2 < from_ + 1 && tokens_[at].isIdentifier() && tokens_[at + 1].isSymbol(u'.')) {
-            term.qualifier = tokens_[at].identifier();
-            at += 2;
-        }
-        if (at >= from_ || !(tokens_[at].isSymbol(u'*') || tokens_[at].isIdentifier())) return std::nullopt;
-        if (tokens_[at].isIdentifier()) term.column = term.shown = tokens_[at].identifier();
-        ++at;
-        if (at < from_ && tokens_[at].isWord(u"as")) ++at;
-        if (at < from_ && tokens_[at].isIdentifier()) {
-            term.shown = tokens_[at++].identifier();
-        }
-        return term;
-    }
-
     bool readSources() {
         bool expectsTable = true;
         for (size_t i = from_ + 1; i < sourcesEnd_; ++i) {
@@ -126,36 +120,15 @@ private:
         sources_.push_back(source);
     }
 
-    /// The one source that every term shows columns of.
-    std::optional<Source> theSource() const {
-        const QString qualifier = list_.front().qualifier;
-        const bool isOne = std::all_of(list_.begin(), list_.end(), [&](const ListTerm& term) {
-            return same(term.qualifier, qualifier) || (sources_.size() == 1 && term.qualifier.isEmpty());
-        });
-        if (!isOne || (qualifier.isEmpty() && sources_.size() != 1)) return std::nullopt;
-        std::optional<Source> found;
-        for (const auto& source : sources_) {
-            if (!qualifier.isEmpty() && !same(source.spoken, qualifier)) continue;
-            if (found) return std::nullopt;
-            found = source;
-        }
-        return found;
-    }
-
-    SelectShape shapeOf(const Source& source) const {
-        SelectShape shape;
-        shape.table = source.table;
-        for (const auto& term : list_)
-            shape.terms.push_back({term.column, term.shown});
-        const QString key = quotedName(source.spoken) + u".rowid"_s;
+    void addKeyStatements(SelectShape& shape, const QString& spoken) const {
+        const QString key = quotedName(spoken) + u".rowid"_s;
         const QString tail = text_.mid(tokens_[from_].begin, tokens_.back().end - tokens_[from_].begin);
         const QString shown = text_.mid(tokens_[1].begin, tokens_[from_ - 1].end - tokens_[1].begin);
         const bool isRenamed =
-            std::any_of(list_.begin(), list_.end(), [](const ListTerm& term) { return term.shown != term.column; });
+            std::ranges::any_of(shape.terms, [](const SelectShape::Term& term) { return term.shown != term.column; });
         if (!isRenamed && !ordersByNumber_) shape.keyStatements.push_back(u"SELECT "_s + key + u' ' + tail);
         shape.keyStatements.push_back(u"SELECT "_s + shown + u", "_s + key + u' ' + tail);
         shape.isOrdered = isOrdered_;
-        return shape;
     }
 
     QString text_;
@@ -164,14 +137,13 @@ private:
     size_t sourcesEnd_ = 0;
     bool ordersByNumber_ = false;
     bool isOrdered_ = false;
-    std::vector<ListTerm> list_;
     std::vector<Source> sources_;
 };
 
 }  // namespace
 
-std::optional<SelectShape> selectShape(const QString& statement) {
-    return SelectReader(statement).run();
+std::optional<SelectShape> selectShape(SQLite::Database& database, const QString& statement) {
+    return SelectReader(statement).run(database);
 }
 
 }  // namespace data

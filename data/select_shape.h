@@ -5,13 +5,17 @@
 #include <optional>
 #include <vector>
 
+namespace SQLite {
+class Database;
+}
+
 namespace data {
 
 /// A select that shows the columns of a single table, so that each of its rows is known by that table's key:
 /// `SELECT * FROM T ..`, `SELECT a, T.b AS c FROM T ..` or `SELECT X.* FROM P INNER JOIN X ON ..`.
 struct SelectShape {
     struct Term {
-        QString column;  ///< empty for all columns
+        QString column;  ///< as the table has it
         QString shown;   ///< the name under which it is shown
     };
 
@@ -24,8 +28,8 @@ struct SelectShape {
     bool isOrdered = false;
 };
 
-/// Nothing for a select of another shape: of several tables' columns, expressions, groups, unions or distinct rows.
-/// Whether the table exists and has these columns isn't looked at.
-[[nodiscard]] std::optional<SelectShape> selectShape(const QString& statement);
+/// Nothing for a select of another shape: of several tables' columns, of a table that stands in it twice, of
+/// expressions, groups, unions or distinct rows; nor for a statement that the file doesn't understand.
+[[nodiscard]] std::optional<SelectShape> selectShape(SQLite::Database& database, const QString& statement);
 
 }  // namespace data

@@ -238,7 +238,7 @@ const Shape shapes[] = {
     {"Select p.Name from Pet as p where p.ID in (Select ID from Person) order by p.ID", true, "Rex Tom Ada"},
     {"Select * from Pet order by ID Desc Limit 2", true, "4 3"},
     {"SELECT Pet.* FROM Person INNER JOIN Pet ON Person.ID = Pet.PersonID ORDER BY Name, ID", true, "3 1 2"},
-    {"SELECT b.* FROM Pet a INNER JOIN Pet b ON a.ID = b.ID + 1", true, "1 2 3"},
+    {"SELECT b.* FROM Pet a INNER JOIN Pet b ON a.ID = b.ID + 1", false, "1 2 3"},
     {"SELECT Person.* FROM Pet LEFT JOIN Person ON Person.ID = Pet.PersonID ORDER BY Pet.ID", false, "2 1 1"},
     {"SELECT Pet.Name, Person.LegalName FROM Person RIGHT JOIN Pet ON Person.ID = Pet.PersonID ORDER BY Pet.ID", false,
      "Rex Tom Ada Stray"},
