@@ -112,6 +112,12 @@ TEST_F(OtherWindows, ListsAndTheirDialogs) {
     tellList();
 }
 
+TEST_F(OtherWindows, ComingDates) {
+    user.start();
+    user.menu(u"mComing"_s);
+    EXPECT_TRUE(isAsListed(u"window frmComing"_s, QStringList{titleOfForm()} + columnsOfGrid() + inputs()));
+}
+
 TEST_F(OtherWindows, DialogsOfTheSecurityCategory) {
     addMembers({u"Ann"_s});
     user.start();

@@ -109,6 +109,10 @@ TEST_F(ComingDatesWindow, PrintsAndSavesAsListsDo) {
 TEST_F(ComingDatesWindow, ARowLeadsToItsRecordAndTheRowsAreReadAnewBehindIt) {
     open(u"Whole Family"_s);
     user.pick(u"cbDays"_s, u"90 days"_s);
+    user.selectTwice(u"grdDataGrid"_s, 1);
+    EXPECT_EQ(activeWindow(), u"frmCDs"_s);
+    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"Bobs"_s);
+    user.menu(u"mComing"_s);
     user.select(u"grdDataGrid"_s, 2);
     user.key(u"Return"_s);
     EXPECT_EQ(activeWindow(), u"frmCDs"_s);

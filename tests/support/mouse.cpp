@@ -86,6 +86,11 @@ void press(const Spot& spot, Qt::MouseButton button) {
     if (spot.window) QTest::mousePress(spot.window, button, {}, spot.position);
 }
 
+void pressTwice(const Spot& spot) {
+    QTest::mouseMove(spot.window, spot.position);
+    QTest::mouseDClick(spot.window, Qt::LeftButton, {}, spot.position);
+}
+
 void letGo(const Spot& spot, Qt::MouseButton button) {
     if (spot.window) QTest::mouseRelease(spot.window, button, {}, spot.position);
 }

@@ -22,6 +22,8 @@ struct Spot {
 
 /// Moves the mouse to the spot and presses the button.
 void press(const Spot& spot, Qt::MouseButton button = Qt::LeftButton);
+/// Moves the mouse to the spot and clicks there twice, quickly enough for a double click.
+void pressTwice(const Spot& spot);
 /// Lets go of the button; nothing if the window is gone.
 void letGo(const Spot& spot, Qt::MouseButton button = Qt::LeftButton);
 

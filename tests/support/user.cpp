@@ -276,19 +276,25 @@ void User::popup(const QString& name) {
     }
 }
 
+Spot User::spotOnRowOf(const QString& view, int row) {
+    QAbstractItemView& list = finder().view(view);
+    static_cast<void>(spotOn(list));
+    const QAbstractItemModel* model = list.model();
+    if (!model || row < 0 || row >= model->rowCount()) throw Refused(u"%1 has no row %2"_s.arg(view).arg(row));
+    for (int column = 0; column < model->columnCount(); ++column) {
+        const QModelIndex index = model->index(row, column);
+        list.scrollTo(index);
+        if (list.visualRect(index).width() > 1) return spotOnRow(list, index);
+    }
+    throw Refused(view + u" shows no column"_s);
+}
+
 void User::select(const QString& view, int row) {
-    click([&] {
-        QAbstractItemView& list = finder().view(view);
-        static_cast<void>(spotOn(list));
-        const QAbstractItemModel* model = list.model();
-        if (!model || row < 0 || row >= model->rowCount()) throw Refused(u"%1 has no row %2"_s.arg(view).arg(row));
-        for (int column = 0; column < model->columnCount(); ++column) {
-            const QModelIndex index = model->index(row, column);
-            list.scrollTo(index);
-            if (list.visualRect(index).width() > 1) return spotOnRow(list, index);
-        }
-        throw Refused(view + u" shows no column"_s);
-    });
+    click([&] { return spotOnRowOf(view, row); });
+}
+
+void User::selectTwice(const QString& view, int row) {
+    gui_.act([&] { pressTwice(spotOnRowOf(view, row)); });
 }
 
 void User::answer(const QString& button) {

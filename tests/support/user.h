@@ -51,6 +51,8 @@ public:
     /// Opens the context menu of the grid or list that has the focus, else of the form's first, and chooses an entry.
     void popup(const QString& name);
     void select(const QString& view, int row);
+    /// Clicks a row twice.
+    void selectTwice(const QString& view, int row);
     /// Presses a button of the message box: "OK", "Yes", "No".
     void answer(const QString& button);
     /// Finishes the file dialog with a name, which need not exist; with an empty one nothing is chosen.
@@ -86,6 +88,7 @@ public:
 
 private:
     void click(const std::function<Spot()>& find, Qt::MouseButton button = Qt::LeftButton);
+    [[nodiscard]] Spot spotOnRowOf(const QString& view, int row);
     void stroke(const KeyStroke& stroke);
     void typeAll(const QString& text);
     [[nodiscard]] bool openList(const QString& combo, const QString& entry);
