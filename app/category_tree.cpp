@@ -15,6 +15,8 @@ namespace {
 
 constexpr int withoutData = 1;
 constexpr int withData = 2;
+/// What a picture can't tell who doesn't see it. It goes by the rows alone, not by what is selected.
+const QString ofRows = u"has records"_s;
 
 }  // namespace
 
@@ -54,7 +56,9 @@ void CategoryTree::setImage(int nodeIndex) {
 }
 
 void CategoryTree::countNode(int nodeIndex) {
-    view_.setImage(nodeIndex, rows_.count(counted(node(nodeIndex))) != 0 ? withData : withoutData);
+    const bool hasData = rows_.count(counted(node(nodeIndex))) != 0;
+    view_.setImage(nodeIndex, hasData ? withData : withoutData);
+    view_.setNote(nodeIndex, hasData ? ofRows : QString());
     // The root is never reached this way: its picture keeps what its own step gave it.
     for (int index = nodeIndex; view_.parentIndex(index) > 1; index = view_.parentIndex(index))
         setParent(index);
@@ -71,10 +75,13 @@ void CategoryTree::setParent(int nodeIndex) {
     const int last = view_.lastSibling(nodeIndex);
     if (last == 1) return;
     bool someHaveData = false;
+    bool someHaveRows = false;
     for (int sibling = last; sibling > 0; sibling = view_.previous(sibling)) {
         someHaveData = someHaveData || view_.image(sibling) == withData;
+        someHaveRows = someHaveRows || !view_.note(sibling).isEmpty();
     }
     view_.setImage(view_.parentIndex(nodeIndex), someHaveData ? withData : withoutData);
+    view_.setNote(view_.parentIndex(nodeIndex), someHaveRows ? ofRows : QString());
 }
 
 }  // namespace app

@@ -67,11 +67,11 @@ HostPanel::HostPanel(QWidget* parent)
     setObjectName(u"Picture1"_s);
     frame1_->setObjectName(u"Frame1"_s);
     cbPerson_->setName(u"cbPerson"_s);
-    cbPerson_->setAccessibleName(frame1_->title());
+    cbPerson_->setSpokenName(frame1_->title());
     cmdAddNew_->setName(u"cmdAddNew"_s);
     cmdAddNew_->setText(usualAddCaption());
     tvTree_->setName(u"tvTree"_s);
-    tvTree_->setAccessibleName(u"Categories"_s);
+    tvTree_->setSpokenName(u"Categories"_s);
 
     auto* selector = new QVBoxLayout(frame1_);
     selector->addWidget(cbPerson_);

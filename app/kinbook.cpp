@@ -14,6 +14,7 @@
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 #include "platform/base/unexpected_error.h"
+#include "platform/forms/accessibility.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/icons.h"
 #include "session/definition_file.h"
@@ -34,6 +35,7 @@ constexpr int usualSplashSeconds = 2;
 Kinbook::Kinbook(const QString& applicationFolder)
     : desktop_(std::make_unique<platform::Desktop>()), session_(std::make_unique<session::Session>()) {
     session_->applicationFolder = applicationFolder;
+    platform::installAccessibility();
     QApplication::setWindowIcon(platform::ownIcon(u"kinbook"_s));
 }
 

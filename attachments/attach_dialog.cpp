@@ -55,7 +55,6 @@ void AttachDialog::layOut(const QString& ownerName) {
     column->addWidget(owner);
 
     lvAttach_->setName(u"lvAttach"_s);
-    lvAttach_->setAccessibleName(windowTitle());
     lvAttach_->onDoubleClick(handler([this] { lvAttach_DblClick(); }));
     lvAttach_->setPopupMenu(mnuPopupMenu_);
     column->addWidget(lvAttach_, 1);

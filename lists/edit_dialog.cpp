@@ -47,6 +47,7 @@ void EditDialog::addInput(QFormLayout& rows, const EditField& field) {
         widget = line;
     }
     platform::Control::of(widget)->setName(field.name);
+    platform::Control::of(widget)->setSpokenName(field.label);
     widget->setEnabled(field.enabled);
     widget->setMinimumWidth(fontMetrics().averageCharWidth() * inputCharacters);
     auto* label = new QLabel(field.label, this);

@@ -26,6 +26,12 @@ bool isInCombo(const FieldBoxes::Text& text) {
     return text.column && text.column->shownIn != data::ShownIn::Box;
 }
 
+/// The box that stands behind a combo is never met, by the keyboard or by a screen reader.
+void hideShadow(QWidget& box) {
+    box.hide();
+    box.setFocusPolicy(Qt::NoFocus);
+}
+
 }  // namespace
 
 FieldBoxes::FieldBoxes(QWidget& form, const ScreenDefinition& definition, OwnerBox owner)
@@ -50,7 +56,7 @@ FieldBoxes::Text& FieldBoxes::addText(QWidget& form, int index, platform::TextCo
     Text text;
     text.box = box;
     box->setName(indexedName(u"txtFields"_s, index));
-    box->widget().setAccessibleName(label);
+    box->setSpokenName(label);
     text.label = new QLabel(label, &form);
     text.label->setObjectName(indexedName(u"lblLabels"_s, index));
     text.label->setBuddy(&box->widget());
@@ -62,9 +68,9 @@ void FieldBoxes::makeOwner(QWidget& form, OwnerBox owner) {
     if (owner == OwnerBox::Name) return;
     owner_ = new platform::ComboBox(&form);
     owner_->setName(indexedName(u"cbFields"_s, 0));
-    owner_->setAccessibleName(text.label->text());
+    owner_->setSpokenName(text.label->text());
     owner_->setLocked(true);
-    text.box->widget().hide();
+    hideShadow(text.box->widget());
     text.label->setBuddy(owner_);
 }
 
@@ -98,10 +104,10 @@ void FieldBoxes::makeCombo(QWidget& form, int shadow) {
     Combo combo{new platform::ComboBox(&form), shadow, text.column, nullptr};
     const int index = definition_.firstField() + static_cast<int>(combos_.size());
     combo.box->setName(definition_.soleCombo ? u"cbFields"_s : indexedName(u"cbFields"_s, index));
-    combo.box->setAccessibleName(text.label->text());
     combo.box->setCompletes(text.column->shownIn == data::ShownIn::StateCombo);
+    combo.box->setSpokenName(text.label->text());
     combo.binding = std::make_unique<platform::Binding>(*combo.box, text.column->name, QString(), true);
-    text.box->widget().hide();
+    hideShadow(text.box->widget());
     text.label->setBuddy(combo.box);
     combos_.push_back(std::move(combo));
 }

@@ -9,6 +9,7 @@ HiddenBox::HiddenBox(QWidget& form, const QString& name, const QString& column)
     : box_(new platform::TextBox(&form)), binding_(*box_, column, QString()) {
     box_->setName(name);
     box_->hide();
+    box_->setFocusPolicy(Qt::NoFocus);
     // It is never seen.
     box_->holdDisplay();
 }

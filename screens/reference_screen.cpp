@@ -22,7 +22,7 @@ ReferenceScreen::ReferenceScreen(platform::Desktop& desktop, session::Session& s
     auto* row = new QWidget(this);
     auto* label = new QLabel(u"Select:"_s, row);
     label->setBuddy(cbSelect_);
-    cbSelect_->setAccessibleName(label->text());
+    cbSelect_->setSpokenName(label->text());
     auto* line = new QHBoxLayout(row);
     line->setContentsMargins(20, 4, 20, 0);
     line->addWidget(label);

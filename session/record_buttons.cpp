@@ -67,7 +67,7 @@ void RecordButtons::makeMoveRow(QWidget& form, QVBoxLayout& column) {
     QWidget* moves = row(form, column, u"picStatBox"_s);
     first_ = moveButton(*moves, u"cmdFirst"_s, u"go-first"_s, u"First Record"_s, actions_.first);
     previous_ = moveButton(*moves, u"cmdPrevious"_s, u"go-previous"_s, u"Previous Record"_s, actions_.previous);
-    status_ = new QLabel(moves);
+    status_ = new platform::StatusLine(moves);
     status_->setObjectName(u"lblStatus"_s);
     status_->setFrameShape(QFrame::StyledPanel);
     status_->setIndent(6);

@@ -3,6 +3,8 @@
 #include <QString>
 #include <functional>
 
+#include "platform/forms/status_line.h"
+
 class QHBoxLayout;
 class QLabel;
 class QVBoxLayout;
@@ -31,7 +33,7 @@ public:
     /// with the status field coloured.
     void showBrowsing(bool browsing);
     void enableMoves(bool enabled);
-    [[nodiscard]] QLabel& status() const { return *status_; }
+    [[nodiscard]] platform::StatusLine& status() const { return *status_; }
     [[nodiscard]] platform::CommandButton& add() const { return *add_; }
     /// nullptr in a window without it.
     [[nodiscard]] platform::CommandButton* open() const { return open_; }
@@ -44,7 +46,7 @@ private:
     void makeActionRow(QWidget& form, QVBoxLayout& column, const QString& addCaption);
 
     RecordActions actions_;
-    QLabel* status_ = nullptr;
+    platform::StatusLine* status_ = nullptr;
     QHBoxLayout* actionRow_ = nullptr;
     platform::CommandButton *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
     platform::CommandButton *add_ = nullptr, *edit_ = nullptr, *update_ = nullptr, *cancel_ = nullptr;

@@ -190,6 +190,11 @@ QString ComboBox::hint() {
     return toolTip().isEmpty() ? line_->cutText() : toolTip();
 }
 
+void ComboBox::setSpokenName(const QString& name) {
+    setAccessibleName(name);
+    line_->setAccessibleName(name);
+}
+
 bool ComboBox::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
     showHint(*event, *this, hint());

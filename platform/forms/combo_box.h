@@ -21,6 +21,7 @@ public:
     [[nodiscard]] QWidget& widget() override { return *this; }
     [[nodiscard]] int widthFor(int textPixels) override;
     [[nodiscard]] QString hint() override;
+    void setSpokenName(const QString& name) override;
     [[nodiscard]] QString text() const;
     /// Sets the text without a click; the list index becomes -1, whatever entries there are.
     void setText(const QString& text);

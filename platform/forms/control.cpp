@@ -19,6 +19,10 @@ void Control::setName(const QString& name) {
     widget().setObjectName(name);
 }
 
+void Control::setSpokenName(const QString& name) {
+    widget().setAccessibleName(name);
+}
+
 QString Control::name() {
     return widget().objectName();
 }

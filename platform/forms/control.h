@@ -26,6 +26,8 @@ public:
     /// What the user reads when the pointer rests on it: the told hint, else a text that the control has no room for.
     [[nodiscard]] virtual QString hint();
     void setName(const QString& name);
+    /// What a screen reader calls it: the caption of its label.
+    virtual void setSpokenName(const QString& name);
     [[nodiscard]] QString name();
     void setValidate(Validate validate) { validate_ = std::move(validate); }
     /// Runs the check.

@@ -10,6 +10,7 @@
 #include "platform/base/runtime_error.h"
 #include "platform/forms/grid_delegate.h"
 #include "platform/forms/grid_model.h"
+#include "platform/forms/table_accessible.h"
 
 namespace platform {
 
@@ -116,9 +117,20 @@ void DataGrid::showCurrentRow() {
 }
 
 void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
+    // What the table would tell a screen reader besides is of cells that nobody sees.
+    QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+    if (current.row() != previous.row()) tellCurrentRow(*this);
     const bool byUser = !following_ && current.isValid() && current.row() != previous.row();
     if (byUser && chosen_) chosen_(current.row());
+}
+
+void DataGrid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QAbstractItemView::selectionChanged(selected, deselected);  // NOLINT(bugprone-parent-virtual-call)
+}
+
+void DataGrid::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    tellCurrentRowSoon(*this);
 }
 
 void DataGrid::keyPressEvent(QKeyEvent* event) {

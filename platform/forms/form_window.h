@@ -23,6 +23,7 @@ public:
     ~FormWindow() override;
 
     [[nodiscard]] QWidget& window() override { return *this; }
+    [[nodiscard]] bool isDialog() const { return kind_ == Kind::Dialog; }
     void show() override;
     /// Shows the form and returns when it is hidden or unloaded.
     void showModal();

@@ -7,6 +7,7 @@
 
 #include "platform/base/runtime_error.h"
 #include "platform/forms/grid_delegate.h"
+#include "platform/forms/table_accessible.h"
 
 namespace platform {
 
@@ -50,6 +51,22 @@ void ListView::selectItem(int row) {
 QString ListView::selectedText(int column) const {
     if (!currentItem()) throw RuntimeError(Error::ObjectNotSet);
     return currentItem()->text(column);
+}
+
+void ListView::focusInEvent(QFocusEvent* event) {
+    QTreeWidget::focusInEvent(event);
+    tellCurrentRowSoon(*this);
+}
+
+void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    // A screen reader hears of the row, where the tree would speak of one cell; the focus is drawn over the whole row.
+    QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+    viewport()->update();
+    if (current.row() != previous.row()) tellCurrentRow(*this);
+}
+
+void ListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QAbstractItemView::selectionChanged(selected, deselected);  // NOLINT(bugprone-parent-virtual-call)
 }
 
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/forms/child_accessible.h"
 #include "platform/forms/control.h"
 #include "platform/forms/desktop.h"
 
@@ -128,6 +129,7 @@ void MdiFrame::childActivated() {
     QMdiSubWindow* frame = area_->currentSubWindow();
     if (!child) frontChanged();
     if (!child || frame == front_) return;
+    tellFront(front_, frame);
     front_ = frame;
     frontChanged();
     std::erase(order_, frame);

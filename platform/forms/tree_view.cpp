@@ -9,12 +9,22 @@
 #include "platform/base/runtime_error.h"
 #include "platform/forms/grid_delegate.h"
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
 constexpr int indexRole = Qt::UserRole;
 /// How long the arrow keys rest on a node until it counts as clicked.
 constexpr std::chrono::milliseconds restTime{600};
+
+/// 1 for the root.
+int levelOf(const QTreeWidgetItem& item) {
+    int level = 1;
+    for (const QTreeWidgetItem* above = item.parent(); above; above = above->parent())
+        ++level;
+    return level;
+}
 }  // namespace
 
 TreeView::TreeView(QWidget* parent) : QTreeWidget(parent) {
@@ -40,6 +50,12 @@ TreeView::TreeView(QWidget* parent) : QTreeWidget(parent) {
     connect(this, &QTreeWidget::itemCollapsed, this, toggle);
 }
 
+void TreeView::setSpokenName(const QString& name) {
+    setAccessibleName(name);
+    // A reader comes upon the column's caption too, though it isn't shown.
+    setHeaderLabel(name);
+}
+
 int TreeView::addNode(const QString& parentKey, const QString& key, const QString& text) {
     const int parent = parentKey.isEmpty() ? 0 : indexOf(parentKey);
     if (!parentKey.isEmpty() && parent == 0) throw RuntimeError(Error::NoSuchElement);
@@ -47,6 +63,7 @@ int TreeView::addNode(const QString& parentKey, const QString& key, const QStrin
     nodes_.push_back({key, item});
     item->setText(0, text);
     item->setData(0, indexRole, nodeCount());
+    describe(nodes_.back());
     return nodeCount();
 }
 
@@ -71,10 +88,8 @@ void TreeView::showNode(int index) {
 int TreeView::widestNode() const {
     int widest = 0;
     for (const Node& node : nodes_) {
-        int depth = 1;
-        for (const QTreeWidgetItem* above = node.item->parent(); above; above = above->parent())
-            ++depth;
-        widest = std::max(widest, depth * indentation() + sizeHintForIndex(indexFromItem(node.item)).width());
+        const int indent = levelOf(*node.item) * indentation();
+        widest = std::max(widest, indent + sizeHintForIndex(indexFromItem(node.item)).width());
     }
     return widest + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
 }
@@ -101,6 +116,18 @@ void TreeView::setImage(int index, int image) {
     if (node.image == image) return;
     node.image = image;
     node.item->setIcon(0, image == 0 ? QIcon() : images_.at(static_cast<std::size_t>(image - 1)));
+}
+
+void TreeView::setNote(int index, const QString& note) {
+    Node& node = nodes_.at(static_cast<std::size_t>(index - 1));
+    if (node.note == note) return;
+    node.note = note;
+    describe(node);
+}
+
+void TreeView::describe(const Node& node) {
+    const QString level = u"level %1"_s.arg(levelOf(*node.item));
+    node.item->setData(0, Qt::AccessibleDescriptionRole, node.note.isEmpty() ? level : node.note + u", "_s + level);
 }
 
 void TreeView::setImages(std::vector<QIcon> images) {

@@ -17,6 +17,7 @@ public:
     explicit TreeView(QWidget* parent = nullptr);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
+    void setSpokenName(const QString& name) override;
 
     /// Adds a node at the end of its parent's children; an empty parent key adds the root. Returns its index.
     /// Throws RuntimeError 35601 for an unknown parent.
@@ -39,6 +40,9 @@ public:
     [[nodiscard]] int image(int index) const { return at(index).image; }
     void setImage(int index, int image);
     void setImages(std::vector<QIcon> images);
+    /// What a screen reader says of a node besides its text and its level; empty for nothing.
+    [[nodiscard]] QString note(int index) const { return at(index).note; }
+    void setNote(int index, const QString& note);
 
     // A node's place, each as an index; 0 where there is none.
     [[nodiscard]] int parentIndex(int index) const;
@@ -63,10 +67,12 @@ private:
         QString key;
         QTreeWidgetItem* item;
         int image = 0;
+        QString note{};
     };
     [[nodiscard]] const Node& at(int index) const;
     void clickCurrent();
     void rested();
+    void describe(const Node& node);
     /// Sets what depends on the font.
     void measure();
     [[nodiscard]] int indexOf(const QTreeWidgetItem* item) const;
