@@ -1,6 +1,8 @@
 #include "platform/forms/dialogs.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -104,6 +106,9 @@ std::optional<QString> Dialogs::chooseFile(const FileRequest& request) {
     }
     dialog.setDefaultSuffix(request.suffix);
     if (!request.fileName.isEmpty()) dialog.selectFile(preset.fileName());
+    // A screen reader asks also for the name of a list that isn't open.
+    for (const QComboBox* combo : dialog.findChildren<QComboBox*>())
+        combo->view()->setAccessibleName(dialog.windowTitle());
     const QString chosen = runFileDialog(dialog);
     if (dialog.result() != QDialog::Accepted) return std::nullopt;
     return chosen;
