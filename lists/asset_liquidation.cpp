@@ -28,6 +28,7 @@ const ListDefinition assetList{
                .stored = u"Directions"_s,
                .ampersands = Ampersands::DoubledInTable,
                .kind = EditField::Kind::Memo}}},
+    .select = u"Select ID, Seq, Asset, Directions from AssetLiquidation Order By Seq"_s,
     .closesTree = true,
 };
 
@@ -42,10 +43,6 @@ AssetLiquidation::AssetLiquidation(platform::Desktop& desktop, session::Session&
 
 const ListDefinition& AssetLiquidation::list() {
     return assetList;
-}
-
-QString AssetLiquidation::selectStatement() const {
-    return u"Select ID, Seq, Asset, Directions from AssetLiquidation Order By Seq"_s;
 }
 
 std::unique_ptr<EditDialog> AssetLiquidation::makeDialog() {

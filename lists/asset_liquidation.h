@@ -14,7 +14,6 @@ public:
     [[nodiscard]] static const ListDefinition& list();
 
 protected:
-    [[nodiscard]] QString selectStatement() const override;
     [[nodiscard]] std::unique_ptr<EditDialog> makeDialog() override;
 };
 

@@ -30,6 +30,7 @@ const ListDefinition familyList{
                .ampersands = Ampersands::SingleInDialog,
                .enabled = false}},
              txtSequence},
+    .select = u"Select ID, Seq, LegalName, SocSecNum from Person Order By Seq"_s,
     .editsOnly = true,
     .closesTree = true,
 };
@@ -39,8 +40,8 @@ const ListDefinition familyList{
 FamilySequence::FamilySequence(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace)
     : SequencedList(desktop, session, workspace, familyList) {}
 
-QString FamilySequence::selectStatement() const {
-    return u"Select ID, Seq, LegalName, SocSecNum from Person Order By Seq"_s;
+const ListDefinition& FamilySequence::list() {
+    return familyList;
 }
 
 std::unique_ptr<EditDialog> FamilySequence::makeDialog() {

@@ -11,8 +11,9 @@ class FamilySequence : public SequencedList {
 public:
     FamilySequence(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace);
 
+    [[nodiscard]] static const ListDefinition& list();
+
 protected:
-    [[nodiscard]] QString selectStatement() const override;
     [[nodiscard]] std::unique_ptr<EditDialog> makeDialog() override;
 };
 

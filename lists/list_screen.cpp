@@ -59,7 +59,11 @@ void ListScreen::Form_Load() {
     prepareRows();
     grid().setSource(&rows_);
     formatGrid();
-    setCaption(captionText());
+    setCaption(listCaption(definition_, session().selection()));
+}
+
+QString ListScreen::selectStatement() const {
+    return listStatement(definition_, session().selection());
 }
 
 void ListScreen::formatGrid() {

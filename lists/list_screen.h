@@ -5,28 +5,11 @@
 #include "data/recordset.h"
 #include "lists/edit_dialog.h"
 #include "lists/grid_window.h"
+#include "lists/list_definition.h"
 
 class QLabel;
 
 namespace lists {
-
-/// What tells one list from another.
-struct ListDefinition {
-    QString window;
-    QString caption;
-    /// The table whose rows the list edits.
-    QString table;
-    int rowLines;  ///< of text in a row of the grid
-    /// Of the grid's width, by columns. The first column is the key.
-    std::vector<double> shares;
-    EditForm form;
-    /// Front of the attachment keys; empty for a list without attachments.
-    QString attachmentPrefix{};
-    /// The rows are only edited here; they come and go elsewhere.
-    bool editsOnly = false;
-    /// The category tree is closed while a row is added.
-    bool closesTree = false;
-};
 
 /// A window that shows a whole table in a grid and edits its rows in a small modal dialog.
 ///
@@ -48,8 +31,7 @@ public:
 
 protected:
     // The steps in which a kind of list differs.
-    [[nodiscard]] virtual QString selectStatement() const = 0;
-    [[nodiscard]] virtual QString captionText() const { return definition_.caption; }
+    [[nodiscard]] virtual QString selectStatement() const;
     [[nodiscard]] virtual std::unique_ptr<EditDialog> makeDialog() = 0;
     /// The rows were read, for the first time or anew.
     virtual void prepareRows() {}

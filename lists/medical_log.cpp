@@ -33,6 +33,12 @@ const ListDefinition logList{
                .stored = u"Description"_s,
                .ampersands = Ampersands::DoubledInTable,
                .kind = EditField::Kind::Memo}}},
+    .select =
+        u"SELECT MedicalLog.ID, Person.LegalName, MedicalLog.TreatmentStartDate as StartDate, "
+        "MedicalLog.TreatmentEndDate as EndDate, Doctors.Name as Doctor, MedicalLog.Description FROM (MedicalLog "
+        "LEFT JOIN Person ON Person.ID = MedicalLog.PersonID) LEFT JOIN Doctors ON Doctors.ID = "
+        "MedicalLog.MedicalID"_s,
+    .ofMember = u" WHERE (((MedicalLog.PersonID)=%1));"_s,
     .attachmentPrefix = u"MRec"_s,
 };
 
@@ -47,20 +53,6 @@ MedicalLog::MedicalLog(platform::Desktop& desktop, session::Session& session, se
 
 const ListDefinition& MedicalLog::list() {
     return logList;
-}
-
-QString MedicalLog::selectStatement() const {
-    QString all =
-        u"SELECT MedicalLog.ID, Person.LegalName, MedicalLog.TreatmentStartDate as StartDate, "
-        "MedicalLog.TreatmentEndDate as EndDate, Doctors.Name as Doctor, MedicalLog.Description FROM (MedicalLog "
-        "LEFT JOIN Person ON Person.ID = MedicalLog.PersonID) LEFT JOIN Doctors ON Doctors.ID = "
-        "MedicalLog.MedicalID"_s;
-    if (session().gbWholeFamily) return all;
-    return all + u" WHERE (((MedicalLog.PersonID)=%1));"_s.arg(session().gPersonID);
-}
-
-QString MedicalLog::captionText() const {
-    return logList.caption + session().gsPersonName;
 }
 
 std::unique_ptr<EditDialog> MedicalLog::makeDialog() {

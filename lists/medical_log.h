@@ -14,8 +14,6 @@ public:
     [[nodiscard]] static const ListDefinition& list();
 
 protected:
-    [[nodiscard]] QString selectStatement() const override;
-    [[nodiscard]] QString captionText() const override;
     [[nodiscard]] std::unique_ptr<EditDialog> makeDialog() override;
     /// The names turn into keys; without a patient of that name nothing is written.
     [[nodiscard]] bool saveRow() override;

@@ -24,6 +24,7 @@ const ListDefinition giftList{
                .gridColumn = 2,
                .stored = u"Person"_s,
                .ampersands = Ampersands::DoubledInTable}}},
+    .select = u"Select ID, Item, Person from WhoGetsWhat"_s,
     .attachmentPrefix = u"WRec"_s,
 };
 
@@ -34,10 +35,6 @@ WhoGetsWhat::WhoGetsWhat(platform::Desktop& desktop, session::Session& session, 
 
 const ListDefinition& WhoGetsWhat::list() {
     return giftList;
-}
-
-QString WhoGetsWhat::selectStatement() const {
-    return u"Select ID, Item, Person from WhoGetsWhat"_s;
 }
 
 std::unique_ptr<EditDialog> WhoGetsWhat::makeDialog() {

@@ -26,7 +26,6 @@ public:
 
 private:
     void printHeadings();
-    void printLine(const ListingLine& line);
     void printPageNumber();
 
     platform::Desktop& desktop_;

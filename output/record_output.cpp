@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "output/document.h"
+#include "output/page_parts.h"
 #include "output/print_failure.h"
 #include "output/printable_screen.h"
 #include "output/save_dialog.h"
@@ -21,8 +22,6 @@ using namespace Qt::StringLiterals;
 namespace output {
 
 namespace {
-
-constexpr double fontSize = 10;
 
 /// What a routine that writes a file is doing: a failure is told under the title of its step.
 class Steps {
@@ -64,9 +63,7 @@ void createPrintDoc(platform::Desktop& desktop, const PrintableScreen& screen) {
     attemptPrint(desktop, u"CreatePrintDoc Error"_s, [&] {
         const QString document = pageDocument(screen, platform::systemClock().today());
         platform::Printer printer(platform::printDevice(), jobTitle(screen));
-        printer.setFontName(u"Courier New"_s);
-        printer.setFontBold(true);
-        printer.setFontSize(fontSize);
+        useDocumentFont(printer);
         printer.print(document);
         printer.endDoc();
     });

@@ -1,6 +1,7 @@
 #include "screens/child_screen.h"
 
 #include "platform/forms/text_box.h"
+#include "screens/catalogue/record_rows.h"
 #include "session/session.h"
 #include "session/workspace.h"
 
@@ -41,10 +42,7 @@ void ChildScreen::keepLocation() {
 void ChildScreen::ShowMe() {
     typeID_ = txtTypeID_.number();
     parentID_ = txtParentID_.number();
-    openRows(u"%1Where TypeID = %2 and ParentID = %3%4"_s.arg(definition().query)
-                 .arg(typeID_)
-                 .arg(parentID_)
-                 .arg(definition().queryOrder));
+    openRows(childStatement(definition(), typeID_, parentID_));
     bindBoxes();
     txtID().bind(&rows());
     txtParentID_.bind(&rows());

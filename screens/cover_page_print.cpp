@@ -1,6 +1,5 @@
 #include "screens/cover_page_print.h"
 
-#include "platform/print/device_in_use.h"
 #include "platform/print/printer.h"
 #include "session/session.h"
 
@@ -36,8 +35,7 @@ void printCompany(platform::Printer& printer, const session::Definition& company
 
 }  // namespace
 
-void printCoverPage(const CoverPage& cover, const session::Definition& company, const QString& title) {
-    platform::Printer printer(platform::printDevice(), title);
+void printCoverPage(platform::Printer& printer, const CoverPage& cover, const session::Definition& company) {
     printer.setFontName(u"Courier New"_s);
     printer.setFontBold(true);
     printer.setFontItalic(false);
@@ -58,7 +56,6 @@ void printCoverPage(const CoverPage& cover, const session::Definition& company, 
     skipLines(printer, 2);
     printCentred(printer, cover.subHeading2);
     printCompany(printer, company);
-    printer.endDoc();
 }
 
 }  // namespace screens

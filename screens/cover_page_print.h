@@ -2,6 +2,10 @@
 
 #include <QString>
 
+namespace platform {
+class Printer;
+}
+
 namespace session {
 struct Definition;
 }
@@ -16,8 +20,7 @@ struct CoverPage {
     QString date{};
 };
 
-/// Prints the cover as one page of centred lines, with the company's address at its foot, as a job of that title.
-/// Throws 482 without a printer.
-void printCoverPage(const CoverPage& cover, const session::Definition& company, const QString& title);
+/// Prints the cover as one page of centred lines, with the company's address at its foot.
+void printCoverPage(platform::Printer& printer, const CoverPage& cover, const session::Definition& company);
 
 }  // namespace screens

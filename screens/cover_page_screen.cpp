@@ -4,6 +4,8 @@
 #include "output/printable_screen.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
+#include "platform/print/print_device.h"
+#include "platform/print/printer.h"
 #include "screens/cover_page_print.h"
 #include "session/session.h"
 
@@ -43,7 +45,9 @@ void CoverPageScreen::printRecord() {
                              .heading2 = boxes().text("Heading2"_L1).text(),
                              .subHeading2 = boxes().text("SubHeading2"_L1).text(),
                              .date = boxes().text("Date"_L1).text()};
-        printCoverPage(page, session().definition, output::jobTitle(printable()));
+        platform::Printer printer(platform::printDevice(), output::jobTitle(printable()));
+        printCoverPage(printer, page, session().definition);
+        printer.endDoc();
     });
 }
 

@@ -7,6 +7,7 @@
 #include "platform/forms/combo_box.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
+#include "screens/catalogue/record_rows.h"
 #include "session/owner_names.h"
 #include "session/session.h"
 #include "session/workspace.h"
@@ -37,22 +38,14 @@ void OwnedScreen::Form_Load() {
     }
 }
 
-QString OwnedScreen::selectStatement() const {
-    const QString table = definition().table;
-    const QString rows = u"SELECT %1.* FROM Person INNER JOIN %1 ON Person.ID = %1.PersonID "_s.arg(table);
-    const QString order = u"ORDER BY Person.Seq, %1.ID"_s.arg(table);
-    if (session().gbWholeFamily) return rows + order;
-    return rows + u"WHERE %1.PersonID = %2 "_s.arg(table).arg(session().gPersonID) + order;
-}
-
 void OwnedScreen::loadRows() {
-    openRows(selectStatement());
+    openRows(recordStatement(definition(), session().selection()));
     bindBoxes();
     fillStateCombos();
     showStateCombos();
     bindKeys();
     session::fillWithNames(desktop(), session().gConnection, owner());
-    setCaption(titleText() + session().gsPersonName);
+    setCaption(recordCaption(definition(), session().selection()));
     loadOwner();
     bChange = false;
     if (rows().eof()) {
@@ -212,7 +205,7 @@ bool OwnedScreen::validatesCombos() {
 void OwnedScreen::showChild(ChildKind kind) {
     const auto child = std::ranges::find(definition().children, kind, &ChildOffer::kind);
     const QString description = boxes().text("Description"_L1).text();
-    const session::ChildRequest request{.title = child->title + description,
+    const session::ChildRequest request{.title = childCaption(*child, description),
                                         .location = description,
                                         .typeID = definition().parentType,
                                         .parentID = txtID().number(),

@@ -21,9 +21,6 @@ protected:
     /// Reads the rows of the selected member, or of the whole family, and shows the first. Without rows it begins an
     /// add.
     void loadRows();
-    [[nodiscard]] virtual QString selectStatement() const;
-    /// What stands in the window's title ahead of the selected name.
-    [[nodiscard]] virtual QString titleText() const { return definition().title; }
     virtual void bindKeys();
 
     void beginAdd() override;

@@ -8,6 +8,7 @@
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
 #include "screens/catalogue/person_entry.h"
+#include "screens/catalogue/record_rows.h"
 #include "screens/person_ids.h"
 #include "session/form_access.h"
 #include "session/session.h"
@@ -33,20 +34,14 @@ QString PersonScreen::legalName() const {
 
 // Load -------------------------------------------------------------------------------------------------------------
 
-QString PersonScreen::selectStatement() {
-    if (!session().gbWholeFamily) return u"select * from Person WHERE ID = "_s + QString::number(session().gPersonID);
-    session().gPersonID = getFirstPersonID(session().gConnection);
-    return u"select * from Person Order by Seq, ID"_s;
-}
-
 void PersonScreen::Form_Load() {
     attemptLoad([this] {
-        openRows(selectStatement());
+        if (session().gbWholeFamily) session().gPersonID = getFirstPersonID(session().gConnection);
+        openRows(recordStatement(definition(), session().selection()));
         bindBoxes();
         fillStateCombos();
         showStateCombos();
-        setCaption(session().gbWholeFamily ? definition().title + u" for Whole Family"_s
-                                           : definition().title + u" -- "_s + session().gsPersonName);
+        setCaption(recordCaption(definition(), session().selection()));
         setAttachKey();
         setButtons(true);
         if ((rows().bof() && rows().eof()) || session().gbAddMember) {

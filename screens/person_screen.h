@@ -41,7 +41,6 @@ protected:
     void walkAll(const std::function<bool()>& visit) override;
 
 private:
-    [[nodiscard]] QString selectStatement();
     /// Whose records go with the session's member: his legal name, or that he is no longer there.
     [[nodiscard]] QString doomedName();
     [[nodiscard]] bool sexIsValid();

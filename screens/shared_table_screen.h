@@ -15,8 +15,6 @@ public:
                       const ScreenDefinition& definition);
 
 protected:
-    [[nodiscard]] QString selectStatement() const override;
-    [[nodiscard]] QString titleText() const override;
     void bindKeys() override;
     void prepareSave() override;
 

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "data/connection.h"
+#include "session/selection.h"
 
 namespace session {
 
@@ -46,6 +47,9 @@ struct Session {
     /// Attachment key of the record on screen.
     QString gvAttachKey;
     bool gbHelpOpened = false;
+
+    /// Whose rows the windows show that are opened now.
+    [[nodiscard]] Selection selection() const { return {gsPersonName, gPersonID, gbWholeFamily}; }
 
     /// Name of the family's database file in the application folder.
     [[nodiscard]] static QString liveDatabaseName();

@@ -9,36 +9,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/forms/box_text.h"
 #include "platform/forms/long_text.h"
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
-
-namespace {
-
-/// True for a text that a box gives back as it got it.
-bool staysAsItIs(const QString& text) {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        const bool endsLine = c == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n';
-        if (endsLine) ++i;
-        const bool isTurned =
-            c == u'\r' || c == u'\n' || c == QChar::Nbsp || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
-        if (isTurned && !endsLine) return false;
-    }
-    return true;
-}
-
-/// A text as the box gives it back when it has been shown: every line end as CR LF, every blank as the usual one.
-QString asRead(QString text) {
-    if (staysAsItIs(text)) return text;
-    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(QChar::Nbsp, u' ');
-    text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
-    return text.replace(u'\n', u"\r\n"_s);
-}
-
-}  // namespace
 
 MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
@@ -58,7 +34,7 @@ QString MemoBox::text() const {
 void MemoBox::setText(const QString& text) {
     const QString cut = fitting(text);
     if (held_) {
-        held_ = asRead(cut);
+        held_ = asInMemo(cut);
         return;
     }
     if (cut != this->text()) showBeginning(cut);
@@ -70,7 +46,7 @@ void MemoBox::showBeginning(const QString& text) {
     if (shownLength(text, mostInMemo) == text.size()) {
         setPlainText(text);
     } else {
-        const QString whole = asRead(text);
+        const QString whole = asInMemo(text);
         const qsizetype shown = shownLength(whole, mostInMemo);
         setPlainText(whole.first(shown));
         rest_ = whole.sliced(shown);

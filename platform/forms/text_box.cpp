@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/base/display_format.h"
+#include "platform/forms/box_text.h"
 #include "platform/forms/long_text.h"
 
 namespace platform {
@@ -15,10 +16,7 @@ void TextControl::showValue(const QVariant& value, ColumnKind kind, const QStrin
 }
 
 QString TextControl::fitting(const QString& text) const {
-    const int limit = maxLength();
-    if (limit <= 0 || text.size() <= limit) return text;
-    const bool cutsPair = text[limit - 1].isHighSurrogate() && text[limit].isLowSurrogate();
-    return text.left(cutsPair ? limit - 1 : limit);
+    return cutToBox(text, maxLength());
 }
 
 TextBox::TextBox(QWidget* parent) : LineEdit(parent) {
