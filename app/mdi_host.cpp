@@ -7,11 +7,13 @@
 #include <algorithm>
 
 #include "app/about_dialog.h"
+#include "app/book_chapters.h"
 #include "app/help_viewer.h"
 #include "app/host_panel.h"
 #include "app/shown_rows.h"
 #include "app/tree_pictures.h"
 #include "attachments/attach_dialog.h"
+#include "book/family_book_dialog.h"
 #include "lists/coming_dates.h"
 #include "platform/base/files.h"
 #include "platform/forms/combo_box.h"
@@ -69,6 +71,7 @@ void MDIHost::makeMenus() {
     platform::addEntry(*file, u"mExit"_s, u"Exit"_s, handler([this] { closeHost(); }));
     platform::addSeparator(*file, u"Sep5"_s);
     platform::addEntry(*file, u"mComing"_s, u"Coming Dates..."_s, handler([this] { showComingDates(); }));
+    platform::addEntry(*file, u"mFamilyBook"_s, u"Family Book..."_s, handler([this] { showFamilyBook(); }));
     addMenu(file);
 
     QMenu* help = platform::makeMenu(*this, u"mnuHelp1"_s, u"&Help"_s);
@@ -160,6 +163,10 @@ QString MDIHost::categoryOf(const QString& table) const {
     const auto all = shownRows();
     const auto shown = std::ranges::find_if(all, [&](const auto& rows) { return rows.table->name == table; });
     return shown == all.end() ? QString() : shown->category;
+}
+
+void MDIHost::showFamilyBook() {
+    desktop().load(std::make_unique<book::FamilyBookDialog>(desktop(), session_, bookChapters())).showModal();
 }
 
 void MDIHost::showAttachments(const QString& ownerName) {

@@ -48,6 +48,7 @@ public:
     void showCoverPage() override;
     void showComingDates() override;
     [[nodiscard]] QString categoryOf(const QString& table) const override;
+    void showFamilyBook() override;
     void showAttachments(const QString& ownerName) override;
     void newDatabase() override { database_.newDB(); }
     void restoreDatabase() override { database_.openDB(); }

@@ -9,6 +9,7 @@ buildPackages=(
   libgl-dev         # Qt's own CMake files ask for it
   libicu-dev        # what each character is; Qt's own library needs it too
   libcups2-dev      # what a print queue answers
+  libqpdf-dev       # gives a finished PDF file its bookmarks
   libglib2.0-dev    # opens a file with the desktop's program; Qt's own packages run on it
   libsqlite3-dev libsqlitecpp-dev
   breeze-icon-theme # toolbar pictures

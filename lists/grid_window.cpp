@@ -6,6 +6,7 @@
 #include "output/grid_output.h"
 #include "platform/forms/data_grid.h"
 #include "platform/forms/desktop.h"
+#include "session/refusals.h"
 #include "session/session.h"
 
 using namespace Qt::StringLiterals;
@@ -51,7 +52,7 @@ void GridWindow::addHead(QLayout& head) {
 
 bool GridWindow::hasEntries(const QString& purpose) {
     const bool empty = grdDataGrid_->rowCount() == 0;
-    if (empty) desktop().notice(u"There are no entries to %1."_s.arg(purpose), u"No Entries"_s);
+    if (empty) session::showNoEntries(desktop(), purpose);
     return !empty;
 }
 

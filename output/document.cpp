@@ -13,9 +13,12 @@ namespace {
 const QString lineEnd = u"\r\n"_s;
 constexpr int emptyLinesAtHead = 6;
 
+QString titleBlock(const QString& title, const QDate& today) {
+    return u"     The "_s + title + lineEnd + u"     For "_s + platform::mediumDate(today) + lineEnd + lineEnd;
+}
+
 QString document(const PrintableScreen& screen, const QDate& today, Medium medium) {
-    QString text = u"     The "_s + screen.caption + lineEnd;
-    text += u"     For "_s + platform::mediumDate(today) + lineEnd + lineEnd;
+    QString text = titleBlock(screen.caption, today);
     for (const PrintableField& field : screen.fields)
         text += fieldEntry(field, medium);
     const QString margin(medium == Medium::Page ? 6 : 5, u' ');
@@ -28,6 +31,10 @@ QString document(const PrintableScreen& screen, const QDate& today, Medium mediu
 
 QString jobTitle(const PrintableScreen& screen) {
     return u"%1, record %2 of %3"_s.arg(screen.caption).arg(screen.position).arg(screen.count);
+}
+
+QString documentHead(const QString& title, const QDate& today) {
+    return lineEnd.repeated(emptyLinesAtHead) + titleBlock(title, today);
 }
 
 QString pageDocument(const PrintableScreen& screen, const QDate& today) {

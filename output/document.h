@@ -7,6 +7,9 @@ namespace output {
 
 struct PrintableScreen;
 
+/// How a document for the printer begins: six empty lines, "The " and the title, the day, an empty line.
+[[nodiscard]] QString documentHead(const QString& title, const QDate& today);
+
 /// The text of a record for the printer: six empty lines, a title with the day, then every box and every check box.
 /// Lines end in CR LF, or in a CR alone where a box's own line ended; none is meant to pass column 85.
 [[nodiscard]] QString pageDocument(const PrintableScreen& screen, const QDate& today);

@@ -18,6 +18,14 @@ platform::FileRequest textFileRequest(const QString& folder) {
     return request;
 }
 
+platform::FileRequest pdfFileRequest(const QString& folder) {
+    platform::FileRequest request = saveRequest(folder);
+    request.filterText = u"PDF File (*.pdf)"_s;
+    request.filterPattern = u"*.pdf"_s;
+    request.suffix = u"pdf"_s;
+    return request;
+}
+
 void tellNoFileName(platform::Desktop& desktop) {
     desktop.notice(u"No filename was specified.  No file was saved."_s, u"No Filename"_s);
 }

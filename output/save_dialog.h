@@ -15,6 +15,9 @@ namespace output {
 /// The same, where text files alone are offered and their ending is added.
 [[nodiscard]] platform::FileRequest textFileRequest(const QString& folder);
 
+/// The same for a PDF file.
+[[nodiscard]] platform::FileRequest pdfFileRequest(const QString& folder);
+
 /// The box for a file dialog that was left without a name.
 void tellNoFileName(platform::Desktop& desktop);
 

@@ -4,7 +4,7 @@
 #include "output/printable_screen.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/text_control.h"
-#include "platform/print/print_device.h"
+#include "platform/print/device_in_use.h"
 #include "platform/print/printer.h"
 #include "screens/cover_page_print.h"
 #include "session/session.h"

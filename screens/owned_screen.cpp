@@ -18,7 +18,6 @@ namespace screens {
 
 namespace {
 constexpr int ownerShadow = 0;
-const QString ownerDeleted = u"Owner has been deleted."_s;
 }  // namespace
 
 OwnedScreen::OwnedScreen(platform::Desktop& desktop, session::Session& session, session::Workspace& workspace,
@@ -113,7 +112,7 @@ void OwnedScreen::showAfterAdd() {
     if (rsLookup().eof()) return;
     const QVariant name = rsLookup().value(u"LegalName"_s);
     if (name.isNull()) desktop().notice(u"Invalid name in database."_s);
-    showOwner(name.isNull() ? ownerDeleted : name.toString());
+    showOwner(session::ownerText(name.toString()));
 }
 
 void OwnedScreen::finishSave() {
@@ -150,8 +149,7 @@ void OwnedScreen::updateName() {
 
 QString OwnedScreen::lookUpName() {
     lookUp(u"Select LegalName from Person where ID = "_s + txtOwnerID_.text());
-    const QVariant name = rsLookup().eof() ? QVariant() : rsLookup().value(u"LegalName"_s);
-    return name.isNull() ? ownerDeleted : name.toString();
+    return session::ownerText(rsLookup().eof() ? QString() : rsLookup().value(u"LegalName"_s).toString());
 }
 
 void OwnedScreen::goFirst() {

@@ -41,6 +41,7 @@ WindowCommands DataWindow::commonCommands() {
     commands.restore = handler([this] { workspace_.restoreDatabase(); });
     commands.backup = handler([this] { workspace_.backupDatabase(); });
     commands.coverPage = handler([this] { workspace_.showCoverPage(); });
+    commands.familyBook = handler([this] { workspace_.showFamilyBook(); });
     commands.exit = handler([this] { workspace_.exitProgram(); });
     commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
     commands.cut = handler([this] { copySelection(*this, Copy::Cut); });

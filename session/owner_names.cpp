@@ -38,6 +38,19 @@ void showNoMatch(platform::Desktop& desktop, const QString& name) {
 
 }  // namespace
 
+std::vector<Member> familyMembers(data::Connection& connection) {
+    std::vector<Member> members;
+    data::Recordset rows;
+    rows.open(u"Select ID, LegalName from Person order by Seq, ID"_s, connection);
+    for (; !rows.eof(); rows.moveNext())
+        members.push_back({rows.value(u"ID"_s).toInt(), rows.value(u"LegalName"_s).toString()});
+    return members;
+}
+
+QString ownerText(const QString& legalName) {
+    return legalName.isNull() ? u"Owner has been deleted."_s : legalName;
+}
+
 void fillWithNames(platform::Desktop& desktop, data::Connection& connection, platform::ComboBox& combo) {
     desktop.attempt(u"InitComboBox Error"_s, [&] {
         combo.clearList();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <vector>
 
 namespace data {
 class Connection;
@@ -12,6 +13,17 @@ class Desktop;
 }  // namespace platform
 
 namespace session {
+
+struct Member {
+    int id = 0;
+    QString name{};  ///< the legal one; null for a member without
+};
+
+/// The members in the family's order.
+[[nodiscard]] std::vector<Member> familyMembers(data::Connection& connection);
+
+/// What stands for the owner of a record: his legal name, or that there is no such member any more for a null.
+[[nodiscard]] QString ownerText(const QString& legalName);
 
 /// Fills a combo with every member's name in the family's order, and stands on the first. A disabled one is only
 /// emptied. A failure is shown.

@@ -44,6 +44,10 @@ void showNoDataNoLogin(platform::Desktop& desktop) {
         u"Invalid Login"_s);
 }
 
+void showNoEntries(platform::Desktop& desktop, const QString& purpose) {
+    desktop.notice(u"There are no entries to %1."_s.arg(purpose), u"No Entries"_s);
+}
+
 bool canBeSecret(platform::Desktop& desktop, const QString& text, const QString& kind) {
     const auto foreign = platform::firstOutsideCodePage(text);
     if (foreign) showForeignCharacter(desktop, *foreign, u"in a "_s + kind);

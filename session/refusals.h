@@ -20,6 +20,8 @@ void showScreenChanges(platform::Desktop& desktop);
 void showInvalidLogin(platform::Desktop& desktop);
 /// A read-only session wants to see a category that holds nothing.
 void showNoDataNoLogin(platform::Desktop& desktop);
+/// There is nothing to put out or to change; `purpose` goes on from "There are no entries to ".
+void showNoEntries(platform::Desktop& desktop, const QString& purpose);
 /// A secret is kept in a code page of 256 characters. Tells of the first character that it doesn't have; `kind` says
 /// what was typed.
 [[nodiscard]] bool canBeSecret(platform::Desktop& desktop, const QString& text, const QString& kind);

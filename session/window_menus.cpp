@@ -64,6 +64,8 @@ void WindowMenus::makeFileMenu(QWidget& form, const WindowCommands& commands) {
     entry(*menu, u"mCoverPage"_s, u"Cover Page"_s, commands.coverPage);
     platform::addSeparator(*menu, u"Sep4"_s);
     entry(*menu, u"mExit"_s, u"Exit"_s, commands.exit);
+    platform::addSeparator(*menu, u"Sep5"_s);
+    entry(*menu, u"mFamilyBook"_s, u"Family Book..."_s, commands.familyBook);
     menus_.push_back(menu);
 }
 

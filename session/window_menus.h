@@ -23,7 +23,7 @@ struct ChildCommand {
 /// What the menus and the toolbar of a data window set off. An entry without a routine is there, but disabled; those of
 /// attachments and of all records are left out of a window that has none.
 struct WindowCommands {
-    std::function<void()> newDatabase, restore, backup, coverPage, exit;
+    std::function<void()> newDatabase, restore, backup, coverPage, exit, familyBook;
     std::function<void()> copy, cut, paste;
     std::function<void()> attachments, print, printAll, save, saveAll;
     std::function<void()> comingDates;

@@ -49,6 +49,8 @@ public:
     virtual void showComingDates() = 0;
     /// What the tree calls the category whose window shows a table's rows; empty for a table that none shows.
     [[nodiscard]] virtual QString categoryOf(const QString& table) const = 0;
+    /// Asks whose book is wanted, and prints or saves it.
+    virtual void showFamilyBook() = 0;
     /// Shows the files of the session's attachment key, and returns when the user has closed them.
     virtual void showAttachments(const QString& ownerName) = 0;
 

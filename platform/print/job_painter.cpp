@@ -135,26 +135,42 @@ void paintPage(QPainter& painter, const PrintedPage& page) {
 
 }  // namespace
 
-PageArea pageAreaOf(const QPagedPaintDevice& device) {
-    const QPageLayout layout = device.pageLayout();
-    const QRectF sheet = layout.fullRect(QPageLayout::Point);
-    const QRectF printable = layout.paintRect(QPageLayout::Point);
-    return {.width = sheet.width() * twipsPerPoint,
-            .height = sheet.height() * twipsPerPoint,
+PageArea areaOf(const QPageLayout& sheet) {
+    const QRectF whole = sheet.fullRect(QPageLayout::Point);
+    const QRectF printable = sheet.paintRect(QPageLayout::Point);
+    return {.width = whole.width() * twipsPerPoint,
+            .height = whole.height() * twipsPerPoint,
             .scaleWidth = printable.width() * twipsPerPoint,
             .scaleHeight = printable.height() * twipsPerPoint};
 }
 
-void paintJob(QPagedPaintDevice& device, const PrintJob& job) {
-    QPainter painter;
-    if (!painter.begin(&device)) throw RuntimeError(Error::NoPrinter);
+PageArea pageAreaOf(const QPagedPaintDevice& device) {
+    return areaOf(device.pageLayout());
+}
+
+JobPainter::JobPainter(QPagedPaintDevice& device) : device_(device), painter_(std::make_unique<QPainter>()) {
+    if (!painter_->begin(&device)) throw RuntimeError(Error::NoPrinter);
     const double scale = pageScale(pageAreaOf(device));
-    painter.scale(scale * device.logicalDpiX() / twipsPerInch, scale * device.logicalDpiY() / twipsPerInch);
-    for (std::size_t i = 0; i < job.size(); ++i) {
-        if (i > 0 && !device.newPage()) throw RuntimeError(Error::NoPrinter);
-        paintPage(painter, job[i]);
-    }
-    if (!painter.end()) throw RuntimeError(Error::NoPrinter);
+    painter_->scale(scale * device.logicalDpiX() / twipsPerInch, scale * device.logicalDpiY() / twipsPerInch);
+}
+
+JobPainter::~JobPainter() = default;
+
+void JobPainter::add(const PrintedPage& page) {
+    if (begun_ && !device_.newPage()) throw RuntimeError(Error::NoPrinter);
+    begun_ = true;
+    paintPage(*painter_, page);
+}
+
+void JobPainter::end() {
+    if (!painter_->end()) throw RuntimeError(Error::NoPrinter);
+}
+
+void paintJob(QPagedPaintDevice& device, const PrintJob& job) {
+    JobPainter painter(device);
+    for (const PrintedPage& page : job)
+        painter.add(page);
+    painter.end();
 }
 
 }  // namespace platform

@@ -1,6 +1,5 @@
 #include "platform/print/printer.h"
 
-#include <QStringList>
 #include <algorithm>
 #include <utility>
 
@@ -17,16 +16,16 @@ namespace {
 
 constexpr double usualSize = 10;
 
-QStringList linesOf(QString text) {
-    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-    return text.split(u'\n');
-}
-
 bool isBlank(const PrintedPage& page) {
     return std::ranges::all_of(page, [](const PrintedLine& line) { return line.text.trimmed().isEmpty(); });
 }
 
 }  // namespace
+
+QStringList printedLines(QString text) {
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    return text.split(u'\n');
+}
 
 Printer::Printer(PrintDevice& device, QString title) : device_(device), title_(std::move(title)), area_(device.page()) {
     const double scale = pageScale(area_);
@@ -42,7 +41,7 @@ double Printer::positionWidth() const {
 
 double Printer::textWidth(const QString& text) const {
     qsizetype longest = 0;
-    const QStringList lines = linesOf(text);
+    const QStringList lines = printedLines(text);
     for (const QString& line : lines)
         longest = std::max(longest, positionsOf(line));
     return static_cast<double>(longest) * positionWidth();
@@ -58,7 +57,7 @@ void Printer::goToTop() {
 }
 
 void Printer::print(const QString& text) {
-    const QStringList lines = linesOf(text);
+    const QStringList lines = printedLines(text);
     for (const QString& line : lines)
         printBeside({{x_, line}});
 }

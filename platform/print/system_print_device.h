@@ -15,6 +15,7 @@ public:
     [[nodiscard]] bool choose() override;
     [[nodiscard]] PageArea page() override;
     void send(const PrintJob& job, const QString& title) override;
+    [[nodiscard]] std::unique_ptr<JobPages> begin(const QString& title) override;
 
 private:
     [[nodiscard]] std::shared_ptr<QPrinter> printer() const;
