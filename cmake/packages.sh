@@ -18,5 +18,12 @@ buildPackages=(
   xvfb xauth        # a display for machines that have none
 )
 
+# To make the package.
+packagePackages=(
+  dpkg-dev file          # find what the program depends on
+  desktop-file-utils appstream lintian # validate
+  fakeroot               # installs into a folder in its test
+)
+
 # For .ci/run alone.
 checkPackages=(clang-format clang-tidy)

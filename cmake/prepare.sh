@@ -75,7 +75,10 @@ build() {
   (cd "$root" && cmake --build --preset "$preset" --target "$target" -- "${quiet[@]}") || fail "Building failed."
 }
 
-# layOut: the application folder Kinbook/.
+# layOut: the application folder Kinbook/, by the script that does it for a family who has the package.
 layOut() {
-  quietly "$root/build/install.log" cmake --install "$root/build" --prefix "$root/Kinbook" || fail "Laying out Kinbook/ failed."
+  local log=$root/build/install.log installed=$root/build/installed
+  : >"$log"
+  quietly "$log" cmake --install "$root/build" --prefix "$installed" &&
+    quietly "$log" "$installed/lib/kinbook/lay-out" "$root/Kinbook" || fail "Laying out Kinbook/ failed."
 }

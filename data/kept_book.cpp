@@ -41,11 +41,15 @@ QStringList namesIn(const QString& backups) {
 }
 
 QString freeName(const QString& backups) {
-    for (QDateTime at = platform::systemClock().now();; at = at.addSecs(1)) {
-        const QString name = u"Before_"_s + at.toString(u"yyyy-MM-dd_hhmmss"_s);
-        if (QDir(backups).entryList({name + u'*'}, QDir::AllEntries | QDir::Hidden | QDir::System).isEmpty())
-            return name;
-    }
+    const QDir folder(backups);
+    const auto nameAt = [](const QDateTime& moment) { return u"Before_"_s + moment.toString(u"yyyy-MM-dd_hhmmss"_s); };
+    const auto isBorne = [&](const QString& name) {
+        return !folder.entryList({name + u'*'}, QDir::AllEntries | QDir::Hidden | QDir::System).isEmpty();
+    };
+    QDateTime moment = platform::systemClock().now();
+    while (isBorne(nameAt(moment)))
+        moment = moment.addSecs(1);
+    return nameAt(moment);
 }
 
 /// Under a name that a later run deletes, should this one die: what is half deleted must not pass for a backup's.

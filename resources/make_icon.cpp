@@ -1,7 +1,9 @@
 // make_icon IN.svg OUT.ico: draws a picture in every size that a desktop asks for and packs them into one icon file.
+// make_icon IN.svg SIZE.png...: draws it into files of one size each, which their names tell.
 #include <QBuffer>
 #include <QDataStream>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -61,16 +63,27 @@ QByteArray iconFile(QSvgRenderer& picture) {
     return file;
 }
 
+/// The bytes of a picture file of that name.
+QByteArray fileFor(const QFileInfo& target, QSvgRenderer& picture) {
+    return target.suffix() == u"png"_s ? drawn(picture, target.baseName().toInt()) : iconFile(picture);
+}
+
+bool make(const QString& target, QSvgRenderer& picture) {
+    const QByteArray bytes = fileFor(QFileInfo(target), picture);
+    QFile file(target);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fputs("Usage: make_icon IN.svg OUT.ico\n", stderr);
+    if (argc < 3) {
+        std::fputs("Usage: make_icon IN.svg OUT.ico | make_icon IN.svg SIZE.png...\n", stderr);
         return 2;
     }
     QSvgRenderer picture(QString::fromLocal8Bit(argv[1]));
-    QFile target(QString::fromLocal8Bit(argv[2]));
-    if (!picture.isValid() || !target.open(QIODevice::WriteOnly)) return 1;
-    const QByteArray icon = iconFile(picture);
-    return target.write(icon) == icon.size() && target.flush() ? 0 : 1;
+    if (!picture.isValid()) return 1;
+    for (int i = 2; i < argc; ++i)
+        if (!make(QString::fromLocal8Bit(argv[i]), picture)) return 1;
+    return 0;
 }
