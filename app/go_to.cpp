@@ -1,20 +1,18 @@
 #include "app/go_to.h"
 
-#include <QScopeGuard>
-#include <algorithm>
-
 #include "app/dispatch.h"
 #include "app/family_selector.h"
 #include "app/host_panel.h"
-#include "app/host_rows.h"
 #include "app/open_windows.h"
 #include "app/shown_rows.h"
+#include "data/tables.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/form_window.h"
 #include "platform/forms/mdi_frame.h"
 #include "platform/forms/tree_view.h"
 #include "screens/record_screen.h"
 #include "session/data_window.h"
+#include "session/record_locator.h"
 #include "session/refusals.h"
 #include "session/session.h"
 
@@ -22,26 +20,11 @@ using namespace Qt::StringLiterals;
 
 namespace app {
 
-namespace {
-
-/// The window in which a row of the table shows; nullptr for none.
-const session::ShownRows* shownIn(const QString& table, const data::Recordset& row) {
-    const auto all = shownRows();
-    const auto shown = std::ranges::find_if(all, [&](const session::ShownRows& rows) {
-        if (rows.table->name.compare(table, Qt::CaseInsensitive) != 0) return false;
-        return rows.typeColumn.isEmpty() || row.value(rows.typeColumn).toInt() == rows.type;
-    });
-    return shown == all.end() ? nullptr : &*shown;
-}
-
-}  // namespace
-
-GoTo::GoTo(platform::Desktop& desktop, HostPanel& panel, session::Session& session, HostRows& rows,
-           OpenWindows& windows, FamilySelector& selector, Dispatch& dispatch)
+GoTo::GoTo(platform::Desktop& desktop, HostPanel& panel, session::Session& session, OpenWindows& windows,
+           FamilySelector& selector, Dispatch& dispatch)
     : desktop_(desktop),
       panel_(panel),
       session_(session),
-      rows_(rows),
       windows_(windows),
       selector_(selector),
       dispatch_(dispatch) {}
@@ -54,7 +37,8 @@ bool GoTo::goTo(const session::Place& place) {
 
 bool GoTo::reach(const session::Place& place) {
     if (!admits()) return false;
-    const std::optional<Target> target = locate(place);
+    session::RecordLocator locator(session_.gConnection, shownRows());
+    const std::optional<session::Location> target = locator.locate(data::table(place.table), place.record);
     if (!target) {
         tellGone();
         return false;
@@ -90,29 +74,7 @@ void GoTo::tellGone() {
     desktop_.notice(u"This record isn't there any more."_s, u"No Such Record"_s);
 }
 
-// Where it stands --------------------------------------------------------------------------------------------------
-
-std::optional<GoTo::Target> GoTo::locate(const session::Place& place) {
-    const auto lookUp = [this](const QString& table, qint64 record) -> data::Recordset& {
-        return rows_.select(u"SELECT * from %1 where ID = %2"_s.arg(table).arg(record));
-    };
-    data::Recordset& row = lookUp(place.table, place.record);
-    // Left open it would hold the file.
-    const auto close = qScopeGuard([&] { row.release(); });
-    const session::ShownRows* shown = row.eof() ? nullptr : shownIn(place.table, row);
-    if (!shown) return {};
-    Target target{.shown = shown};
-    if (shown->areMembers()) target.member = static_cast<qint16>(place.record);
-    if (shown->siteTable) {
-        target.site = row.value(u"ParentID"_s).toLongLong();
-        // The one look-up goes on to the site.
-        if (lookUp(shown->siteTable->name, target.site).eof()) return {};
-    }
-    if (shown->haveOwners() || shown->siteTable) target.member = static_cast<qint16>(row.value(u"PersonID"_s).toInt());
-    return target;
-}
-
-bool GoTo::select(const session::Place& place, const Target& target) {
+bool GoTo::select(const session::Place& place, const session::Location& target) {
     const bool isCounted = place.attachedUnder == 0 || place.attachedUnder == session_.gPersonID;
     if (selector_.shows(target.member) && isCounted) return true;
     const bool showsThere = target.member == 0 || target.member == place.attachedUnder;

@@ -14,6 +14,7 @@
 #include "app/tree_pictures.h"
 #include "attachments/attach_dialog.h"
 #include "book/family_book_dialog.h"
+#include "find/find_dialog.h"
 #include "lists/coming_dates.h"
 #include "platform/base/files.h"
 #include "platform/forms/combo_box.h"
@@ -25,6 +26,7 @@
 #include "platform/forms/tree_view.h"
 #include "session/data_window.h"
 #include "session/session.h"
+#include "session/window_menus.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +41,7 @@ MDIHost::MDIHost(platform::Desktop& desktop, session::Session& session)
       categories_(panel_->tvTree(), session, rows_),
       selector_(*panel_, desktop, session, rows_, windows_, categories_),
       dispatch_(panel_->tvTree(), desktop, session, categories_, selector_, windows_),
-      road_(desktop, *panel_, session, rows_, windows_, selector_, dispatch_),
+      road_(desktop, *panel_, session, windows_, selector_, dispatch_),
       database_(desktop, session, selector_, windows_) {
     desktop.setHost(this);
     setPanel(*panel_);
@@ -70,6 +72,7 @@ void MDIHost::makeMenus() {
     platform::addSeparator(*file, u"Sep4"_s);
     platform::addEntry(*file, u"mExit"_s, u"Exit"_s, handler([this] { closeHost(); }));
     platform::addSeparator(*file, u"Sep5"_s);
+    session::addFind(*file, handler([this] { showFind(); }));
     platform::addEntry(*file, u"mComing"_s, u"Coming Dates..."_s, handler([this] { showComingDates(); }));
     platform::addEntry(*file, u"mFamilyBook"_s, u"Family Book..."_s, handler([this] { showFamilyBook(); }));
     addMenu(file);
@@ -171,6 +174,15 @@ void MDIHost::showFamilyBook() {
 
 void MDIHost::showAttachments(const QString& ownerName) {
     desktop().load(std::make_unique<attachments::AttachDialog>(desktop(), session_, ownerName)).showModal();
+}
+
+void MDIHost::showFind() {
+    const qint16 member = session_.gbWholeFamily ? qint16{0} : session_.gPersonID;
+    auto& dialog = desktop().load(
+        std::make_unique<find::FindDialog>(desktop(), session_.gConnection, shownRows(), member, sought_));
+    dialog.showModal();
+    sought_ = dialog.sought();
+    if (const std::optional<session::Place> place = dialog.chosen()) goTo(*place);
 }
 
 void MDIHost::showHelp() {

@@ -53,6 +53,7 @@ public:
     void newDatabase() override { database_.newDB(); }
     void restoreDatabase() override { database_.openDB(); }
     void backupDatabase() override { database_.backupDB(); }
+    void showFind() override;
     bool goTo(const session::Place& place) override { return road_.goTo(place); }
     void showHelp() override;
     void showAbout() override;
@@ -75,6 +76,8 @@ private:
     FamilySelector selector_;
     Dispatch dispatch_;
     GoTo road_;
+    /// What was looked for last.
+    QString sought_;
     DatabaseCommands database_;
     std::unique_ptr<HelpViewer> help_;
 };

@@ -1,6 +1,5 @@
 #include "app/shown_rows.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 
 #include "app/category_nodes.h"
@@ -45,7 +44,8 @@ ShownRows rowsOf(const lists::ListDefinition& list, const QString& category) {
             .category = category,
             .table = &table,
             .columns = readable(table.columns),
-            .attachmentPrefix = list.attachmentPrefix.isEmpty() ? QString() : list.attachmentPrefix + u'_'};
+            .attachmentPrefix = list.attachmentPrefix.isEmpty() ? QString() : list.attachmentPrefix + u'_',
+            .inGrid = true};
 }
 
 void addChildren(std::vector<ShownRows>& all, const screens::ScreenDefinition& site, const QString& category) {
@@ -85,20 +85,6 @@ std::vector<ShownRows> gather() {
 std::span<const ShownRows> shownRows() {
     static const std::vector<ShownRows> all = gather();
     return all;
-}
-
-std::optional<session::Place> placeOfAttachment(const QString& key) {
-    static const QRegularExpression shape(u"^([A-Za-z]+_)(\\d+)_(\\d+)$"_s);
-    const QRegularExpressionMatch parts = shape.match(key);
-    const auto all = shownRows();
-    const auto rows = std::ranges::find(all, parts.captured(1), &ShownRows::attachmentPrefix);
-    if (!parts.hasMatch() || rows == all.end()) return {};
-    const qint64 first = parts.captured(2).toLongLong();
-    const qint64 last = parts.captured(3).toLongLong();
-    const bool ofList = lists::listDefinition(rows->window) != nullptr;
-    session::Place place{.table = rows->table->name, .record = ofList || rows->areMembers() ? first : last};
-    if (!ofList) place.attachedUnder = static_cast<qint16>(first);
-    return place;
 }
 
 }  // namespace app

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QString>
-#include <optional>
 #include <span>
 
-#include "session/place.h"
 #include "session/shown_rows.h"
 
 namespace app {
@@ -13,8 +10,5 @@ namespace app {
 /// site's children stand behind it, the cover page at the end. The lists of passwords are left out: what stands in them
 /// is nobody's to find.
 [[nodiscard]] std::span<const session::ShownRows> shownRows();
-
-/// The record to which a file with that attachment key is attached; nullopt for a key that no window makes.
-[[nodiscard]] std::optional<session::Place> placeOfAttachment(const QString& key);
 
 }  // namespace app

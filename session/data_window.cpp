@@ -46,6 +46,7 @@ WindowCommands DataWindow::commonCommands() {
     commands.copy = handler([this] { copySelection(*this, Copy::Keep); });
     commands.cut = handler([this] { copySelection(*this, Copy::Cut); });
     commands.paste = handler([this] { pasteSelection(*this); });
+    commands.find = handler([this] { workspace_.showFind(); });
     commands.comingDates = handler([this] { workspace_.showComingDates(); });
     commands.help = handler([this] { workspace_.showHelp(); });
     commands.about = handler([this] { workspace_.showAbout(); });

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <optional>
+#include <span>
 #include <vector>
 
 #include "data/table_definition.h"
+#include "session/place.h"
 
 namespace session {
 
@@ -18,6 +21,7 @@ struct ShownRows {
     QLatin1StringView typeColumn{};
     int type = 0;
     QString attachmentPrefix{};
+    bool inGrid = false;  ///< the window is a list, whose attachment keys begin with the record's number
     /// The window and table of the sites that the rows hang on; empty for rows that hang on none.
     QString siteWindow{};
     const data::Table* siteTable = nullptr;
@@ -29,5 +33,8 @@ struct ShownRows {
         return table->keys == data::Keys::Owner || table->keys == data::Keys::OwnerAndDoctor;
     }
 };
+
+/// The record to which a file with that attachment key is attached; nullopt for a key that no window makes.
+[[nodiscard]] std::optional<Place> placeOfAttachment(std::span<const ShownRows> all, const QString& key);
 
 }  // namespace session

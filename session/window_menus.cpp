@@ -23,6 +23,10 @@ void entry(QMenu& menu, const QString& name, const QString& caption, const std::
 
 }  // namespace
 
+void addFind(QMenu& menu, const std::function<void()>& routine) {
+    platform::addEntry(menu, u"mFind"_s, u"Find..."_s, routine)->setShortcut(QKeySequence::Find);
+}
+
 WindowMenus::WindowMenus(QWidget& form, const WindowCommands& commands) : toolbar_(new QToolBar(&form)) {
     makeFileMenu(form, commands);
     makeEditMenu(form, commands);
@@ -74,6 +78,8 @@ void WindowMenus::makeEditMenu(QWidget& form, const WindowCommands& commands) {
     entry(*menu, u"mCopy"_s, u"Copy"_s, commands.copy);
     entry(*menu, u"mCut"_s, u"Cut"_s, commands.cut);
     entry(*menu, u"mPaste"_s, u"Paste"_s, commands.paste);
+    platform::addSeparator(*menu, u"Sep6"_s);
+    addFind(*menu, commands.find);
     menus_.push_back(menu);
 }
 

@@ -24,7 +24,7 @@ struct ChildCommand {
 /// attachments and of all records are left out of a window that has none.
 struct WindowCommands {
     std::function<void()> newDatabase, restore, backup, coverPage, exit, familyBook;
-    std::function<void()> copy, cut, paste;
+    std::function<void()> copy, cut, paste, find;
     std::function<void()> attachments, print, printAll, save, saveAll;
     std::function<void()> comingDates;
     std::function<void()> help, about;
@@ -33,6 +33,9 @@ struct WindowCommands {
     bool hasAllRecords = true;
     QLatin1StringView saveAllHint{};  ///< tooltip of the key that saves all records
 };
+
+/// The entry that looks through the whole book, with its shortcut.
+void addFind(QMenu& menu, const std::function<void()>& routine);
 
 /// The menus and the toolbar of a data window; a key of the toolbar and its menu entry set off the same routine.
 class WindowMenus {

@@ -64,6 +64,9 @@ public:
     virtual void showHelp() = 0;
     virtual void showAbout() = 0;
 
+    /// Looks for what the user types in the whole book, and goes to what he opens. It may close every window, as goTo()
+    /// does.
+    virtual void showFind() = 0;
     /// Goes to a record, to the field that the place names: by the click on the tree that opens its window, behind the
     /// choice in the family selector without which the window wouldn't show it. False when one of these was refused,
     /// which the user has been told, or when the record isn't there any more. A choice closes every window but the

@@ -203,7 +203,7 @@ TEST_F(GoTo, AnAttachmentIsSoughtWhereItsKeyHasIt) {
         {{}, {}},
     };
     for (const Case& row : cases) {
-        const std::optional<session::Place> place = app::placeOfAttachment(row.key);
+        const std::optional<session::Place> place = session::placeOfAttachment(app::shownRows(), row.key);
         const QString told =
             place ? u"%1 %2 %3"_s.arg(place->table).arg(place->record).arg(place->attachedUnder) : QString();
         EXPECT_EQ(told, row.place) << qPrintable(row.key);
@@ -212,7 +212,7 @@ TEST_F(GoTo, AnAttachmentIsSoughtWhereItsKeyHasIt) {
     exec(u"INSERT INTO Attachments (BugNum, SeqNum, FileName) VALUES ('Doc_2_1', 1, 'Doc_2_1_0.txt')"_s);
     user.start();
     user.pick(selector, u"Ann Larkin"_s);
-    go(*app::placeOfAttachment(u"Doc_2_1"_s));
+    go(*session::placeOfAttachment(app::shownRows(), u"Doc_2_1"_s));
     EXPECT_TRUE(arrived());
     EXPECT_EQ(activeWindow() + status() + user.text(selector), u"frmDoctorsRecord: 2 of 2Bob Larkin"_s);
     EXPECT_EQ(user.text(u"lblAttachments"_s), u"Attachments:  1"_s);
