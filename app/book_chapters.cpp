@@ -22,7 +22,7 @@ bool isKnown(const std::vector<Chapter>& chapters, const CategoryNode& node) {
 std::vector<Chapter> categories() {
     std::vector<Chapter> chapters;
     // The level of what stands below a node; the root is no heading.
-    std::map<QLatin1StringView, int> below;
+    std::map<QString, int> below;
     for (const CategoryNode& node : categoryNodes()) {
         const int level = node.parent.isEmpty() ? -1 : below[node.parent];
         below[node.key] = level + 1;
