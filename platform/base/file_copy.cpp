@@ -5,7 +5,10 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
+#include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "platform/base/file_errors.h"
 #include "platform/base/file_replacement.h"
@@ -101,26 +104,72 @@ struct CopyOptions {
     FileReplacement::Flush flush = FileReplacement::Flush::Now;
 };
 
-/// Copies one file, and gives the folder that is to be synced before the copy is lasting.
-QString copyUnsynced(const QString& source, const QString& target, const CopyOptions& options = {}) {
+/// Makes a whole copy, which is still to be placed.
+std::unique_ptr<FileReplacement> makeCopy(const QString& source, const QString& target,
+                                          const CopyOptions& options = {}) {
     const SourceFile from(source);
     if (from.isSameAs(target)) throw RuntimeError(Error::PermissionDenied);
-    FileReplacement to(target);
-    const unsigned mode = options.mode.value_or(from.mode() & to.usualMode());
+    auto to = std::make_unique<FileReplacement>(target);
+    const unsigned mode = options.mode.value_or(from.mode() & to->usualMode());
     // Nobody else reads in the copy while it is made; what is made read-only may still be finished.
     constexpr unsigned ownersAlone = 0600;
-    to.setMode(ownersAlone);
-    ContentCopy(from, to).run();
-    if (options.finish) options.finish(to.path());
-    to.setMode(mode);
-    to.place(options.flush);
-    return to.folder();
+    to->setMode(ownersAlone);
+    ContentCopy(from, *to).run();
+    if (options.finish) options.finish(to->path());
+    to->setMode(mode);
+    return to;
 }
 
-/// Each file is on the disk before it bears its name, so that a power cut leaves none of the right name torn.
+/// Copies one file, and gives the folder that is to be synced before the copy is lasting.
+QString copyUnsynced(const QString& source, const QString& target, const CopyOptions& options = {}) {
+    const auto copy = makeCopy(source, target, options);
+    copy->place(options.flush);
+    return copy->folder();
+}
+
+/// Copies of several files, placed together. The first flush takes most of the others' data to the disk along: hundreds
+/// of files take a fraction of the time that they take with a wait at each. Each is on the disk before it bears its
+/// name, so that a power cut leaves none of the right name torn.
+class Batch {
+public:
+    void add(const QString& source, const QString& target) {
+        copies_.push_back(makeCopy(source, target));
+        if (copies_.size() >= mostOpenFiles) place();
+    }
+    /// Places those that reach the disk, also when one doesn't; throws for that one behind the others.
+    void place() {
+        std::optional<RuntimeError> failure;
+        for (auto& copy : copies_) {
+            try {
+                copy->flush();
+            } catch (const RuntimeError& error) {
+                if (!failure) failure = error;
+                copy.reset();
+            }
+        }
+        for (const auto& copy : std::exchange(copies_, {})) {
+            if (copy) copy->place(FileReplacement::Flush::Later);
+        }
+        if (failure) throw RuntimeError(*failure);
+    }
+
+private:
+    static constexpr std::size_t mostOpenFiles = 128;
+
+    std::vector<std::unique_ptr<FileReplacement>> copies_;
+};
+
 void copyFiles(const QStringList& names, const QString& folder, const QString& targetFolder) {
-    for (const QString& name : names)
-        copyUnsynced(join(folder, name), join(targetFolder, name));
+    Batch batch;
+    try {
+        for (const QString& name : names)
+            batch.add(join(folder, name), join(targetFolder, name));
+    } catch (const RuntimeError&) {
+        // The files before the one that failed are there.
+        batch.place();
+        throw;
+    }
+    batch.place();
     syncFolder(targetFolder);
 }
 

@@ -70,8 +70,12 @@ void FileReplacement::keepMode() {
     if (::stat(target_.constData(), &old) == 0) setMode(old.st_mode & 0777);
 }
 
-void FileReplacement::place(Flush flush) {
-    if (flush == Flush::Now && ::fsync(descriptor_) != 0) throwSystemError(errno, Error::PathNotFound);
+void FileReplacement::flush() {
+    if (::fsync(descriptor_) != 0) throwSystemError(errno, Error::PathNotFound);
+}
+
+void FileReplacement::place(Flush when) {
+    if (when == Flush::Now) flush();
     if (::rename(temporary_.constData(), target_.constData()) != 0) throwSystemError(errno, Error::PathNotFound);
     temporary_.clear();
 }

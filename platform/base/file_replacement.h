@@ -30,10 +30,12 @@ public:
     void setMode(unsigned mode);
     /// Gives the file the permission bits of the one that it replaces, if there is one.
     void keepMode();
+    /// Waits until the file is on the disk; error 57 for a failing device.
+    void flush();
     enum class Flush { Now, Later };
     /// Flushes the file to the disk, unless that comes later, and renames it over the target. The new name is lasting
     /// after syncFolder().
-    void place(Flush flush = Flush::Now);
+    void place(Flush when = Flush::Now);
 
 private:
     QString folder_;
