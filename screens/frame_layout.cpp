@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QStyleOptionGroupBox>
+#include <QStylePainter>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -29,9 +30,12 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return layout()->totalMinimumSize(); }
 
 protected:
-    void initStyleOption(QStyleOptionGroupBox* option) const override {
-        QGroupBox::initStyleOption(option);
-        option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, width(), Qt::TextShowMnemonic);
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QStylePainter painter(this);
+        QStyleOptionGroupBox option;
+        initStyleOption(&option);
+        option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, width(), Qt::TextShowMnemonic);
+        painter.drawComplexControl(QStyle::CC_GroupBox, option);
     }
 };
 

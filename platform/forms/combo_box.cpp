@@ -21,7 +21,7 @@
 namespace platform {
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), line_(new LineEdit(this)) {
-    setEditable(true);
+    // This makes it editable, without a line of the toolkit's that would go at once, and a list that nobody opens.
     setLineEdit(line_);
     setCompleter(nullptr);
     setInsertPolicy(QComboBox::NoInsert);
