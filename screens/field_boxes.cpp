@@ -26,12 +26,6 @@ bool isInCombo(const FieldBoxes::Text& text) {
     return text.column && text.column->shownIn != data::ShownIn::Box;
 }
 
-/// The box that stands behind a combo is never met, by the keyboard or by a screen reader.
-void hideShadow(QWidget& box) {
-    box.hide();
-    box.setFocusPolicy(Qt::NoFocus);
-}
-
 }  // namespace
 
 FieldBoxes::FieldBoxes(QWidget& form, const ScreenDefinition& definition, OwnerBox owner)
@@ -70,8 +64,7 @@ void FieldBoxes::makeOwner(QWidget& form, OwnerBox owner) {
     owner_->setName(indexedName(u"cbFields"_s, 0));
     owner_->setSpokenName(text.label->text());
     owner_->setLocked(true);
-    hideShadow(text.box->widget());
-    text.label->setBuddy(owner_);
+    putOver(text, *owner_);
 }
 
 void FieldBoxes::makeText(QWidget& form, int index, const data::Column& column) {
@@ -107,9 +100,16 @@ void FieldBoxes::makeCombo(QWidget& form, int shadow) {
     combo.box->setCompletes(text.column->shownIn == data::ShownIn::StateCombo);
     combo.box->setSpokenName(text.label->text());
     combo.binding = std::make_unique<platform::Binding>(*combo.box, text.column->name, QString(), true);
-    hideShadow(text.box->widget());
-    text.label->setBuddy(combo.box);
+    putOver(text, *combo.box);
     combos_.push_back(std::move(combo));
+}
+
+void FieldBoxes::putOver(const Text& shadow, platform::ComboBox& combo) {
+    QWidget& box = shadow.box->widget();
+    box.hide();
+    box.setFocusPolicy(Qt::NoFocus);
+    shadow.box->holdDisplay();
+    shadow.label->setBuddy(&combo);
 }
 
 QString FieldBoxes::label(int index) const {
@@ -213,8 +213,9 @@ void FieldBoxes::holdDisplay() {
 }
 
 void FieldBoxes::showHeld() {
-    for (const auto& [index, text] : texts_)
-        text.box->showHeld();
+    for (const auto& [index, text] : texts_) {
+        if (!comboOver(index)) text.box->showHeld();
+    }
     for (const Combo& combo : combos_)
         combo.box->showHeld();
     if (owner_) owner_->showHeld();

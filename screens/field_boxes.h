@@ -97,6 +97,9 @@ private:
     void makeOwner(QWidget& form, OwnerBox owner);
     void makeCheck(QWidget& form, const data::Column& column);
     void makeCombo(QWidget& form, int shadow);
+    /// The combo stands in the place of a box, which goes on holding the text and is never met, on screen, by the
+    /// keyboard or by a screen reader.
+    static void putOver(const Text& shadow, platform::ComboBox& combo);
 
     const ScreenDefinition& definition_;
     std::vector<data::Column> fields_;

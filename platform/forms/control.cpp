@@ -27,12 +27,6 @@ QString Control::name() {
     return widget().objectName();
 }
 
-bool Control::allowsLeaving() {
-    const bool passes = !validate_ || validate_();
-    if (passes) checkDue_ = false;
-    return passes;
-}
-
 Control* Control::of(QWidget* widget) {
     for (; widget; widget = widget->parentWidget()) {
         if (auto* control = dynamic_cast<Control*>(widget)) return control;

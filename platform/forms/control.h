@@ -31,17 +31,13 @@ public:
     [[nodiscard]] QString name();
     void setValidate(Validate validate) { validate_ = std::move(validate); }
     /// Runs the check.
-    [[nodiscard]] bool allowsLeaving();
-    /// It has had the focus and hasn't passed its check since: another window can take the focus without one.
-    [[nodiscard]] bool isCheckDue() const { return checkDue_; }
-    void setCheckDue(bool due) { checkDue_ = due && validate_; }
+    [[nodiscard]] bool allowsLeaving() const { return !validate_ || validate_(); }
 
     /// The control that a widget belongs to: itself or the nearest one around it; nullptr for none.
     [[nodiscard]] static Control* of(QWidget* widget);
 
 private:
     Validate validate_;
-    bool checkDue_ = false;
 };
 
 /// Tab stops at the widget when it is in sight.

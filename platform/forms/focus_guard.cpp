@@ -51,6 +51,12 @@ Qt::Key keyOf(const QKeyEvent& event) {
     return static_cast<Qt::Key>(event.key());
 }
 
+void focusCame(QWidget* widget) {
+    Control* control = Control::of(widget);
+    Form* form = Form::of(widget);
+    if (control && form) form->setCheckDue(*control);
+}
+
 /// Shift, Ctrl and Alt; that a key stands on the number pad is nothing to a form.
 Qt::KeyboardModifiers heldWith(const QKeyEvent& event) {
     return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
@@ -93,7 +99,7 @@ bool FocusGuard::eventFilter(QObject* receiver, QEvent* event) {
         }
         case QEvent::FocusIn:
             if (!receiver->isWidgetType()) return false;
-            if (Control* control = Control::of(static_cast<QWidget*>(receiver))) control->setCheckDue(true);
+            focusCame(static_cast<QWidget*>(receiver));
             return false;
         case QEvent::InputMethod:
             if (receiver == QApplication::focusWidget())
@@ -175,7 +181,7 @@ bool FocusGuard::mayLeave(Form& form, const Control* target) {
     if (!active || active == target || validating_ || Form::of(&active->widget()) != &form) return true;
     bool allowed = true;
     validating_ = true;
-    forms_.run([&] { allowed = active->allowsLeaving(); });
+    forms_.run([&] { allowed = form.passesCheck(*active); });
     validating_ = false;
     return allowed;
 }

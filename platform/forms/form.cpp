@@ -1,6 +1,7 @@
 #include "platform/forms/form.h"
 
 #include <QWidget>
+#include <algorithm>
 
 #include "platform/forms/control.h"
 #include "platform/forms/long_text.h"
@@ -69,28 +70,32 @@ Control* Form::activeControl() {
     return Control::of(window().focusWidget());
 }
 
-std::vector<Control*> Form::controlsToCheck() {
-    std::vector<Control*> due;
-    for (QWidget* widget : window().findChildren<QWidget*>()) {
-        auto* control = dynamic_cast<Control*>(widget);
-        if (control && control->isCheckDue() && Form::of(widget) == this) due.push_back(control);
-    }
-    return due;
+void Form::setCheckDue(Control& control) {
+    const bool isDue = std::ranges::find(due_, &control.widget(), &QPointer<QWidget>::data) != due_.end();
+    if (!isDue) due_.emplace_back(&control.widget());
+}
+
+bool Form::passesCheck(Control& control) {
+    const bool passes = control.allowsLeaving();
+    if (passes) std::erase(due_, &control.widget());
+    return passes;
 }
 
 bool Form::passesChecks() {
-    for (Control* control : controlsToCheck()) {
-        if (control->allowsLeaving()) continue;
-        control->widget().setFocus();
+    // A check may show a box, and the focus go elsewhere behind it.
+    const auto due = due_;
+    for (const QPointer<QWidget>& widget : due) {
+        Control* control = Control::of(widget);
+        if (!control || passesCheck(*control)) continue;
+        widget->setFocus();
         return false;
     }
     return true;
 }
 
 void Form::forgetChecks() {
-    const Control* active = activeControl();
-    for (Control* control : controlsToCheck())
-        control->setCheckDue(control == active);
+    Control* active = activeControl();
+    std::erase_if(due_, [active](QWidget* widget) { return !active || widget != &active->widget(); });
 }
 
 std::function<void()> Form::handler(std::function<void()> routine) {

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 #include <functional>
 #include <vector>
 
 class QMenu;
-class QWidget;
 
 namespace platform {
 
@@ -61,6 +62,10 @@ public:
     [[nodiscard]] Control* control(const QString& name);
     /// The control that has the form's focus; nullptr if none has.
     [[nodiscard]] Control* activeControl();
+    /// A control has the focus. Its check is due from now on, also behind a focus that another window took without one.
+    void setCheckDue(Control& control);
+    /// Runs the check of one of the form's controls; false to hold the focus.
+    [[nodiscard]] bool passesCheck(Control& control);
     /// Runs every check that is due; false, with the focus in its control, at the first that fails.
     [[nodiscard]] bool passesChecks();
     /// What stands in the controls is none of the user's entries any more; the active one is checked when it is left.
@@ -91,12 +96,11 @@ protected:
 
 private:
     friend class Desktop;
-    [[nodiscard]] std::vector<Control*> controlsToCheck();
-
     FormHolder& holder_;
     QString name_;
     QString caption_;
     std::vector<QMenu*> menus_;
+    std::vector<QPointer<QWidget>> due_;  ///< those with a check to pass, as the focus came to them
     bool loaded_ = false;
 };
 
