@@ -13,15 +13,11 @@
 #include "data/schema.h"
 #include "data/tables.h"
 #include "platform/base/files.h"
-#include "platform/base/runtime_error.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
 
 namespace data {
-
-using platform::Error;
-using platform::RuntimeError;
 
 namespace {
 

@@ -5,19 +5,16 @@
 
 #include "data/book_check.h"
 #include "data/kept_book.h"
+#include "data/provider_error.h"
 #include "platform/base/file_identity.h"
 #include "platform/base/file_replacement.h"
 #include "platform/base/files.h"
 #include "platform/base/folder_entries.h"
-#include "platform/base/runtime_error.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
 
 namespace data {
-
-using platform::Error;
-using platform::RuntimeError;
 
 namespace {
 

@@ -7,6 +7,7 @@
 
 #include "data/engine_files.h"
 #include "data/open_file.h"
+#include "data/provider_error.h"
 #include "data/row_changes.h"
 #include "platform/base/files.h"
 
@@ -14,9 +15,6 @@ using namespace Qt::StringLiterals;
 namespace files = platform::files;
 
 namespace data {
-
-using platform::Error;
-using platform::RuntimeError;
 
 namespace {
 

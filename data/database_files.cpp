@@ -1,17 +1,14 @@
 #include "data/database_files.h"
 
+#include "data/provider_error.h"
 #include "platform/base/conversions.h"
 #include "platform/base/file_identity.h"
 #include "platform/base/files.h"
-#include "platform/base/runtime_error.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
 
 namespace data {
-
-using platform::Error;
-using platform::RuntimeError;
 
 QString companionFolder(const QString& databasePath) {
     const qsizetype nameAt = databasePath.lastIndexOf(files::separator()) + 1;

@@ -12,9 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace data {
 
-using platform::Error;
-using platform::RuntimeError;
-
 namespace {
 
 RuntimeError fullDisk() {

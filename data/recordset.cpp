@@ -9,6 +9,7 @@
 #include "data/file_text.h"
 #include "data/keyed_rows.h"
 #include "data/open_file.h"
+#include "data/provider_error.h"
 #include "data/row_position.h"
 #include "data/row_stream.h"
 #include "data/sql_dialect.h"
@@ -18,8 +19,6 @@ using namespace Qt::StringLiterals;
 namespace data {
 
 using platform::ColumnKind;
-using platform::Error;
-using platform::RuntimeError;
 
 namespace {
 

@@ -2,12 +2,9 @@
 
 #include <algorithm>
 
-#include "platform/base/runtime_error.h"
+#include "data/provider_error.h"
 
 namespace data {
-
-using platform::Error;
-using platform::RuntimeError;
 
 RowPosition::RowPosition(int rows) : rows_(rows), bof_(rows == 0), eof_(rows == 0) {}
 

@@ -149,10 +149,6 @@ bool ComboBox::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-void ComboBox::select(int start, int length) {
-    lineEdit()->setSelection(start, length);
-}
-
 void ComboBox::selectAll() {
     line_->selectAllFromStart();
 }

@@ -44,7 +44,6 @@ public:
     void setCompletes(bool completes) { completes_ = completes; }
     /// Only its entries can be chosen from here on, and nothing typed: a click anywhere in it opens the list.
     void setListOnly();
-    void select(int start, int length);
     void selectAll();
     [[nodiscard]] int selStart() const;
     [[nodiscard]] int selLength() const;

@@ -15,8 +15,7 @@ protected:
         addMembers({u"Ann Larkin"_s, u"Bob"_s});
         exec(u"INSERT INTO AssetLiquidation (Seq, Asset) VALUES (1, 'A')"_s);
         exec(u"INSERT INTO WhoGetsWhat (Item) VALUES ('Clock')"_s);
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+        startFor(u"Ann Larkin"_s);
     }
     [[nodiscard]] QByteArray book() const {
         QFile file(path(u"FamilyInfo.mdb"_s));

@@ -30,10 +30,7 @@ protected:
         addMembers({u"Ann Larkin"_s});
     }
 
-    void startWithAnn() {
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
-    }
+    void startWithAnn() { startFor(u"Ann Larkin"_s); }
     void backUp(const QString& target) {
         user.menu(u"mBackup"_s);
         user.choose(target);

@@ -60,7 +60,7 @@ TEST_F(Help, ItsOwnerCountsAsAFormButNotAsADataWindow) {
     user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
     EXPECT_EQ(forms(), (QStringList{u"MDIHost"_s, u"frmKinbook"_s}));
     // Two forms again, but one of them has something to lose.
-    user.fill(u"txtFields(0)"_s, u"Ann"_s);
+    user.fill(u"Legal Name:"_s, u"Ann"_s);
     user.close();
     EXPECT_EQ(boxTitle(), u"Close Confirmation"_s);
     user.answer(u"No"_s);

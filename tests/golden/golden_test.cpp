@@ -30,10 +30,7 @@ class GoldenListing : public support::Household {
 protected:
     GoldenListing() { exec(u"INSERT INTO Person (LegalName, Seq, Sex) VALUES ('', 1, 'F')"_s); }
 
-    void startFamily() {
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, wholeFamily);
-    }
+    void startFamily() { startFor(wholeFamily); }
 
     /// A message box's title and text, with the caption that it quotes left open; it is answered.
     QString takeBox(const QString& button = u"OK"_s) {

@@ -28,7 +28,7 @@ class NodesListing : public support::Household {
 protected:
     NodesListing() { addMembers({u"Ann"_s, u"Bob"_s}); }
 
-    void startFor(const QString& selection) {
+    void startWith(const QString& selection) {
         user.start();
         choose(selection);
         const QJsonArray all = user.tree()["nodes"_L1].toArray();
@@ -129,7 +129,7 @@ protected:
 }  // namespace
 
 TEST_F(NodesListing, PicturesGoByTheListedTables) {
-    startFor(u"Whole Family"_s);
+    startWith(u"Whole Family"_s);
     QMap<QString, QString> pictured{{u"Birth"_s, lit().contains(u"Birth"_s) ? u"Person"_s : QString()}};
     const QSet<QString> atFirst = lit();
     for (const QString& table : categoryTables()) {
@@ -176,7 +176,7 @@ TEST_F(NodesListing, ClicksOpenAndCountWhatIsListed) {
     writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
     for (const QString& table : categoryTables())
         addRow(table, 1);
-    startFor(u"Ann"_s);
+    startWith(u"Ann"_s);
     const QStringList pictures = listed(u"nodes"_s);
     QStringList seen;
     for (const Node& node : nodes_) {

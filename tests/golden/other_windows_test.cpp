@@ -95,8 +95,7 @@ TEST_F(OtherWindows, ListsAndTheirDialogs) {
     exec(u"INSERT INTO WhoGetsWhat (Item) VALUES ('Ring')"_s);
     exec(u"INSERT INTO MedicalLog (PersonID) VALUES (1)"_s);
     exec(u"INSERT INTO PIN_Password (PersonID, Seq, Account, Encrypted) VALUES (1, 1, 'Bank', 'PT')"_s);
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    startFor(u"Whole Family"_s);
     // The list stands in the host's own menu, which shows when no window is open.
     user.click(u"cmdClose"_s);
     user.menu(u"mFamilySequence"_s);
@@ -120,8 +119,7 @@ TEST_F(OtherWindows, ComingDates) {
 
 TEST_F(OtherWindows, DialogsOfTheSecurityCategory) {
     addMembers({u"Ann"_s});
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Ann"_s);
+    startFor(u"Ann"_s);
     for (const QString& node : {u"LogIn"_s, u"ChangeMainPassword"_s, u"ChangePINPassword"_s, u"PINsPasswords"_s}) {
         openNode(node);
         tellDialog();
@@ -130,8 +128,7 @@ TEST_F(OtherWindows, DialogsOfTheSecurityCategory) {
 
 TEST_F(OtherWindows, AttachmentDialog) {
     addMembers({u"Ann"_s});
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Ann"_s);
+    startFor(u"Ann"_s);
     user.tool(u"tbAttach"_s);
     QStringList seen{titleOfForm()};
     const QJsonArray controls = user.form()["controls"_L1].toArray();

@@ -13,8 +13,7 @@ class AttachedList : public support::Household {
 protected:
     void open(const QString& node, const QString& selection = u"Whole Family"_s) {
         addMembers({u"Ann Larkin"_s, u"Bob O'Brien"_s});
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, selection);
+        startFor(selection);
         openNode(node);
     }
     void addDoctors() { exec(u"INSERT INTO Doctors (Name) VALUES ('Hale'), ('O''Neil')"_s); }

@@ -148,8 +148,7 @@ TEST_F(ComingDatesWindow, CountsAmongTheTenWindows) {
 }
 
 TEST_F(ComingDatesWindow, UnsavedChangesComeFirst) {
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    startFor(u"Whole Family"_s);
     openNode(u"CDs"_s);
     user.fill(u"txtFields(1)"_s, u"New Bank"_s);
     user.menu(u"mComing"_s);

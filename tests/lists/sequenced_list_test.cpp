@@ -16,8 +16,7 @@ class SequencedList : public support::Household {
 protected:
     void open(const QString& node = u"AssetLiquidation"_s) {
         addMembers({u"Ann Larkin"_s, u"Bob"_s});
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+        startFor(u"Ann Larkin"_s);
         openNode(node);
     }
     void addRows(int count) {

@@ -25,8 +25,7 @@ class RecordOutput : public support::Household {
 protected:
     void startWith(const QStringList& members) {
         addMembers(members);
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+        startFor(u"Whole Family"_s);
     }
     QString saved(const QString& name) {
         QFile file(path(name));
@@ -177,8 +176,7 @@ TEST_F(RecordOutput, AScreenWithAnOwnerAddsNoEndingToTheName) {
     addMembers({u"Ann Larkin"_s});
     exec(u"INSERT INTO HomeOwned (PersonID, Description, State) VALUES (1, 'Cabin', 'Vermont')"_s);
     exec(u"INSERT INTO HomeOwned (PersonID, Description) VALUES (1, 'Flat')"_s);
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    startFor(u"Whole Family"_s);
     openNode(u"Home"_s);
     ASSERT_EQ(status(), u"Record: 1 of 2"_s);
     user.tool(u"tbSaveAll"_s);

@@ -17,8 +17,7 @@ protected:
             for (const QString& place : {u"Elm"_s, u"Oak"_s})
                 exec(u"INSERT INTO %1 (PersonID, Description) VALUES (1, '%2')"_s.arg(table, place));
         }
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+        startFor(u"Ann Larkin"_s);
     }
     QString caption() { return user.form()["caption"_L1].toString(); }
 };

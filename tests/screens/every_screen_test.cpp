@@ -93,8 +93,7 @@ protected:
 
 TEST_F(EveryScreen, KeepsEveryFieldAndSavesWhatItShows) {
     addMembers({u"Ann Larkin"_s});
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+    startFor(u"Ann Larkin"_s);
     QSet<QString> played;
     for (const app::CategoryNode& node : app::categoryNodes()) {
         const QString key(node.key);

@@ -13,8 +13,7 @@ class OwnedScreen : public support::Household {
 protected:
     void openFor(const QStringList& members, const QString& selection, const QString& node) {
         addMembers(members);
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, selection);
+        startFor(selection);
         openNode(node);
     }
     /// A record with a text in one box, saved from an add that is already under way.
@@ -199,8 +198,7 @@ TEST_F(OwnedScreen, AnOwnerWithoutANameIsSaidToBeDeletedAndStaysTheOwner) {
 TEST_F(OwnedScreen, NothingIsSavedWithoutAnOwner) {
     addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s});
     exec(u"UPDATE Person SET LegalName = NULL WHERE ID = 2"_s);
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Whole Family"_s);
+    startFor(u"Whole Family"_s);
     // The name on show is proposed, and the second member has none.
     user.click(u"cmdNext"_s);
     openNode(u"Education"_s);
@@ -252,13 +250,12 @@ TEST_F(OwnedScreen, InAReadOnlySessionRowsAreSeenAndNothingIsChanged) {
     addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s});
     exec(u"INSERT INTO Employers (PersonID, Employer) VALUES (1, 'Mill')"_s);
     writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
-    user.start();
-    user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+    startFor(u"Ann Larkin"_s);
     openNode(u"Taxes"_s);
     EXPECT_EQ(dismissBox(), u"Invalid Login"_s);
     openNode(u"Employment"_s);
-    EXPECT_TRUE(user.control(u"txtFields(1)"_s)["locked"_L1].toBool());
-    EXPECT_FALSE(user.control(u"chkFields(0)"_s)["enabled"_L1].toBool());
+    EXPECT_TRUE(user.control(u"Employer:"_s)["locked"_L1].toBool());
+    EXPECT_FALSE(user.control(u"Current"_s)["enabled"_L1].toBool());
     for (const QString& button : {u"cmdAdd"_s, u"cmdEdit"_s, u"cmdDelete"_s}) {
         user.click(button);
         EXPECT_EQ(dismissBox(), u"Invalid Login"_s);

@@ -15,8 +15,7 @@ protected:
         for (const QString& name : names)
             exec(u"INSERT INTO Doctors (Name, State) VALUES ('%1', 'Ohio')"_s.arg(name));
         addMembers({u"Ann Larkin"_s});
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+        startFor(u"Ann Larkin"_s);
     }
     QStringList listed() { return user.control(u"cbSelect"_s)["items"_L1].toVariant().toStringList(); }
 };

@@ -21,8 +21,7 @@ protected:
         writeFile(u"SplashDef.txt"_s, "CompanyName=A=B\r\nPhone= 1 \r\nSplash=1\r\nValue=" + enciphered + "\r\n");
         addMembers({u"Ann Larkin"_s});
         exec(u"INSERT INTO HomeOwned (PersonID) VALUES (1)"_s);
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+        startFor(u"Ann Larkin"_s);
     }
     void changeTo(const QString& password, const QString& old, const QString& confirmation) {
         openNode(u"ChangeMainPassword"_s);
@@ -90,8 +89,7 @@ TEST_F(MainPassword, AChangeRewritesTheDefinitionFileAndLogsIn) {
         EXPECT_TRUE(definition().startsWith("CompanyName=A=B\r\nNameFontSize=\r\nProductName=\r\n"));
         EXPECT_TRUE(definition().endsWith("Phone= 1 \r\nSupportPhone=\r\nValue=" + sample.stored + "\r\n"));
         user.close();
-        user.start();
-        user.pick(u"MDIHost.cbPerson"_s, u"Ann Larkin"_s);
+        startFor(u"Ann Larkin"_s);
         old = sample.password;
     }
 }

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QMenu>
@@ -43,12 +44,13 @@ bool isInner(const QWidget& widget) {
     return qobject_cast<const QComboBox*>(widget.parentWidget()) != nullptr;
 }
 
-/// The controls that labels of this text lead to.
+/// The controls that labels of this text lead to, and the check boxes that bear it themselves.
 std::vector<QWidget*> labelled(const std::vector<QWidget*>& controls, const QString& text) {
     std::vector<QWidget*> found;
-    for (const QWidget* control : controls) {
+    for (QWidget* control : controls) {
         const auto* label = qobject_cast<const QLabel*>(control);
         if (label && label->buddy() && label->text() == text) found.push_back(label->buddy());
+        if (auto* box = qobject_cast<QCheckBox*>(control); box && box->text() == text) found.push_back(box);
     }
     return found;
 }

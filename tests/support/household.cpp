@@ -56,6 +56,11 @@ void Household::addMembers(const QStringList& legalNames) const {
     }
 }
 
+void Household::startFor(const QString& selection) {
+    user.start();
+    user.pick(u"MDIHost.cbPerson"_s, selection);
+}
+
 QString Household::dismissBox() {
     const QString title = boxTitle();
     user.answer(u"OK"_s);

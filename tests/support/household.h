@@ -28,6 +28,9 @@ protected:
     /// Adds members in the order of the family.
     void addMembers(const QStringList& legalNames) const;
 
+    /// Starts the program and selects a member, or the whole family.
+    void startFor(const QString& selection);
+
     /// Title of the open box; empty if none is open.
     [[nodiscard]] QString boxTitle() { return user.dialog()[QLatin1StringView("title")].toString(); }
     [[nodiscard]] QString boxText() { return user.dialog()[QLatin1StringView("text")].toString(); }
