@@ -19,6 +19,10 @@ void CommandButton::addKey(const QKeySequence& key) {
     grabShortcut(key);
 }
 
+bool CommandButton::answersTo(const QKeySequence& key) const {
+    return !key.isEmpty() && (key == shortcut() || key == key_) && isVisible() && isEnabled();
+}
+
 bool CommandButton::event(QEvent* event) {
     if (event->type() == QEvent::Shortcut && isEnabled()) {
         const bool byKey = static_cast<QShortcutEvent*>(event)->key() == key_;

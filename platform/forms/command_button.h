@@ -22,6 +22,8 @@ public:
     void press();
     /// A key that clicks it while it shows, besides its accelerator; the focus stays where it is.
     void addKey(const QKeySequence& key);
+    /// True if it shows and the key is its accelerator or the one besides.
+    [[nodiscard]] bool answersTo(const QKeySequence& key) const;
 
 protected:
     bool event(QEvent* event) override;

@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -67,16 +68,24 @@ bool pressesButton(const QKeyEvent& event) {
     return event.key() == Qt::Key_Space && qobject_cast<CommandButton*>(QApplication::focusWidget());
 }
 
-/// The button of the child in front that has the accelerator; nullptr if none has.
-CommandButton* buttonWith(const QKeySequence& key, const QMenuBar& host) {
-    const auto* area = host.window()->findChild<QMdiArea*>();
+/// A command, and where nothing answers to it no text either, which the box would make of it.
+bool isLetterWithAlt(const QKeyEvent& event) {
+    const bool alt = event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier);
+    return alt && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+/// Clicks the button of the host's child in front that the key belongs to; false if none shows.
+bool pressButton(const QWidget& host, const QKeySequence& key) {
+    const auto* area = host.findChild<QMdiArea*>();
     const QMdiSubWindow* front = area ? area->currentSubWindow() : nullptr;
-    if (!front) return nullptr;
+    if (!front) return false;
     const auto buttons = front->findChildren<CommandButton*>();
-    const auto found = std::ranges::find_if(buttons, [&](const CommandButton* button) {
-        return button->shortcut() == key && button->isVisible() && button->isEnabled();
-    });
-    return found == buttons.end() ? nullptr : *found;
+    const auto pressed =
+        std::ranges::find_if(buttons, [&](const CommandButton* button) { return button->answersTo(key); });
+    if (pressed == buttons.end()) return false;
+    QShortcutEvent shortcut(key, 0);
+    QApplication::sendEvent(*pressed, &shortcut);
+    return true;
 }
 
 }  // namespace
@@ -124,6 +133,10 @@ bool FocusGuard::keyPressed(Form& form, QKeyEvent& event) {
     const auto gone = [&] { return !window || !form.isLoaded(); };
     // A Tab that moves the focus is no key of the form.
     if (isTab(event)) return !mayLeave(form, nullptr);
+    // Keys of the child in front reach it by themselves only while it has the focus.
+    const auto* host = qobject_cast<QMainWindow*>(&form.window());
+    if (host && pressButton(*host, QKeySequence(event.keyCombination()))) return true;
+    if (isLetterWithAlt(event)) return true;
     if (form.keyPreview()) {
         bool usedUp = false;
         forms_.run([&] { usedUp = form.Form_KeyDown(keyOf(event), heldWith(event)); });
@@ -159,14 +172,9 @@ bool FocusGuard::mousePressed(QObject* receiver, QMouseEvent& event) {
 }
 
 bool FocusGuard::accelerator(QObject* receiver, const QShortcutEvent& event) {
-    if (const auto* bar = qobject_cast<QMenuBar*>(receiver); bar && event.isAmbiguous()) {
-        // The two would take turns. F10 and Alt lead to the menu, only its letter to the button.
-        CommandButton* button = buttonWith(event.key(), *bar);
-        if (!button) return false;
-        QShortcutEvent own(event.key(), 0);
-        QApplication::sendEvent(button, &own);
-        return true;
-    }
+    // A letter that a menu and a button have is the button's: F10 and Alt lead to the menu, only its letter to the
+    // button.
+    if (const auto* bar = qobject_cast<QMenuBar*>(receiver)) return pressButton(*bar->window(), event.key());
     auto* widget = qobject_cast<QWidget*>(receiver);
     if (!widget) return false;
     if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy()) widget = label->buddy();

@@ -1,5 +1,6 @@
 #include "platform/forms/mdi_frame.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -73,10 +74,10 @@ void MdiFrame::show() {
     // The records keep half of a small window.
     const int panel = std::min(panel_ ? panel_->sizeHint().width() : 0, width() / 2);
     centre_->setSizes({panel, width() - panel});
-    // What has the focus is seen from the start, before a key was pressed.
-    setAttribute(Qt::WA_KeyboardFocusChange);
     QMainWindow::show();
     activateWindow();
+    // What has the focus is seen from the start, before a key was pressed.
+    setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 Form* MdiFrame::activeForm() const {

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <algorithm>
 #include <chrono>
 #include <thread>
 
@@ -32,6 +34,16 @@ protected:
     }
     /// Longer than the arrows rest on a node before it opens.
     static void rest() { std::this_thread::sleep_for(std::chrono::milliseconds(900)); }
+    /// Across the left edge of the button that stands alone at the first start; 0 if all there is grey.
+    int mostColourLeftOfFirstButton() {
+        const QString picture = path(u"start.png"_s);
+        user.shot(picture);
+        const QImage shown(picture);
+        int most = 0;
+        for (int x = 0; x < 30; ++x)
+            most = std::max(most, shown.pixelColor(x, 48).hslSaturation());
+        return most;
+    }
     void keys(const QStringList& names) {
         for (const QString& name : names)
             user.key(name);
@@ -111,10 +123,11 @@ TEST_F(Keyboard, ACommandIsNoTyping) {
     EXPECT_EQ(boxTitle(), QString());
     EXPECT_EQ(status(), u"Record: 3 of 3"_s);
     user.click(u"txtFields(1)"_s);
-    keys({u"Ctrl+S"_s, u"Ctrl+A"_s, u"Ctrl+C"_s, u"F6"_s, u"Shift+F6"_s, u"Ctrl+Up"_s});
+    keys({u"Ctrl+S"_s, u"Ctrl+A"_s, u"Alt+Q"_s, u"Ctrl+C"_s, u"F6"_s, u"Shift+F6"_s, u"Ctrl+Up"_s});
     EXPECT_EQ(boxTitle(), QString());
     EXPECT_EQ(status(), u"Record: 1 of 3"_s);
     user.click(u"txtFields(1)"_s);
+    EXPECT_EQ(user.text(u"txtFields(1)"_s), u"one"_s) << "a letter with Alt types nothing where no button has it";
     user.key(u"Ctrl+V"_s);
     user.key(u"Down"_s);
     EXPECT_EQ(dismissBox(), u"Screen Changes"_s) << "to paste is typing";
@@ -148,6 +161,7 @@ TEST_F(Keyboard, SaveAndAddHaveKeysWhereTheyShow) {
 TEST_F(Keyboard, EnterPressesTheButtonThatHasTheFocus) {
     user.start();
     EXPECT_EQ(focus(), u"cmdAddNew"_s);
+    EXPECT_GT(mostColourLeftOfFirstButton(), 100) << "its ring shows";
     user.key(u"Return"_s);
     EXPECT_EQ(status(), u"Add record"_s);
     user.type(u"Ann Larkin"_s);
@@ -244,6 +258,26 @@ TEST_F(Keyboard, TheTreeOpensANodeByEnterOrAfterAPauseAndKeepsItsLetters) {
     user.key(u"Shift+F6"_s);
     user.key(u"Return"_s);
     EXPECT_NE(focus(), u"tvTree"_s);
+}
+
+TEST_F(Keyboard, TheButtonsOfTheRecordHaveTheirKeysFromTheTreeToo) {
+    addMembers({u"Ann Larkin"_s});
+    exec(u"INSERT INTO Taxes (PersonID, Company) VALUES (1, 'one')"_s);
+    openFor(u"Ann Larkin"_s, u"Taxes"_s);
+    user.click(u"txtFields(1)"_s);
+    user.key(u"Shift+F6"_s);
+    user.key(u"Alt+E"_s);
+    EXPECT_EQ(status(), u"Edit record"_s) << "the letter is the button's, not the menu's";
+    user.type(u"two"_s);
+    for (const QString& stop : {u"tvTree"_s, u"cbPerson"_s}) {
+        keys(stop == u"tvTree"_s ? QStringList{u"Shift+F6"_s} : QStringList{u"Alt+E"_s, u"F6"_s});
+        ASSERT_EQ(focus(), stop);
+        user.key(u"Ctrl+S"_s);
+        EXPECT_EQ(status(), u"Record: 1 of 1"_s);
+    }
+    EXPECT_EQ(cell(u"SELECT Company FROM Taxes"_s), u"two"_s);
+    user.key(u"Alt+L"_s);
+    EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
 }
 
 TEST_F(Keyboard, TabStaysInFrontAndF6GoesRound) {
