@@ -168,7 +168,7 @@ bool Kinbook::restoreMissingDatabase(const QString& lack) {
         u"When you restore a database, the current database will be destroyed.  If, for some reason, you are wanting "
         "to restore a database and not lose the current database, you must backup the current database before "
         "continuing this restore function.\r\n\r\nDo you want to continue?"_s,
-        u"Restore Database Confirmation"_s);
+        u"Restore Database Confirmation"_s, platform::Buttons::NoYes);
     if (!goesOn) return false;
     // The dialog belongs to the splash window, which is loaded again for it but not shown.
     [[maybe_unused]] const SplashWindow& holder = splash();

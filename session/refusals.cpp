@@ -15,7 +15,7 @@ bool closeConfirm(platform::Desktop& desktop, const Session& session, bool& bCha
         "click the Edit button and then the Save button before \r\n"
         "closing this window.\r\n\r\n"
         "Do you want to close this window?"_s,
-        u"Close Confirmation"_s);
+        u"Close Confirmation"_s, platform::Buttons::NoYes);
     if (closes) bChange = false;
     return closes;
 }

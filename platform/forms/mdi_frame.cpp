@@ -1,6 +1,5 @@
 #include "platform/forms/mdi_frame.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>

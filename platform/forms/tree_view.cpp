@@ -1,5 +1,6 @@
 #include "platform/forms/tree_view.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -157,12 +158,16 @@ int TreeView::previous(int index) const {
 }
 
 void TreeView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space) {
+    const bool inName = event->key() == Qt::Key_Space && sinceLetter_.isValid() &&
+                        !sinceLetter_.hasExpired(QApplication::keyboardInputInterval());
+    const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enters || (event->key() == Qt::Key_Space && !inName)) {
         clickCurrent();
         return;
     }
     const QTreeWidgetItem* before = currentItem();
     QTreeWidget::keyPressEvent(event);
+    if (!event->text().isEmpty()) sinceLetter_.start();
     if (currentItem() == before) return;
     // Letters that look for a node open none: the next one would be typed into what came up.
     if (event->text().isEmpty()) {

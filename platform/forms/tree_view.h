@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QTreeWidget>
 #include <functional>
@@ -82,6 +83,8 @@ private:
     std::function<void(int)> clicked_;
     std::function<void()> toggled_;
     QTimer rest_;
+    /// Since the last letter of a name that is looked for: a blank soon after it belongs to the name.
+    QElapsedTimer sinceLetter_;
 };
 
 }  // namespace platform

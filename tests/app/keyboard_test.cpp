@@ -193,6 +193,14 @@ TEST_F(Keyboard, AQuestionThatDestroysIsAnsweredNoByEnterAndByEsc) {
             user.key(key);
             EXPECT_EQ(boxTitle(), QString());
         }
+        // To close is to drop what was typed.
+        openNode(u"Taxes"_s);
+        user.fill(u"txtFields(1)"_s, u"typed"_s);
+        user.key(u"Escape"_s);
+        EXPECT_EQ(boxTitle(), u"Close Confirmation"_s);
+        user.key(key);
+        EXPECT_EQ(user.text(u"txtFields(1)"_s), u"typed"_s);
+        keys({u"Alt+E"_s, u"Alt+C"_s});
         EXPECT_EQ(cell(u"SELECT (SELECT Count(*) FROM Taxes) + (SELECT Count(*) FROM AssetLiquidation)"_s), u"2"_s);
     }
 }
@@ -236,6 +244,7 @@ TEST_F(Keyboard, TheTreeOpensANodeByEnterOrAfterAPauseAndKeepsItsLetters) {
     EXPECT_EQ(focus(), u"tvTree"_s);
     EXPECT_FALSE(forms().contains(u"frmParents"_s)) << "letters open nothing";
     for (const QString& key : {u"Return"_s, u"Space"_s}) {
+        rest();
         user.key(key);
         EXPECT_EQ(activeWindow(), u"frmParents"_s);
         EXPECT_NE(focus(), u"tvTree"_s);
@@ -245,6 +254,12 @@ TEST_F(Keyboard, TheTreeOpensANodeByEnterOrAfterAPauseAndKeepsItsLetters) {
         rest();
         user.type(u"Pare"_s);
     }
+    rest();
+    user.type(u"Medical I"_s);
+    EXPECT_EQ(currentNode(), u"Medical Information"_s) << "a blank within a name opens nothing";
+    EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
+    rest();
+    user.type(u"Pare"_s);
     user.key(u"Down"_s);
     EXPECT_EQ(activeWindow(), u"frmKinbook"_s) << "nothing opens while the arrows go on";
     user.key(u"Up"_s);
