@@ -130,10 +130,10 @@ void BookSearch::addFields(Source& source, quint16 shown) const {
 
 std::vector<BookSearch::Source> BookSearch::makeSources() const {
     std::vector<Source> sources;
-    for (quint16 i = 0; i < all_.size(); ++i) {
+    for (std::size_t i = 0; i < all_.size(); ++i) {
         const session::ShownRows& shown = all_[i];
         Source& source = sourceOf(sources, shown);
-        addFields(source, i);
+        addFields(source, static_cast<quint16>(i));
         const QString type = shown.typeColumn.isEmpty() ? u"0"_s : QString(shown.typeColumn);
         source.statement = u"SELECT ID, %1, %2, \"%3\" FROM \"%4\""_s.arg(
             ownerColumn(shown), type, source.columns.join(u"\", \""_s), shown.table->name);

@@ -1,5 +1,6 @@
 #include "find/folding.h"
 
+#include <QList>
 #include <array>
 #include <cstring>
 #include <memory>
@@ -30,7 +31,7 @@ public:
     /// Writes what the character folds to, where there is room for the longest; gives its length.
     std::size_t write(char32_t character, char* to) {
         // The letters of a text come from one page, nearly all of them.
-        if (const char32_t number = character >> pageBits; number != lastNumber_) turnTo(number);
+        if (const char32_t number = character >> pageBits; !lastPage_ || number != lastNumber_) turnTo(number);
         Fold& fold = (*lastPage_)[character & (pageSize - 1)];
         if (fold.length == unknown) find(character, fold);
         if (fold.length == isLong) return foldedCharacter(character).toStdString().copy(to, longest);

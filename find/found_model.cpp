@@ -30,12 +30,12 @@ const Hit& FoundModel::hit(int row) const {
     return search_.others().at(static_cast<std::size_t>(row - first_));
 }
 
-const QStringList& FoundModel::texts(int row) const {
+QStringList FoundModel::texts(int row) const {
     if (const QStringList* seen = seen_.object(row)) return *seen;
     const Finding finding = search_.finding(hit(row));
-    auto* texts = new QStringList{finding.category, finding.member, finding.field, finding.text};
-    seen_.insert(row, texts);
-    return *texts;
+    QStringList texts{finding.category, finding.member, finding.field, finding.text};
+    seen_.insert(row, new QStringList(texts));
+    return texts;
 }
 
 int FoundModel::rowCount(const QModelIndex& parent) const {

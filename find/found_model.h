@@ -29,7 +29,7 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    [[nodiscard]] const QStringList& texts(int row) const;
+    [[nodiscard]] QStringList texts(int row) const;
 
     BookSearch& search_;
     int first_ = 0;

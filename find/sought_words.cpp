@@ -69,7 +69,7 @@ bool mayHaveDigits(double value, int decimals, std::string_view sought) {
     constexpr std::array powers{1.0, 10.0, 100.0, 1000.0, 10000.0};
     if (decimals < 0 || decimals >= static_cast<int>(powers.size())) return true;
     const double scaled = std::abs(value) * powers.at(static_cast<std::size_t>(decimals));
-    const auto whole = scaled < mostDigits ? static_cast<qint64>(scaled + 0.5) : 0;
+    const auto whole = scaled < mostDigits ? qint64{std::llround(scaled)} : 0;
     if (scaled >= mostDigits || std::abs(scaled - static_cast<double>(whole)) > 1e-6) return true;
     // Ahead of the decimals there is one more digit at least.
     std::array<char, 32> digits{};
