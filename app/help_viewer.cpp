@@ -64,6 +64,7 @@ void HelpViewer::layOut() {
     connect(forward, &QAction::triggered, page_, &QTextBrowser::forward);
     bar->addSeparator();
     search_->setPlaceholderText(u"Search"_s);
+    search_->setAccessibleName(search_->placeholderText());
     search_->setClearButtonEnabled(true);
     search_->setMaximumWidth(260);
     bar->addWidget(search_);
@@ -84,8 +85,11 @@ void HelpViewer::layOut() {
     notFound_ = bar->addWidget(new QLabel(u"Not found"_s, this));
     notFound_->setVisible(false);
 
+    contents_->setAccessibleName(u"Contents"_s);
+    contents_->setHeaderLabel(contents_->accessibleName());
     contents_->setHeaderHidden(true);
     contents_->header()->setStretchLastSection(false);
+    page_->setAccessibleName(windowTitle());
     page_->setOpenLinks(true);
     page_->document()->setDocumentMargin(16);
     split_->addWidget(contents_);

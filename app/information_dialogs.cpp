@@ -68,6 +68,7 @@ CategoryListHelp::CategoryListHelp(platform::Desktop& desktop)
     setCaption(u"Category List Help"_s);
     auto* text = new platform::MemoBox(this);
     text->setName(u"Text1"_s);
+    text->setSpokenName(caption());
     text->setLocked(true);
     text->setText(categoryTips);
     auto* column = new QVBoxLayout(this);

@@ -26,4 +26,8 @@ packagePackages=(
 )
 
 # For .ci/run alone.
-checkPackages=(clang-format clang-tidy)
+checkPackages=(
+  clang-format clang-tidy
+  at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi # what a screen reader asks the windows with
+  openbox                                              # gives the keyboard from a dialog back to its host
+)
