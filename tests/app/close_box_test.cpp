@@ -46,6 +46,8 @@ TEST_F(CloseBox, LeavesEveryDialogAsIfNothingHadBeen) {
         {u"frmChangePassword"_s, {}, node(u"ChangeMainPassword"_s)},
         {u"frmChangePINPassword"_s, {}, node(u"ChangePINPassword"_s)},
         {u"frmLoginPIN"_s, {}, node(u"PINsPasswords"_s)},
+        {u"frmFind"_s, {}, menu(u"mFind"_s)},
+        {u"frmFamilyBook"_s, {}, menu(u"mFamilyBook"_s)},
         {u"frmAttach"_s, {}, tool(u"tbAttach"_s)},
         {u"FileDialog"_s, {}, tool(u"tbSave"_s), u"No Filename"_s},
         {u"FileDialog"_s, {}, tool(u"tbSaveAll"_s), u"No File Name"_s},
@@ -83,6 +85,19 @@ TEST_F(CloseBox, LeavesTheOrderOfTheFamilyAsItWas) {
     user.dismiss();
     EXPECT_EQ(activeWindow(), u"frmFamilySequence"_s);
     EXPECT_EQ(cell(u"SELECT group_concat(Seq) FROM (SELECT Seq FROM Person ORDER BY ID)"_s), u"1,2"_s);
+}
+
+TEST_F(CloseBox, OfAnAccountKeepsNoneOfItsSecrets) {
+    start();
+    openNode(u"PINsPasswords"_s);
+    user.click(u"cmdOK"_s);
+    user.click(u"cmdAdd"_s);
+    ASSERT_EQ(dialogName(), u"frmPinsAndPassEdit"_s);
+    user.fill(u"txtAccount"_s, u"Bank"_s);
+    user.fill(u"txtPINPass"_s, u"4711"_s);
+    user.dismiss();
+    EXPECT_EQ(activeWindow(), u"frmPinsAndPasswords"_s);
+    EXPECT_EQ(cell(u"SELECT count(*) FROM PIN_Password"_s), u"0"_s);
 }
 
 TEST_F(CloseBox, TheDescriptionsInputBoxIsLeftWithoutADescription) {
