@@ -11,14 +11,12 @@ class StatusLine;
 class StatusAccessible : public QAccessibleWidget {
 public:
     explicit StatusAccessible(StatusLine& line);
+    ~StatusAccessible() override;
 
     [[nodiscard]] int childCount() const override { return 1; }
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
     [[nodiscard]] QString text(QAccessible::Text what) const override;
-
-protected:
-    ~StatusAccessible() override;
 
 private:
     StatusLine& line_;
