@@ -16,9 +16,7 @@ class KeyedRows;
 class HeldRows {
 public:
     virtual void letGo() = 0;
-
-protected:
-    ~HeldRows() = default;
+    virtual ~HeldRows() = default;
 };
 
 /// What a connection and the rows that are read through it share. Only `data` looks inside.
