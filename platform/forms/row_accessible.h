@@ -80,6 +80,7 @@ private:
 class RowAccessible : public TablePart {
 public:
     using TablePart::TablePart;
+    ~RowAccessible() override;
 
     [[nodiscard]] QAccessibleInterface* parent() const override { return &owner().account; }
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
@@ -89,9 +90,6 @@ public:
     [[nodiscard]] QRect rect() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Row; }
     [[nodiscard]] QAccessible::State state() const override;
-
-protected:
-    ~RowAccessible() override;
 
 private:
     mutable QHash<int, QAccessible::Id> cells_;

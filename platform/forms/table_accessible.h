@@ -13,6 +13,7 @@ namespace platform {
 class TableAccessible : public QAccessibleWidget, public QAccessibleTableInterface {
 public:
     TableAccessible(QAbstractItemView& view, const QHeaderView& header);
+    ~TableAccessible() override;
 
     void* interface_cast(QAccessible::InterfaceType type) override;
     [[nodiscard]] int childCount() const override { return rowCount(); }
@@ -45,9 +46,6 @@ public:
     bool unselectRow(int /*row*/) override { return false; }
     bool unselectColumn(int /*column*/) override { return false; }
     void modelChange(QAccessibleTableModelChangeEvent* event) override;
-
-protected:
-    ~TableAccessible() override;
 
 private:
     void forgetRows();
