@@ -19,7 +19,7 @@ class RowScan final : private HeldRows {
 public:
     /// `statement` in SQLite's own spelling. Throws the provider's errors.
     RowScan(Connection& connection, const QString& statement);
-    virtual ~RowScan();
+    ~RowScan() override;
     RowScan(const RowScan&) = delete;
     RowScan& operator=(const RowScan&) = delete;
 
