@@ -9,12 +9,12 @@ buildPackages=(
   libgl-dev         # Qt's own CMake files ask for it
   libicu-dev        # what each character is; Qt's own library needs it too
   libcups2-dev      # what a print queue answers
-  libqpdf-dev       # gives a finished PDF file its bookmarks
   libglib2.0-dev    # opens a file with the desktop's program; Qt's own packages run on it
   libsqlite3-dev libsqlitecpp-dev
   breeze-icon-theme # toolbar pictures
   fonts-liberation  # the type-writer font of the documents, and any font at all on a bare machine
   libgtest-dev libbenchmark-dev
+  poppler-utils     # read a PDF file in the tests as somebody else would
   xvfb xauth        # a display for machines that have none
 )
 

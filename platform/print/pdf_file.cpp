@@ -46,10 +46,7 @@ QFile& opened(QFile& file, int descriptor) {
 }  // namespace
 
 PdfFile::PdfFile(const QString& path, const QString& title)
-    : file_(prepared(path)),
-      pages_(path),
-      writer_(&opened(out_, pages_.descriptor())),
-      painter_(setUp(writer_, title)) {
+    : file_(prepared(path)), writer_(&opened(out_, file_.descriptor())), painter_(setUp(writer_, title)) {
     file_.keepMode();
 }
 
@@ -70,7 +67,7 @@ void PdfFile::end() {
     painter_.end();
     out_.flush();
     checkWritten();
-    writeWithOutline(pages_.path(), outline_, file_);
+    if (!outline_.empty()) appendOutline(file_, outline_);
     file_.place();
     files::syncFolder(file_.folder());
 }

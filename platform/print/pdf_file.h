@@ -11,7 +11,7 @@
 namespace platform {
 
 /// A PDF file that is written page by page. It takes its name when it is whole: until then a file of that name stays as
-/// it was, and two others lie beside it.
+/// it was, and another lies beside it.
 class PdfFile : public JobPages {
 public:
     /// Errors: 5 without a name, 76 without the folder, 70 where the file is read-only or no file.
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] static PageArea page();
 
     void add(const PrintedPage& page) override;
-    /// The bookmarks that the file gets at its end.
+    /// The bookmarks that the file gets at its end, by ascending pages.
     void setOutline(std::vector<Bookmark> outline) { outline_ = std::move(outline); }
     void end() override;
 
@@ -29,8 +29,6 @@ private:
     void checkWritten() const;
 
     files::FileReplacement file_;
-    /// The pages without the bookmarks.
-    files::FileReplacement pages_;
     QFile out_;
     QPdfWriter writer_;
     JobPainter painter_;

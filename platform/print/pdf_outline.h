@@ -16,8 +16,9 @@ struct Bookmark {
     int page = 1;  ///< from 1
 };
 
-/// Writes a PDF file anew with bookmarks, which are shown when it is opened. Throws 61 for a full disk, and 57 for a
-/// file that can't be read as one.
-void writeWithOutline(const QString& pdf, const std::vector<Bookmark>& bookmarks, files::FileReplacement& target);
+/// Adds bookmarks, none of them before the page of the one ahead, behind the pages of a file that QPdfWriter has
+/// finished. They are shown when the file is opened. Throws 61 for a full disk, and 57 for a file that can't be read as
+/// that writer makes it.
+void appendOutline(files::FileReplacement& pdf, const std::vector<Bookmark>& bookmarks);
 
 }  // namespace platform
