@@ -169,7 +169,9 @@ QString MDIHost::categoryOf(const QString& table) const {
 }
 
 void MDIHost::showFamilyBook() {
-    desktop().load(std::make_unique<book::FamilyBookDialog>(desktop(), session_, bookChapters())).showModal();
+    desktop()
+        .load(std::make_unique<book::FamilyBookDialog>(desktop(), session_, bookChapters(), shownRows()))
+        .showModal();
 }
 
 void MDIHost::showAttachments(const QString& ownerName) {

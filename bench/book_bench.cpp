@@ -7,6 +7,7 @@
 #include <QPdfWriter>
 
 #include "app/book_chapters.h"
+#include "app/shown_rows.h"
 #include "bench/running.h"
 #include "book/family_book.h"
 #include "platform/print/pdf_file.h"
@@ -49,7 +50,7 @@ struct Made {
 };
 
 void save(session::Session& session, const QString& name, Made& made) {
-    book::FamilyBook book(session, session.selection(), app::bookChapters());
+    book::FamilyBook book(session, session.selection(), app::bookChapters(), app::shownRows());
     platform::PdfFile file(name, book.title());
     const auto layOut = [&] {
         if (!book.layOut(
@@ -69,7 +70,7 @@ Made makeBook(int records) {
     // The first one loads fonts and libraries.
     save(program.session, name, made);
     made.milliseconds = milliseconds([&] { save(program.session, name, made); });
-    book::FamilyBook book(program.session, program.session.selection(), app::bookChapters());
+    book::FamilyBook book(program.session, program.session.selection(), app::bookChapters(), app::shownRows());
     const auto keep = [&](const platform::PrintedPage& page) { made.pages.push_back(page); };
     if (!book.layOut(platform::PdfFile::page(), keep, u"%1 %2"_s)) std::exit(1);
     std::printf("%d records: %zu pages, %.1f MB, %.1f s, %.1f MB of memory for the pages, %.1f MB for the bookmarks\n",

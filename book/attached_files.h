@@ -1,57 +1,46 @@
 #pragma once
 
 #include <QString>
+#include <optional>
+#include <span>
 #include <vector>
 
-#include "book/chapter.h"
 #include "session/owner_names.h"
+#include "session/record_locator.h"
 #include "session/selection.h"
+#include "session/shown_rows.h"
 
 namespace data {
 class Connection;
-}
+class Recordset;
+}  // namespace data
 
 namespace book {
 
 class BookVisitor;
 
-/// The names of the files that are attached to records, category by category.
+/// The names of the files that are attached to records.
 class AttachedFiles {
 public:
-    AttachedFiles(data::Connection& connection, session::Selection selection, const std::vector<Chapter>& chapters);
+    AttachedFiles(data::Connection& connection, session::Selection selection, std::span<const session::ShownRows> all);
 
-    /// The list of them. For one member it has those of his records and of records that belong to nobody in particular.
-    /// False when the visitor wanted no more.
+    /// The list of them, category by category. For one member it has those of his records and of records that belong to
+    /// nobody in particular. Behind it comes, for the whole family, what belongs to no record that is there, under a
+    /// heading of its own and with its key: no window shows these any more. False when the visitor wanted no more.
     bool read(BookVisitor& visitor);
 
 private:
-    /// A kind of record, and how one finds the record that a file is attached to, and its owner.
-    struct Kind {
-        QString category;
-        QString prefix;  ///< of its attachment keys
-        QString table{};
-        enum class Owner { Nobody, Itself, InRow, OfSite } owner = Owner::Nobody;
-        /// The record's number is the first one in the key, and not the last.
-        bool numberedFirst = false;
-        /// By which the rows of windows with one table and one prefix are told apart; 0 for a table of one's own.
-        int type = 0;
-    };
-    struct Whose {
-        bool isShared = false;
-        int member = 0;  ///< 0 for a record that has gone
-    };
-
-    static void addKinds(std::vector<Kind>& kinds, const Chapter& chapter);
-    bool readKind(const Kind& kind, BookVisitor& visitor);
-    [[nodiscard]] static qint64 recordOf(const Kind& kind, const QString& key);
-    [[nodiscard]] Whose ownerOf(const Kind& kind, qint64 record);
-    [[nodiscard]] int ownerOfSite(int type, int site);
-    [[nodiscard]] int number(const QString& column, const QString& table, qint64 id);
-    [[nodiscard]] QString nameOf(const Whose& whose) const;
+    [[nodiscard]] bool readThoseOf(const session::ShownRows& rows, BookVisitor& visitor);
+    [[nodiscard]] bool readThoseOfNone(BookVisitor& visitor);
+    /// The record to which the current file is attached; nullopt for one that isn't there.
+    [[nodiscard]] std::optional<session::Location> locationOf(const data::Recordset& files);
+    [[nodiscard]] bool isSelected(const session::Location& location) const;
+    [[nodiscard]] QString nameOf(int member) const;
 
     data::Connection& connection_;
     session::Selection selection_;
-    std::vector<Kind> kinds_;
+    std::span<const session::ShownRows> all_;
+    session::RecordLocator locator_;
     std::vector<session::Member> members_;
 };
 

@@ -39,10 +39,12 @@ QStringList cellsOf(const data::Recordset& rows, const QStringList& names, const
 
 }  // namespace
 
-BookReader::BookReader(data::Connection& connection, session::Selection selection, std::vector<Chapter> chapters)
+BookReader::BookReader(data::Connection& connection, session::Selection selection, std::vector<Chapter> chapters,
+                       std::span<const session::ShownRows> shown)
     : connection_(connection),
       selection_(std::move(selection)),
       chapters_(std::move(chapters)),
+      shown_(shown),
       members_(session::familyMembers(connection)) {
     if (!selection_.wholeFamily)
         std::erase_if(members_, [this](const session::Member& member) { return member.id != selection_.personID; });
@@ -112,7 +114,7 @@ bool BookReader::read(BookVisitor& visitor) {
 
 bool BookReader::readChapter(const Chapter& chapter, BookVisitor& visitor) {
     visitor.heading(chapter.level, chapter.title, chapter.title);
-    if (chapter.window == attachedFiles()) return AttachedFiles(connection_, selection_, chapters_).read(visitor);
+    if (chapter.window == attachedFiles()) return AttachedFiles(connection_, selection_, shown_).read(visitor);
     if (const lists::ListDefinition* list = listed(chapter.window)) return readList(*list, visitor);
     const screens::ScreenDefinition* screen = screens::screenDefinition(chapter.window);
     return !screen || readScreen(*screen, chapter, visitor);

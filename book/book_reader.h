@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <span>
 #include <vector>
 
 #include "book/chapter.h"
 #include "session/owner_names.h"
 #include "session/selection.h"
+#include "session/shown_rows.h"
 
 namespace data {
 class Connection;
@@ -29,7 +31,9 @@ class BookVisitor;
 /// of passwords are no part of it.
 class BookReader {
 public:
-    BookReader(data::Connection& connection, session::Selection selection, std::vector<Chapter> chapters);
+    /// `shown`, which is kept, tells to which records files are attached.
+    BookReader(data::Connection& connection, session::Selection selection, std::vector<Chapter> chapters,
+               std::span<const session::ShownRows> shown);
 
     /// How often a visitor will hear of a record or a row.
     [[nodiscard]] int count();
@@ -53,6 +57,7 @@ private:
     data::Connection& connection_;
     session::Selection selection_;
     std::vector<Chapter> chapters_;
+    std::span<const session::ShownRows> shown_;
     /// Whose records are read.
     std::vector<session::Member> members_;
 };

@@ -21,7 +21,7 @@ QString FamilyBook::title() const {
 }
 
 BookReader FamilyBook::reader() {
-    return {session_.gConnection, selection_, chapters_};
+    return {session_.gConnection, selection_, chapters_, shown_};
 }
 
 bool FamilyBook::isEmpty() {
@@ -64,7 +64,7 @@ void FamilyBook::addCoverPages(BookReader& reader, output::BookPages& pages) {
 void FamilyBook::addContents(output::BookPages& pages, const platform::PageArea& sheet, Entries entries) {
     const QDate today = platform::systemClock().today();
     output::BookPages own(sheet);
-    own.addDocument(output::contentsDocument(title(), entries, today));
+    own.addContents(output::contentsLines(title(), entries, today));
     own.finish();
     bookmarks_.push_back({0, contents, pages.begin(contents)});
     const int before = pages.count() + own.count();
@@ -72,7 +72,7 @@ void FamilyBook::addContents(output::BookPages& pages, const platform::PageArea&
         entry.page += before;
         bookmarks_.push_back({entry.level, entry.title, entry.page});
     }
-    pages.addDocument(output::contentsDocument(title(), entries, today));
+    pages.addContents(output::contentsLines(title(), entries, today));
     pages.finish();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <span>
 #include <vector>
 
 #include "book/chapter.h"
@@ -16,7 +17,8 @@ class BookPages;
 
 namespace session {
 struct Session;
-}
+struct ShownRows;
+}  // namespace session
 
 namespace book {
 
@@ -26,8 +28,10 @@ class BookReader;
 /// cover page, the contents, the records by category and member, the lists, the names of the attached files.
 class FamilyBook {
 public:
-    FamilyBook(session::Session& session, session::Selection selection, std::vector<Chapter> chapters)
-        : session_(session), selection_(std::move(selection)), chapters_(std::move(chapters)) {}
+    /// `shown`, which is kept, tells to which records files are attached.
+    FamilyBook(session::Session& session, session::Selection selection, std::vector<Chapter> chapters,
+               std::span<const session::ShownRows> shown)
+        : session_(session), selection_(std::move(selection)), chapters_(std::move(chapters)), shown_(shown) {}
 
     [[nodiscard]] QString title() const;
     /// Nothing stands in the book but perhaps a cover page.
@@ -51,6 +55,7 @@ private:
     session::Session& session_;
     session::Selection selection_;
     std::vector<Chapter> chapters_;
+    std::span<const session::ShownRows> shown_;
     std::vector<platform::Bookmark> bookmarks_;
 };
 

@@ -41,10 +41,12 @@ std::vector<session::Selection> choices(session::Session& session) {
 
 }  // namespace
 
-FamilyBookDialog::FamilyBookDialog(platform::Desktop& desktop, session::Session& session, std::vector<Chapter> chapters)
+FamilyBookDialog::FamilyBookDialog(platform::Desktop& desktop, session::Session& session, std::vector<Chapter> chapters,
+                                   std::span<const session::ShownRows> shown)
     : FormWindow(desktop, u"frmFamilyBook"_s, Kind::Dialog),
       session_(session),
       chapters_(std::move(chapters)),
+      shown_(shown),
       cbMember_(new platform::ComboBox(this)) {
     setCaption(u"Family Book"_s);
     cbMember_->setName(u"cbMember"_s);
@@ -99,7 +101,7 @@ void FamilyBookDialog::withBook(const QString& purpose, void (FamilyBookDialog::
         return;
     }
     output::attemptPrint(desktop(), errorTitle, [&] {
-        FamilyBook book(session_, *selection, chapters_);
+        FamilyBook book(session_, *selection, chapters_, shown_);
         if (book.isEmpty()) return session::showNoEntries(desktop(), purpose);
         (this->*routine)(book);
     });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "book/chapter.h"
@@ -15,7 +16,8 @@ class CommandButton;
 
 namespace session {
 struct Session;
-}
+struct ShownRows;
+}  // namespace session
 
 namespace book {
 
@@ -26,7 +28,9 @@ class FamilyBookDialog : public platform::FormWindow {
     Q_OBJECT
 
 public:
-    FamilyBookDialog(platform::Desktop& desktop, session::Session& session, std::vector<Chapter> chapters);
+    /// `shown`, which is kept, tells to which records files are attached.
+    FamilyBookDialog(platform::Desktop& desktop, session::Session& session, std::vector<Chapter> chapters,
+                     std::span<const session::ShownRows> shown);
 
     void Form_Load() override;
 
@@ -46,6 +50,7 @@ private:
 
     session::Session& session_;
     std::vector<Chapter> chapters_;
+    std::span<const session::ShownRows> shown_;
     platform::ComboBox* cbMember_;
     /// By the entries of the combo.
     std::vector<session::Selection> selections_;

@@ -1,5 +1,7 @@
 #include "output/book_pages.h"
 
+#include <algorithm>
+
 #include "output/page_parts.h"
 #include "platform/base/text_positions.h"
 #include "platform/print/print_device.h"
@@ -14,9 +16,9 @@ namespace {
 
 constexpr double lineHeight = platform::lineHeight(10);
 /// Lines of a page, from its top to above its number.
-constexpr qsizetype linesOfPage = 62;
+constexpr std::size_t linesOfPage = 62;
 /// At the top of each page, as a document begins; the heading stands in the midst of them.
-constexpr qsizetype emptyLines = 6;
+constexpr std::size_t emptyLines = 6;
 constexpr double headingDown = 3 * lineHeight;
 constexpr qsizetype headingIndent = 6;
 constexpr qsizetype headingWidth = 80;
@@ -59,17 +61,28 @@ int BookPages::begin(const QString& heading) {
 
 void BookPages::addDocument(const QString& document) {
     const QStringList lines = withoutEndingBlanks(platform::printedLines(document));
-    if (lines_.size() + lines.size() > linesOfPage) finish();
+    if (lines_.size() + static_cast<std::size_t>(lines.size()) > linesOfPage) finish();
     for (const QString& line : lines)
+        addLine({.line = {.text = line}});
+}
+
+void BookPages::addContents(const std::vector<PageLine>& lines) {
+    for (const PageLine& line : lines)
         addLine(line);
 }
 
-void BookPages::addLine(const QString& line) {
-    if (lines_.size() == linesOfPage) {
-        finish();
-        lines_ = QStringList(emptyLines);
-    }
-    lines_.append(line);
+void BookPages::addLine(PageLine line) {
+    if (lines_.size() == linesOfPage) goToNextPage();
+    lines_.push_back(std::move(line));
+}
+
+void BookPages::goToNextPage() {
+    std::vector<PageLine> next(emptyLines);
+    const auto leading = std::ranges::find(lines_.rbegin(), lines_.rend(), false, &PageLine::leads).base();
+    std::move(leading, lines_.end(), std::back_inserter(next));
+    lines_.erase(leading, lines_.end());
+    finish();
+    lines_ = std::move(next);
 }
 
 void BookPages::addListing(const QString& title, const QString& columns, const ListingPages::Page& lines) {
@@ -96,15 +109,16 @@ void BookPages::handOn(const std::function<void(platform::Printer& printer)>& pr
 }
 
 void BookPages::finish() {
-    if (!lines_.isEmpty()) handOnNumbered([this](platform::Printer& printer) { printLines(printer); });
+    if (!lines_.empty()) handOnNumbered([this](platform::Printer& printer) { printLines(printer); });
     lines_.clear();
 }
 
 void BookPages::printLines(platform::Printer& printer) const {
-    for (qsizetype i = 0; i < lines_.size(); ++i) {
-        if (lines_[i].trimmed().isEmpty()) continue;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const ListingLine& line = lines_[i].line;
+        if (line.text.trimmed().isEmpty()) continue;
         printer.setCurrentY(static_cast<double>(i) * lineHeight);
-        printer.print(lines_[i]);
+        printLine(printer, line);
     }
 }
 

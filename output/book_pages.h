@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <functional>
+#include <vector>
 
+#include "output/contents.h"
 #include "output/listing.h"
 #include "platform/print/print_job.h"
 
@@ -28,6 +29,7 @@ public:
     /// What comes next begins a page, under that heading. Gives the number of the page.
     int begin(const QString& heading);
     void addDocument(const QString& document);
+    void addContents(const std::vector<PageLine>& lines);
     /// `title` and `columns` are the heads of the listing.
     void addListing(const QString& title, const QString& columns, const ListingPages::Page& lines);
     /// A page of its own kind, without heading and number.
@@ -39,7 +41,8 @@ public:
     [[nodiscard]] int count() const { return count_; }
 
 private:
-    void addLine(const QString& line);
+    void addLine(PageLine line);
+    void goToNextPage();
     void printLines(platform::Printer& printer) const;
     void handOn(const std::function<void(platform::Printer& printer)>& print);
     void handOnNumbered(const std::function<void(platform::Printer& printer)>& print);
@@ -48,7 +51,7 @@ private:
     Take take_;
     QString heading_;
     /// Of documents, on the page that isn't full yet.
-    QStringList lines_;
+    std::vector<PageLine> lines_;
     int count_ = 0;
 };
 

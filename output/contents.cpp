@@ -2,6 +2,7 @@
 
 #include "output/document.h"
 #include "platform/base/text_positions.h"
+#include "platform/print/printer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,22 +16,31 @@ constexpr qsizetype indentOfLevel = 3;
 /// Between the title and the number: a blank, some dots, a blank.
 constexpr qsizetype leastLeader = 5;
 
-QString contentsLine(const BookEntry& entry) {
+/// A title from right to left would take the dots and the number along, were they one text with it.
+ListingLine contentsLine(const BookEntry& entry) {
     const QString number = QString::number(entry.page);
-    const QString start((indent + indentOfLevel * entry.level), u' ');
-    const qsizetype room = lineWidth - start.size() - number.size();
-    const QStringView title = platform::fitting(entry.title, room - leastLeader);
-    const qsizetype leader = room - platform::positionsOf(title);
-    return start + title.toString() + u' ' + QString(leader - 2, u'.') + u' ' + number;
+    const qsizetype start = indent + indentOfLevel * entry.level;
+    const qsizetype room = lineWidth - start - number.size();
+    const QString title = platform::fitting(entry.title, room - leastLeader).toString();
+    const qsizetype width = platform::positionsOf(title);
+    const QString leader = QString(room - width - 2, u'.') + u' ' + number;
+    ListingLine line{.text = QString(start, u' ') + title + u' ' + leader};
+    if (!platform::isEven(title)) line.cells = {{start, title}, {start + width + 1, leader}};
+    return line;
 }
 
 }  // namespace
 
-QString contentsDocument(const QString& title, const std::vector<BookEntry>& entries, const QDate& today) {
-    QString text = documentHead(title, today);
-    for (const BookEntry& entry : entries)
-        text += contentsLine(entry) + u"\r\n"_s;
-    return text;
+std::vector<PageLine> contentsLines(const QString& title, const std::vector<BookEntry>& entries, const QDate& today) {
+    std::vector<PageLine> lines;
+    const QStringList head = platform::printedLines(documentHead(title, today));
+    for (const QString& line : head.first(head.size() - 1))
+        lines.push_back({.line = {.text = line}});
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const bool leads = i + 1 < entries.size() && entries[i + 1].level > entries[i].level;
+        lines.push_back({contentsLine(entries[i]), leads});
+    }
+    return lines;
 }
 
 }  // namespace output

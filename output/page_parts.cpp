@@ -13,14 +13,6 @@ constexpr double headingDown = 1440;
 constexpr double pageNumberDown = 14400;
 constexpr double fontSize = 10;
 
-void printLine(platform::Printer& printer, const ListingLine& line) {
-    if (line.cells.empty()) return printer.print(line.text);
-    std::vector<platform::PlacedText> texts;
-    for (const auto& [position, text] : line.cells)
-        texts.push_back({static_cast<double>(position) * printer.positionWidth(), text});
-    printer.printBeside(texts);
-}
-
 }  // namespace
 
 void useDocumentFont(platform::Printer& printer) {
@@ -40,6 +32,14 @@ void printListingHeadings(platform::Printer& printer, const QString& title, cons
     printer.print(heading);
     printer.setFontUnderline(false);
     printer.print();
+}
+
+void printLine(platform::Printer& printer, const ListingLine& line) {
+    if (line.cells.empty()) return printer.print(line.text);
+    std::vector<platform::PlacedText> texts;
+    for (const auto& [position, text] : line.cells)
+        texts.push_back({static_cast<double>(position) * printer.positionWidth(), text});
+    printer.printBeside(texts);
 }
 
 void printListingLines(platform::Printer& printer, const ListingPages::Page& page) {

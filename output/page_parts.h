@@ -16,6 +16,8 @@ namespace output {
 void useDocumentFont(platform::Printer& printer);
 /// The title, centred, and under it the heading over the columns.
 void printListingHeadings(platform::Printer& printer, const QString& title, const QString& heading);
+/// A line where the last one ended, or its cells, each at its position.
+void printLine(platform::Printer& printer, const ListingLine& line);
 /// The lines below them.
 void printListingLines(platform::Printer& printer, const ListingPages::Page& page);
 /// "-7-" at the foot.

@@ -128,7 +128,8 @@ protected:
             "'deed.pdf', 'The deed'), ('Hom_0_3', 1, 'b', 'plan.pdf', 'Zo\u00EBs plan'), ('Kbk_1_0', 1, 'c', "
             "'ann.jpg', "
             "''), ('MRec_3_0', 1, 'd', 'xray.png', ''), ('Inv_1_1', 1, 'e', 'chair.png', ''), ('Con_1_1', 1, 'f', "
-            "'card.png', ''), ('Obl_1_2', 1, 'h', 'loan.pdf', ''), ('Gone_1_1', 1, 'g', 'gone', '')"_s);
+            "'card.png', ''), ('Obl_1_2', 1, 'h', 'loan.pdf', ''), ('Gone_1_1', 1, 'g', 'older.doc', ''), "
+            "('Hom_1_77', 1, 'i', 'sold.pdf', 'A house that has gone'), ('nonsense', 1, 'j', 'odd.txt', NULL)"_s);
     }
     void insert(const data::Table& table, int row, bool owned) const {
         QStringList names;
@@ -247,11 +248,16 @@ TEST_F(FamilyBook, HoldsEveryPrintedDocumentAndListingInOrderAndNoSecret) {
                             u" Home(s) Zo\u00EB Larkin plan.pdf Zo\u00EBs plan "_s,
                             u" Address card.png "_s,
                             u" Medical Log Zo\u00EB Larkin xray.png "_s,
-                            u" Inventory Ann Larkin chair.png "_s,
-                            u" Mortgages Ann Larkin loan.pdf "_s};
+                            u" Home(s), Inventory Ann Larkin chair.png "_s,
+                            u" Mortgages Ann Larkin loan.pdf "_s,
+                            u" Gone_1_1 older.doc "_s,
+                            u" Hom_1_77 sold.pdf A house that has gone "_s,
+                            u" nonsense odd.txt "_s};
     for (const QString& file : files)
         EXPECT_TRUE(lists.contains(file)) << file.toStdString() << lists.join(u'\n').toStdString();
-    EXPECT_EQ(lists.filter(u"loan.pdf"_s).size(), 1);
+    for (const QString& name : {u"loan.pdf"_s, u"deed.pdf"_s, u"chair.png"_s, u"older.doc"_s, u"sold.pdf"_s})
+        EXPECT_EQ(lists.filter(name).size(), 1) << name.toStdString();
+    EXPECT_EQ(book.heads.last(), u"Attachments Without a Record"_s);
     EXPECT_TRUE(book.pages.size() > 100 && joined(book.pages).filter(u"hidden"_s, Qt::CaseInsensitive).isEmpty());
 }
 
@@ -310,7 +316,8 @@ TEST_F(FamilyBook, OfOneMemberHasHisRecordsAndThoseOfNobodyInParticular) {
     EXPECT_FALSE(text.contains(u" - Ann Larkin"_s));
     EXPECT_TRUE(text.contains(u"Flu of 3"_s) && !text.contains(u"Flu of 1"_s));
     EXPECT_TRUE(text.contains(u"plan.pdf"_s) && text.contains(u"card.png"_s) && text.contains(u"xray.png"_s));
-    EXPECT_FALSE(text.contains(u"deed.pdf"_s) || text.contains(u"ann.jpg"_s) || text.contains(u"chair.png"_s));
+    EXPECT_FALSE(text.contains(u"deed.pdf"_s) || text.contains(u"ann.jpg"_s) || text.contains(u"chair.png"_s) ||
+                 text.contains(u"sold.pdf"_s));
     EXPECT_TRUE(text.contains(u"Boat"_s) && text.contains(u"Clock"_s));
     EXPECT_FALSE(text.contains(u"hidden"_s));
 
