@@ -138,14 +138,14 @@ QString Desktop::clipboardText() const {
 }
 
 void Desktop::wait(double seconds) {
-    const qint64 length = static_cast<qint64>(seconds * 1000);
+    const qint64 length = skipsWaits_ ? 0 : static_cast<qint64>(seconds * 1000);
     QElapsedTimer timer;
     timer.start();
     waiting_ = true;
-    while (timer.elapsed() < length) {
+    do {
         QApplication::processEvents(QEventLoop::AllEvents, 20);
         QThread::msleep(5);
-    }
+    } while (timer.elapsed() < length);
     waiting_ = false;
 }
 

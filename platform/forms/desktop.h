@@ -86,6 +86,9 @@ public:
     void setFileOpener(FileOpener opener) { openFile_ = std::move(opener); }
     /// Keeps the program alive to its events for some seconds, while the caller waits.
     void wait(double seconds);
+    /// From here on wait() lets the events through and returns at once: for those who play the program without a look
+    /// at what it shows meanwhile.
+    void skipWaits() { skipsWaits_ = true; }
     [[nodiscard]] bool isWaiting() const { return waiting_; }
 
     /// The run is over: every form goes without being asked.
@@ -109,6 +112,7 @@ private:
     MdiFrame* host_ = nullptr;
     Pointer pointer_ = Pointer::Default;
     bool waiting_ = false;
+    bool skipsWaits_ = false;
 };
 
 }  // namespace platform

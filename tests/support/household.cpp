@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace support {
 
-Household::Household() : user(kinbookProgram(folder_.path())) {
+Household::Household() : user(hurriedKinbook(folder_.path())) {
     data::createTemplate(path(u"FamilyInfo.mdb"_s));
     writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nValue=\r\nSplash=1\r\n");
 }

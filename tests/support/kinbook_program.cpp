@@ -1,6 +1,7 @@
 #include "tests/support/kinbook_program.h"
 
 #include "app/kinbook.h"
+#include "platform/forms/desktop.h"
 
 namespace support {
 
@@ -22,6 +23,14 @@ private:
 
 MakeProgram kinbookProgram(const QString& folder) {
     return [folder] { return std::make_unique<KinbookProgram>(folder); };
+}
+
+MakeProgram hurriedKinbook(const QString& folder) {
+    return [folder] {
+        auto program = std::make_unique<KinbookProgram>(folder);
+        program->desktop().skipWaits();
+        return program;
+    };
 }
 
 }  // namespace support

@@ -9,4 +9,7 @@ namespace support {
 /// Kinbook in the given application folder.
 [[nodiscard]] MakeProgram kinbookProgram(const QString& folder);
 
+/// The same without its waits: the splash window goes as soon as it has come.
+[[nodiscard]] MakeProgram hurriedKinbook(const QString& folder);
+
 }  // namespace support
