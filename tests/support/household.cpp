@@ -36,8 +36,10 @@ QStringList Household::namesIn(const QString& folder) const {
 }
 
 void Household::exec(const QString& statement) const {
-    SQLite::Database(path(u"FamilyInfo.mdb"_s).toStdString(), SQLite::OPEN_READWRITE, 2000)
-        .exec(statement.toStdString());
+    SQLite::Database file(path(u"FamilyInfo.mdb"_s).toStdString(), SQLite::OPEN_READWRITE, 2000);
+    // Nobody waits for the disk here but the program.
+    file.exec("PRAGMA synchronous = OFF");
+    file.exec(statement.toStdString());
 }
 
 QString Household::cell(const QString& statement) const {

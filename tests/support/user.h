@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QSize>
 #include <QStringList>
+#include <chrono>
 #include <memory>
 
 #include "tests/support/finder.h"
@@ -91,7 +92,8 @@ private:
     [[nodiscard]] Spot spotOnRowOf(const QString& view, int row);
     void stroke(const KeyStroke& stroke);
     void typeAll(const QString& text);
-    [[nodiscard]] bool openList(const QString& combo, const QString& entry);
+    /// `click`: how long a double click may take.
+    [[nodiscard]] bool openList(const QString& combo, const QString& entry, std::chrono::milliseconds click);
     void setExpanded(const QString& key, bool expanded);
     void leaveProgram();
     [[nodiscard]] Finder finder() const;
