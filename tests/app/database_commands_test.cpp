@@ -21,10 +21,9 @@ namespace {
 class DatabaseCommands : public support::Household {
 protected:
     DatabaseCommands() {
-        QDir(path({})).mkpath(u"Attachments"_s);
-        QDir(path({})).mkpath(u"b"_s);
-        writeFile(u"Attachments/FI_1.txt"_s, QByteArray(1000, 'a'));
-        writeFile(u"Attachments/FI_2.txt"_s, QByteArray(2000, 'b'));
+        makeFolder(u"b"_s);
+        write(u"Attachments/FI_1.txt"_s, QByteArray(1000, 'a'));
+        write(u"Attachments/FI_2.txt"_s, QByteArray(2000, 'b'));
         files::setReadOnly(path(u"Attachments/FI_1.txt"_s));
         data::createTemplate(path(u"FamilyInfo_Empty.mdb"_s));
         addMembers({u"Ann Larkin"_s});
@@ -69,12 +68,12 @@ TEST_F(DatabaseCommands, WhatWasBackedUpIsRestoredWithItsAttachments) {
     EXPECT_EQ(dialog["mode"_L1].toString(), u"save"_s);
     user.cancel();
     dismissBox();
-    QDir(path({})).mkpath(u"Backup"_s);
+    makeFolder(u"Backup"_s);
     user.tool(u"tbBackup"_s);
     EXPECT_EQ(user.dialog()["folder"_L1].toString(), path(u"Backup"_s));
     // The name may be anything with a dot; an older backup's files of it go.
-    QDir(path({})).mkpath(u"b/Größe 1.2Attachments/sub"_s);
-    writeFile(u"b/Größe 1.2Attachments/old"_s, "old");
+    makeFolder(u"b/Größe 1.2Attachments/sub"_s);
+    write(u"b/Größe 1.2Attachments/old"_s, "old");
     const QString target = path(u"b/Größe 1.2.mdb"_s);
     user.choose(target);
     EXPECT_EQ(boxText(),
@@ -94,7 +93,7 @@ TEST_F(DatabaseCommands, WhatWasBackedUpIsRestoredWithItsAttachments) {
     EXPECT_EQ(bytesOf(u"b/Größe 1.2.mdb"_s), bytesOf(u"FamilyInfo.mdb"_s));
 
     exec(u"DELETE FROM Person"_s);
-    writeFile(u"Attachments/FI_3.txt"_s, "later");
+    write(u"Attachments/FI_3.txt"_s, "later");
     user.tool(u"tbOpen"_s);
     EXPECT_EQ(boxText(),
               u"When you restore a database, the current database \r\nwill be destroyed.  If, for some "
@@ -153,7 +152,7 @@ TEST_F(DatabaseCommands, WithoutAUsableNameNothingIsCopied) {
     EXPECT_EQ(boxText(), u"No database name was selected for the backup database."_s);
     EXPECT_EQ(dismissBox(), u"No Database Name"_s);
     for (const auto& name : {u"b/Mon"_s, u"b.c/Mon"_s}) {
-        QDir(path({})).mkpath(QFileInfo(name).path());
+        makeFolder(QFileInfo(name).path());
         user.menu(u"mBackup"_s);
         user.choose(path(name));
         EXPECT_EQ(boxText(), u"6 - Overflow"_s);
@@ -182,12 +181,12 @@ TEST_F(DatabaseCommands, WithoutAUsableNameNothingIsCopied) {
 
 TEST_F(DatabaseCommands, ARefusedRestoreLeavesTheOldFileOpen) {
     const QByteArray whole = bytesOf(u"FamilyInfo.mdb"_s);
-    writeFile(u"b/short.mdb"_s, whole.chopped(4096));
-    writeFile(u"b/foreign.mdb"_s, QByteArray(9000, 'x'));
-    writeFile(u"b/empty.mdb"_s, {});
-    writeFile(u"Attachments/inside.mdb"_s, whole);
+    write(u"b/short.mdb"_s, whole.chopped(4096));
+    write(u"b/foreign.mdb"_s, QByteArray(9000, 'x'));
+    write(u"b/empty.mdb"_s, {});
+    write(u"Attachments/inside.mdb"_s, whole);
     // Its companion folder would be the live one.
-    writeFile(u".mdb"_s, whole);
+    write(u".mdb"_s, whole);
     startWithAnn();
     const struct {
         QString name;
@@ -209,7 +208,7 @@ TEST_F(DatabaseCommands, ARefusedRestoreLeavesTheOldFileOpen) {
         EXPECT_EQ(bytesOf(u"FamilyInfo.mdb"_s), whole);
         EXPECT_EQ(namesIn(u"Attachments"_s), QStringList({u"FI_1.txt"_s, u"FI_2.txt"_s, u"inside.mdb"_s}));
     }
-    writeFile(u"FamilyInfo_Empty.mdb"_s, "damaged");
+    write(u"FamilyInfo_Empty.mdb"_s, "damaged");
     user.menu(u"mNew"_s);
     user.answer(u"Yes"_s);
     EXPECT_EQ(dismissBox(), u"NewDB Error"_s);
@@ -218,7 +217,7 @@ TEST_F(DatabaseCommands, ARefusedRestoreLeavesTheOldFileOpen) {
 
 TEST_F(DatabaseCommands, ABackupNeverTouchesTheLiveFiles) {
     const QByteArray whole = bytesOf(u"FamilyInfo.mdb"_s);
-    writeFile(u"b.c"_s, "x");
+    write(u"b.c"_s, "x");
     startWithAnn();
     // Also when the session's database isn't the live one, as after a restore of a name without a dot.
     for (const QString& source : {QString(), path(u"SplashDef"_s)}) {
@@ -272,7 +271,7 @@ TEST_F(DatabaseCommands, ABackupThatFindsNoRoomOrNoRightLeavesTheOlderOneWhole) 
     EXPECT_EQ(boxText(), u"76 - Path not found"_s);
     EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
     // A file in the way of the companion folder.
-    writeFile(u"b/MonAttachments"_s, "x");
+    write(u"b/MonAttachments"_s, "x");
     backUp(path(u"b/Mon.mdb"_s));
     EXPECT_EQ(dismissBox(), u"SaveAttachments"_s);
     EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
@@ -329,7 +328,7 @@ TEST_F(DatabaseCommands, AnOldBackupsFilesGoOnlyWhenTheNewOnesAreThere) {
     backUp(path(u"b/Mon.mdb"_s));
     dismissBox();
     // Of the same size, but not to be read.
-    writeFile(u"Attachments/FI_2.txt"_s, QByteArray(2000, 'c'));
+    write(u"Attachments/FI_2.txt"_s, QByteArray(2000, 'c'));
     ASSERT_EQ(::chmod(qPrintable(path(u"Attachments/FI_2.txt"_s)), 0), 0);
     {
         const support::OrdinaryFamily family(path({}));

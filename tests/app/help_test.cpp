@@ -28,9 +28,9 @@ protected:
 };
 
 TEST_F(Help, TheDialogsTellWhatTheyAreFor) {
-    writeFile(u"SplashDef.txt"_s,
-              "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nVersion=Version 7\r\nSlogan=One & all\r\n"
-              "Copyright=(c) us\r\nSplash=1\r\n");
+    write(u"SplashDef.txt"_s,
+          "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nVersion=Version 7\r\nSlogan=One & all\r\n"
+          "Copyright=(c) us\r\nSplash=1\r\n");
     start();
     user.menu(u"mnuAbout"_s);
     EXPECT_EQ(textOf(u"lblProductName"_s) + textOf(u"lblVersion"_s) + textOf(u"lblSlogan"_s) + textOf(u"Label1"_s),

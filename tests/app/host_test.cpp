@@ -214,8 +214,9 @@ TEST_F(Host, AYesForOneWindowCountsOnlyWhenNoOtherStays) {
     EXPECT_EQ(person(), u"1 'Whole Family' whole"_s);
 }
 
-TEST_F(Host, AnEleventhFormIsRefusedAlsoForAWindowThatIsOpen) {
+TEST_F(Host, AnEleventhFormIsRefusedHoweverItIsAskedFor) {
     addMembers({u"Ann Larkin"_s});
+    exec(u"INSERT INTO WhoGetsWhat (Item) VALUES ('Clock')"_s);
     const QStringList nodes{u"CDs"_s,   u"Checking"_s, u"MoneyMarkets"_s, u"Savings"_s, u"SafeDeposit"_s,
                             u"Bonds"_s, u"Stocks"_s,   u"Annuities"_s,    u"Antiques"_s};
     for (const QString& table : {u"CDs"_s, u"CheckingAccounts"_s, u"MoneyMarkets"_s, u"SavingsAccounts"_s,
@@ -228,7 +229,18 @@ TEST_F(Host, AnEleventhFormIsRefusedAlsoForAWindowThatIsOpen) {
         openNode(node);
     EXPECT_EQ(forms().size(), 11);
     user.node(u"CDs"_s);
+    EXPECT_EQ(dismissBox(), u"Too Many Data Windows Open"_s) << "a window that is open";
+    user.menu(u"mComing"_s);
     EXPECT_EQ(dismissBox(), u"Too Many Data Windows Open"_s);
+    user.key(u"Ctrl+F"_s);
+    user.type(u"clock"_s);
+    user.key(u"Return"_s);
+    EXPECT_EQ(dismissBox(), u"Too Many Data Windows Open"_s) << "the place of a finding";
+    EXPECT_EQ(forms().size(), 11);
+    user.click(u"cmdClose"_s);
+    user.key(u"Ctrl+F"_s);
+    user.key(u"Return"_s);
+    EXPECT_EQ(activeWindow(), u"frmWhoGetsWhat"_s) << "looking is free";
     // A new selection closes them all.
     select(u"Whole Family"_s);
     EXPECT_EQ(forms(), (QStringList{u"MDIHost"_s, u"frmKinbook"_s}));

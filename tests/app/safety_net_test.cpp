@@ -23,12 +23,10 @@ namespace {
 class SafetyNet : public support::Household {
 protected:
     SafetyNet() {
-        for (const auto& folder : {u"Attachments"_s, u"Backup/Daily"_s})
-            QDir(path({})).mkpath(folder);
         // Today's copy is there: it is not what these tests are about.
-        writeFile(dailyCopy(), "today's");
-        writeFile(u"Attachments/FI_1.txt"_s, QByteArray(1000, 'a'));
-        writeFile(u"Attachments/FI_2.txt"_s, QByteArray(2000, 'b'));
+        write(dailyCopy(), "today's");
+        write(u"Attachments/FI_1.txt"_s, QByteArray(1000, 'a'));
+        write(u"Attachments/FI_2.txt"_s, QByteArray(2000, 'b'));
         files::setReadOnly(path(u"Attachments/FI_1.txt"_s));
         data::createTemplate(path(u"FamilyInfo_Empty.mdb"_s));
         addMembers({u"Ann Larkin"_s});
@@ -98,14 +96,14 @@ TEST_F(SafetyNet, ThreePairsStayAndWhatElseLiesThereToo) {
                             u"Before_2022-01-01_000000"_s};
     for (const QString& name : older) {
         QFile::copy(path(u"FamilyInfo.mdb"_s), path(u"Backup/"_s + name + u".mdb"_s));
-        QDir(path({})).mkpath(u"Backup/"_s + name + u"Attachments"_s);
-        writeFile(u"Backup/"_s + name + u"Attachments/"_s + name, "attached");
+        makeFolder(u"Backup/"_s + name + u"Attachments"_s);
+        write(u"Backup/"_s + name + u"Attachments/"_s + name, "attached");
         files::setReadOnly(path(u"Backup/"_s + name + u"Attachments/"_s + name));
     }
     const QStringList others{u"Before_2019-01-01_000000.mdb.txt"_s, u"Before_summer.mdb"_s, u"Mon.mdb"_s};
     for (const QString& name : others)
-        writeFile(u"Backup/"_s + name, "x");
-    QDir(path({})).mkpath(u"Backup/Before_2018-01-01_000000Attachments"_s);
+        write(u"Backup/"_s + name, "x");
+    makeFolder(u"Backup/Before_2018-01-01_000000Attachments"_s);
     user.start();
     // The one that is restored from would be the first to go.
     restore(u"Backup/"_s + older[0] + u".mdb"_s);
@@ -133,7 +131,7 @@ TEST_F(SafetyNet, IsThereOnlyWhereAFolderForItIs) {
     if (!disk.isMounted()) GTEST_SKIP() << "no disk of its own for the test";
     disk.fill();
     QFile::link(disk.folder(), path(u"Backup"_s));
-    writeFile(u"Attachments/FI_1.txt"_s, "a");
+    write(u"Attachments/FI_1.txt"_s, "a");
     user.start();
     startAfresh();
     EXPECT_EQ(namesIn(u"Attachments"_s), QStringList());
@@ -146,7 +144,7 @@ TEST_F(SafetyNet, TheFirstStartOfADayCopiesTheDatabase) {
         if (isFirst) {
             QDir(path(u"Backup/Daily"_s)).removeRecursively();
         } else {
-            writeFile(dailyCopy(), "today's first");
+            write(dailyCopy(), "today's first");
         }
         user.start();
         EXPECT_EQ(forms(), QStringList{u"MDIHost"_s});

@@ -44,7 +44,7 @@ TEST_F(Start, ADefinitionFileThatDoesntReadEndsTheRunWithoutTouchingTheDatabase)
     };
     for (const BadDefinition& definition : bad) {
         SCOPED_TRACE(definition.what);
-        writeFile(u"SplashDef.txt"_s, definition.text);
+        write(u"SplashDef.txt"_s, definition.text);
         user.start();
         if (!definition.firstBox.isEmpty()) {
             EXPECT_EQ(dismissBox(), definition.firstBox);
@@ -60,7 +60,7 @@ TEST_F(Start, ADefinitionFileThatDoesntReadEndsTheRunWithoutTouchingTheDatabase)
 }
 
 TEST_F(Start, AValueKeepsItsEqualsSignsAndAMainPasswordMakesTheRunReadOnly) {
-    writeFile(u"SplashDef.txt"_s, "Splash=1\r\nVersion=a=b=\r\nValue=\xdd\xef\xf5\xe1\xf6\xf8\r\n");
+    write(u"SplashDef.txt"_s, "Splash=1\r\nVersion=a=b=\r\nValue=\xdd\xef\xf5\xe1\xf6\xf8\r\n");
     addMembers({u"Ann Larkin"_s});
     startFor(u"Ann Larkin"_s);
     openNode(u"LogIn"_s);
@@ -91,7 +91,7 @@ TEST_F(Start, AValueKeepsItsEqualsSignsAndAMainPasswordMakesTheRunReadOnly) {
 
 TEST_F(Start, AFileThatIsNoDatabaseLeadsToTheRestoreAndNoEndsTheRun) {
     for (const QByteArray& bytes : {QByteArray(), QByteArray(50'000, 'x')}) {
-        writeFile(u"FamilyInfo.mdb"_s, bytes);
+        write(u"FamilyInfo.mdb"_s, bytes);
         startWithoutDatabase();
         user.answer(u"No"_s);
         EXPECT_FALSE(running());
@@ -182,7 +182,7 @@ TEST_F(Start, AFileThatIsNotOurBookIsNotStartedOnAndSaysWhatItLacks) {
 TEST_F(Start, AReplacedFileIsKeptBesideTheNewOne) {
     data::createTemplate(path(u"Good.mdb"_s));
     for (const QByteArray& bytes : {QByteArray("first"), QByteArray("second")}) {
-        writeFile(u"FamilyInfo.mdb"_s, bytes);
+        write(u"FamilyInfo.mdb"_s, bytes);
         startWithoutDatabase();
         user.answer(u"Yes"_s);
         user.choose(path(u"Good.mdb"_s));
@@ -236,9 +236,8 @@ TEST_F(Start, AFileThatCanOnlyBeReadIsToldOnce) {
 
 TEST_F(Start, WhatARunThatDiedLeftOfARestoreIsFinishedOrTold) {
     const QString companion = path(u"b/MonAttachments"_s);
-    QDir(path({})).mkpath(u"Attachments"_s);
-    QDir().mkpath(companion);
-    writeFile(u"b/MonAttachments/new.txt"_s, "new");
+    makeFolder(u"Attachments"_s);
+    write(u"b/MonAttachments/new.txt"_s, "new");
     const QString half = u".kinbook-0123456789abcdef0123456789abcdef"_s;
     const struct {
         const char* what;
@@ -255,11 +254,11 @@ TEST_F(Start, WhatARunThatDiedLeftOfARestoreIsFinishedOrTold) {
     for (const auto& [what, isReplaced, from, box, attachments] : cases) {
         SCOPED_TRACE(what);
         QFile::remove(path(u"Attachments/new.txt"_s));
-        writeFile(u"Attachments/old.txt"_s, "old");
-        writeFile(u"Attachments/"_s + half, "half");
-        writeFile(half, "half");
-        if (!isReplaced) writeFile(u"FamilyInfo.mdb.new"_s, "half");
-        writeFile(u"FamilyInfo.mdb.restoring"_s, from.toUtf8());
+        write(u"Attachments/old.txt"_s, "old");
+        write(u"Attachments/"_s + half, "half");
+        write(half, "half");
+        if (!isReplaced) write(u"FamilyInfo.mdb.new"_s, "half");
+        write(u"FamilyInfo.mdb.restoring"_s, from.toUtf8());
         user.start();
         if (!box.isEmpty()) {
             EXPECT_EQ(dismissBox(), box);
@@ -273,8 +272,8 @@ TEST_F(Start, WhatARunThatDiedLeftOfARestoreIsFinishedOrTold) {
 }
 
 TEST_F(Start, ARunningRestoreOfAnotherRunIsLeftAlone) {
-    writeFile(u"FamilyInfo.mdb.new"_s, "half");
-    writeFile(u"FamilyInfo.mdb.restoring"_s, {});
+    write(u"FamilyInfo.mdb.new"_s, "half");
+    write(u"FamilyInfo.mdb.restoring"_s, {});
     {
         const files::FolderClaim other(path({}));
         user.start();

@@ -1,41 +1,27 @@
 #pragma once
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
 #include "data/template.h"
+#include "tests/support/test_folder.h"
 
 /// An application folder with an empty database, and files to attach beside it.
 class ApplicationFolder {
 public:
     ApplicationFolder() {
-        QDir(folder_.path()).mkpath(QStringLiteral("app"));
-        QDir(folder_.path()).mkpath(QStringLiteral("source"));
+        folder_.makeFolder(QStringLiteral("app"));
         data::createTemplate(database());
     }
 
-    [[nodiscard]] QString path() const { return folder_.filePath(QStringLiteral("app")); }
-    [[nodiscard]] QString database() const { return folder_.filePath(QStringLiteral("app/FamilyInfo.mdb")); }
+    [[nodiscard]] QString path() const { return folder_.path(QStringLiteral("app")); }
+    [[nodiscard]] QString database() const { return folder_.path(QStringLiteral("app/FamilyInfo.mdb")); }
     [[nodiscard]] QString stored(const QString& name) const { return path() + QStringLiteral("/Attachments/") + name; }
-    [[nodiscard]] QStringList storedNames() const {
-        return QDir(stored({})).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
+    [[nodiscard]] QStringList storedNames() const { return folder_.namesIn(stored({})); }
 
     /// Makes a file to attach and gives its full name.
     [[nodiscard]] QString source(const QString& name, const QByteArray& content = "content") const {
-        const QString path = folder_.filePath(QStringLiteral("source/")) + name;
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            throw std::runtime_error("source");
-        return path;
+        return folder_.write(QStringLiteral("source/") + name, content);
     }
-
-    [[nodiscard]] static QByteArray contentOf(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
+    [[nodiscard]] QByteArray contentOf(const QString& path) const { return folder_.bytesOf(path); }
 
 private:
-    QTemporaryDir folder_;
+    support::TestFolder folder_;
 };

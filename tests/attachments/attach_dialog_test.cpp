@@ -161,7 +161,7 @@ TEST_F(DialogTest, CopiesOutAndRefusesAReadOnlyTarget) {
     EXPECT_EQ(user.dialog()[u"title"_s].toString(), u"Save "_s + folder.stored(u"Hom_3_17_0.txt"_s) + u" As"_s);
     EXPECT_EQ(user.dialog()[u"file"_s].toString(), u"Hom_3_17_0.txt"_s);
     user.choose(target);
-    EXPECT_EQ(ApplicationFolder::contentOf(target), "content");
+    EXPECT_EQ(folder.contentOf(target), "content");
     // The copy is as read-only as the stored file.
     user.click(u"cmdCopy"_s);
     user.choose(target);
@@ -175,7 +175,7 @@ TEST_F(DialogTest, CopyNeverTakesTheBooksPlaceAndLeavesAFileOfTheUsersWritable) 
     user.start();
     attach(u"a.txt"_s, {});
     attach(u"b.txt"_s, {});
-    const QByteArray book = ApplicationFolder::contentOf(folder.database());
+    const QByteArray book = folder.contentOf(folder.database());
     const QString otherName = folder.path() + u"/other.txt"_s;
     QFile::link(folder.database(), otherName);
     for (const QString& target : {folder.database(), folder.path() + u"/Attachments/../FamilyInfo.mdb"_s, otherName,
@@ -185,12 +185,12 @@ TEST_F(DialogTest, CopyNeverTakesTheBooksPlaceAndLeavesAFileOfTheUsersWritable) 
         EXPECT_EQ(told(), u"Error in Copy Process: 70 - Permission deniedFile may be read only."_s)
             << target.toStdString();
     }
-    EXPECT_EQ(ApplicationFolder::contentOf(folder.database()), book);
+    EXPECT_EQ(folder.contentOf(folder.database()), book);
     EXPECT_FALSE(QFile::exists(folder.path() + u"/FamilyInfo_Empty.mdb"_s));
     const QString his = folder.source(u"his.txt"_s, "older");
     user.click(u"cmdCopy"_s);
     user.choose(his);
-    EXPECT_EQ(ApplicationFolder::contentOf(his), "content");
+    EXPECT_EQ(folder.contentOf(his), "content");
     EXPECT_FALSE(platform::files::isReadOnly(his));
 }
 

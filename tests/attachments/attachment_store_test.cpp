@@ -1,12 +1,12 @@
 #include "attachments/attachment_store.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 #include "data/connection.h"
 #include "platform/base/files.h"
-#include "platform/base/runtime_error.h"
 #include "tests/attachments/application_folder.h"
 #include "tests/data/hostile_disk.h"
+#include "tests/platform/error_number.h"
+#include "tests/support/database_file.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
@@ -30,16 +30,8 @@ protected:
             found.append(u"%1 %2"_s.arg(row.fileName).arg(row.seqNum));
         return found;
     }
-    void exec(const QString& statement) const {
-        SQLite::Database(folder.database().toStdString(), SQLite::OPEN_READWRITE).exec(statement.toStdString());
-    }
     static int errorOf(const std::function<void()>& operation) {
-        try {
-            operation();
-            return 0;
-        } catch (const platform::RuntimeError& error) {
-            return error.number();
-        }
+        return platform::test::errorNumber([&] { return operation(), 0; });
     }
 
     ApplicationFolder folder;
@@ -99,7 +91,7 @@ TEST_F(StoreTest, KeepsWhateverNameAFileHas) {
         EXPECT_EQ(rows[0].fileType, type);
         EXPECT_EQ(rows[0].fileDesc, u"It's Ann's"_s);
         EXPECT_EQ(rows[0].oldFileName, name);
-        EXPECT_EQ(ApplicationFolder::contentOf(folder.stored(stored)), name.toUtf8());
+        EXPECT_EQ(folder.contentOf(folder.stored(stored)), name.toUtf8());
         EXPECT_TRUE(files::isReadOnly(folder.stored(stored)));
         store.remove(stored);
         EXPECT_FALSE(QFile::exists(folder.stored(stored)));
@@ -111,7 +103,7 @@ TEST_F(StoreTest, StoresEmptyAndLargeFiles) {
     EXPECT_EQ(files::fileSize(folder.stored(u"Hom_3_17_0.txt"_s)), 0);
     const QByteArray scan(20 << 20, 's');
     attach(folder.source(u"scan.img"_s, scan + "end"));
-    EXPECT_TRUE(ApplicationFolder::contentOf(folder.stored(u"Hom_3_17_2.img"_s)) == scan + "end");
+    EXPECT_TRUE(folder.contentOf(folder.stored(u"Hom_3_17_2.img"_s)) == scan + "end");
 }
 
 TEST_F(StoreTest, LeavesNothingBehindAFailure) {
@@ -152,8 +144,9 @@ TEST_F(StoreTest, TouchesNoFileThatANameFromElsewhereLeadsTo) {
                               u"sub/inner.txt"_s,     u"x' or ''='"_s, QString(300, u'n')};
     for (const QString& name : strange) {
         EXPECT_FALSE(store.isStored(name)) << name.toStdString();
-        exec(u"INSERT INTO Attachments (FileName, BugNum, SeqNum) VALUES ('%1', 'Hom_3_17', 9)"_s.arg(
-            QString(name).replace(u'\'', u"''"_s)));
+        support::exec(folder.database(),
+                      u"INSERT INTO Attachments (FileName, BugNum, SeqNum) VALUES ('%1', 'Hom_3_17', 9)"_s.arg(
+                          QString(name).replace(u'\'', u"''"_s)));
     }
     EXPECT_EQ(names().size(), 1 + strange.size());
     for (const QString& name : strange) {

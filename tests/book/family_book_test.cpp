@@ -347,7 +347,7 @@ TEST_F(FamilyBook, NeverTakesThePlaceOfTheBooksFilesAndTellsWhyItCanNotBeSaved) 
     addMembers({u"Ann Larkin"_s});
     startWith(u"Whole Family"_s);
     const QByteArray before = bytesOf(u"SplashDef.txt"_s);
-    writeFile(u"locked.pdf"_s, "kept");
+    write(u"locked.pdf"_s, "kept");
     QFile::setPermissions(path(u"locked.pdf"_s), QFile::ReadOwner);
     SmallDisk disk;
     disk.fill();
@@ -440,7 +440,7 @@ TEST_F(FamilyBook, ThatIsStoppedLeavesNothing) {
         u"INSERT INTO HomeOwned (PersonID, Description) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
         "WHERE i < 4000) SELECT 1, 'Home' FROM n"_s);
     startWith(u"Whole Family"_s);
-    writeFile(u"book.pdf"_s, "the old one");
+    write(u"book.pdf"_s, "the old one");
     const QStringList names = namesIn({});
     auto* finger = new Impatient(u"Writing record "_s);
     save(path(u"book.pdf"_s));

@@ -1,13 +1,12 @@
 #include "data/coming_dates.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
-
-#include <QTemporaryDir>
 
 #include "data/connection.h"
 #include "data/tables.h"
 #include "data/template.h"
+#include "tests/support/database_file.h"
+#include "tests/support/test_folder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +20,13 @@ QDate day(const char* text) {
 
 class ComingDates : public testing::Test {
 protected:
-    ComingDates() : path_(folder_.filePath(u"family.mdb"_s)) {
+    ComingDates() {
         createTemplate(path_);
         sql("INSERT INTO Person (ID, Seq, LegalName) VALUES (1, 2, 'Bob'), (2, 1, 'Ann')");
         connection_.open(path_);
     }
 
-    void sql(const std::string& statements) const {
-        SQLite::Database(path_.toStdString(), SQLite::OPEN_READWRITE).exec(statements);
-    }
+    void sql(const std::string& statements) const { support::exec(path_, QString::fromStdString(statements)); }
 
     /// "2026-11-25 2 Ann: Bank, Maturity" for each.
     QStringList told(const char* today, int days) {
@@ -42,8 +39,8 @@ protected:
         return lines;
     }
 
-    QTemporaryDir folder_;
-    QString path_;
+    support::TestFolder folder_;
+    const QString path_ = folder_.path(u"family.mdb"_s);
     Connection connection_;
 };
 

@@ -3,9 +3,6 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <atomic>
 #include <thread>
 
@@ -14,6 +11,7 @@
 #include "data/recordset.h"
 #include "data/template.h"
 #include "hostile_disk.h"
+#include "tests/support/test_folder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,32 +19,22 @@ namespace {
 
 const QDate monday(2026, 11, 23);
 
-class DailyCopies : public testing::Test {
+class DailyCopies : public testing::Test, protected support::TestFolder {
 protected:
     DailyCopies() { data::createTemplate(live()); }
 
-    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
     [[nodiscard]] QString live() const { return path(u"FamilyInfo.mdb"_s); }
     void exec(const char* statement) const {
         SQLite::Database(live().toStdString(), SQLite::OPEN_READWRITE).exec(statement);
     }
     bool copyOf(QDate day) const { return data::makeDailyCopy(live(), path(u"Backup"_s), day, {}); }
-    [[nodiscard]] QStringList copies() const {
-        return QDir(path(u"Backup/Daily"_s))
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-    void write(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-
-    QTemporaryDir folder_;
+    [[nodiscard]] QStringList copies() const { return namesIn(u"Backup/Daily"_s); }
 };
 
 TEST_F(DailyCopies, SevenDaysStayAndWhatElseLiesThereToo) {
     copyOf(monday);
     EXPECT_FALSE(QFile::exists(path(u"Backup"_s))) << "the folder of backups is the family's to make";
-    QDir(folder_.path()).mkpath(u"Backup/Daily"_s);
+    makeFolder(u"Backup/Daily"_s);
     const QStringList others{u"2026-11-01.mdb"_s, u"FamilyInfo_2026-11-01.mdb.txt"_s, u"FamilyInfo_old.mdb"_s};
     for (const QString& name : others)
         write(u"Backup/Daily/"_s + name, "x");
@@ -68,22 +56,20 @@ TEST_F(DailyCopies, HoldTheDaysFirstStateWithoutASecretInClear) {
     exec("INSERT INTO Person (LegalName) VALUES ('Ann')");
     exec(
         "INSERT INTO PIN_Password (PersonID, Account, PIN_Password, Encrypted) VALUES (1, 'Bank', 'opensesame', 'PT')");
-    QDir(folder_.path()).mkdir(u"Backup"_s);
+    makeFolder(u"Backup"_s);
     copyOf(monday);
     exec("INSERT INTO Person (LegalName) VALUES ('Benedikt')");
     copyOf(monday);
     const QString copy = path(u"Backup/Daily/FamilyInfo_2026-11-23.mdb"_s);
     EXPECT_NO_THROW(data::checkDatabase(copy));
-    QFile file(copy);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = bytesOf(copy);
     EXPECT_TRUE(bytes.contains("Ann"));
     EXPECT_FALSE(bytes.contains("Benedikt"));
     EXPECT_FALSE(bytes.contains("opensesame"));
 }
 
 TEST_F(DailyCopies, ThatFailLeaveNothingBehindAndTakeNoOlderOneAway) {
-    QDir(folder_.path()).mkdir(u"Backup"_s);
+    makeFolder(u"Backup"_s);
     for (int day = -7; day < 0; ++day)
         ASSERT_TRUE(copyOf(monday.addDays(day)));
     const QStringList before = copies();
@@ -115,7 +101,7 @@ TEST_F(DailyCopies, AreOfOneMomentWhileTheFamilySaves) {
     exec(
         "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
         "INSERT INTO Contacts (Comment, Zip) SELECT hex(randomblob(1500)), '0' FROM n");
-    QDir(folder_.path()).mkdir(u"Backup"_s);
+    makeFolder(u"Backup"_s);
     data::Connection connection;
     connection.open(live());
     std::atomic<bool> copying = true;

@@ -1,14 +1,10 @@
 #include "data/database_files.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <csignal>
 
 #include "data/book_check.h"
@@ -17,6 +13,8 @@
 #include "hostile_disk.h"
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
+#include "tests/support/database_file.h"
+#include "tests/support/test_folder.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
@@ -34,39 +32,18 @@ QString errorOf(Action action) {
     }
 }
 
-QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
-}
-
-void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-void exec(const QString& path, const char* statements) {
-    SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec(statements);
-}
-
 /// Without a word about attached files, as after the last of them.
 void replaceDatabase(const QString& source, const QString& live) {
     data::BookReplacement(live, {}, {}).replaceDatabase(source, {});
     QFile::remove(live + u".restoring"_s);
 }
 
-class DatabaseFiles : public testing::Test {
+class DatabaseFiles : public testing::Test, protected support::TestFolder {
 protected:
-    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
     [[nodiscard]] QString makeDatabase(const QString& name) const {
         data::createTemplate(path(name));
         return path(name);
     }
-    [[nodiscard]] QStringList names() const {
-        return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-
-    QTemporaryDir folder_;
 };
 
 TEST(CompanionFolder, IsNamedAfterTheFileUpToItsLastDot) {
@@ -93,17 +70,8 @@ TEST(CompanionFolder, IsNamedAfterTheFileUpToItsLastDot) {
     }
 }
 
-TEST(Kilobytes, HaveTwoDecimalsWithHalvesToTheEvenNeighbour) {
-    EXPECT_EQ(data::kilobytes(0), 0);
-    EXPECT_EQ(data::kilobytes(5), 0);
-    EXPECT_EQ(data::kilobytes(6), 0.01);
-    EXPECT_EQ(data::kilobytes(128), 0.12);
-    EXPECT_EQ(data::kilobytes(1024 + 384), 1.38);
-    EXPECT_EQ(data::kilobytes(qint64{500} << 20), 512000);
-}
-
 TEST_F(DatabaseFiles, FoldersThatHoldEachOtherAreNotApart) {
-    QDir(folder_.path()).mkpath(u"app/Attachments"_s);
+    makeFolder(u"app/Attachments"_s);
     QFile::link(path(u"app"_s), path(u"linkAttachments"_s));
     const QString live = path(u"app/Attachments"_s);
     for (const auto& near : {u"app/Attachments"_s, u"app"_s, u"app/Attachments/bAttachments"_s, u"linkAttachments"_s,
@@ -115,7 +83,7 @@ TEST_F(DatabaseFiles, FoldersThatHoldEachOtherAreNotApart) {
 }
 
 TEST_F(DatabaseFiles, FoldersThatCannotBeFollowedAreRefused) {
-    QDir(folder_.path()).mkpath(u"closed"_s);
+    makeFolder(u"closed"_s);
     QFile::link(u"loop"_s, path(u"loop"_s));
     const auto outcome = [&](const QString& folder) {
         return errorOf([&] { data::requireApart(path(folder), path(u"Attachments"_s)); });
@@ -125,7 +93,7 @@ TEST_F(DatabaseFiles, FoldersThatCannotBeFollowedAreRefused) {
     const QByteArray closed = path(u"closed"_s).toLocal8Bit();
     ASSERT_EQ(chmod(closed.constData(), 0), 0);
     {
-        const OrdinaryUser user(folder_.path(), path(u"none"_s), false);
+        const OrdinaryUser user(path(), path(u"none"_s), false);
         EXPECT_EQ(outcome(u"closed/x"_s), u"70 - Permission denied"_s);
     }
     chmod(closed.constData(), 0700);
@@ -164,7 +132,7 @@ TEST_F(DatabaseFiles, AFileThatIsNotAWholeDatabaseIsRefusedInWordsThatSayWhy) {
     for (const auto& [bytes, statements, reason] : cases) {
         SCOPED_TRACE(reason.toStdString());
         write(file, bytes);
-        if (*statements != 0) exec(file, statements);
+        if (*statements != 0) support::exec(file, QString::fromUtf8(statements));
         const QByteArray before = bytesOf(file);
         const QString error = errorOf([&] { data::checkDatabase(file); });
         EXPECT_TRUE(error.startsWith(u"-2147467259 - '%1' can't be used: %2"_s.arg(file, reason)))
@@ -176,7 +144,7 @@ TEST_F(DatabaseFiles, AFileThatIsNotAWholeDatabaseIsRefusedInWordsThatSayWhy) {
 
 TEST_F(DatabaseFiles, TheLiveFileIsReplacedAndKeepsNothingOfTheOldOne) {
     const QString source = makeDatabase(u"source.mdb"_s);
-    exec(source, "INSERT INTO Person (LegalName) VALUES ('New')");
+    support::exec(source, u"INSERT INTO Person (LegalName) VALUES ('New')"_s);
     files::setReadOnly(source);
     write(path(u"live.mdb"_s), "old");
     write(path(u"live.mdb-journal"_s), "of the old file");
@@ -184,7 +152,7 @@ TEST_F(DatabaseFiles, TheLiveFileIsReplacedAndKeepsNothingOfTheOldOne) {
     replaceDatabase(source, path(u"live.mdb"_s));
     EXPECT_EQ(bytesOf(path(u"live.mdb"_s)), bytesOf(source));
     EXPECT_FALSE(files::isReadOnly(path(u"live.mdb"_s)));
-    EXPECT_EQ(names(), QStringList({u"live.mdb"_s, u"source.mdb"_s}));
+    EXPECT_EQ(namesIn(), QStringList({u"live.mdb"_s, u"source.mdb"_s}));
 }
 
 TEST_F(DatabaseFiles, TheLiveFileIsNotReplacedByItself) {
@@ -208,11 +176,10 @@ TEST_F(DatabaseFiles, AFailedReplacementLeavesTheOldFileAlone) {
     EXPECT_EQ(bytesOf(onDisk), "old");
     EXPECT_EQ(QDir(disk.folder()).entryList(QDir::Files | QDir::Hidden), QStringList{u"live.mdb"_s});
 
-    QDir(folder_.path()).mkpath(u"locked"_s);
     const QString locked = path(u"locked/live.mdb"_s);
     write(locked, "old");
     for (const bool folderOnly : {true, false}) {
-        ASSERT_EQ(::chmod(qPrintable(folder_.path()), 0755), 0);
+        ASSERT_EQ(::chmod(qPrintable(path()), 0755), 0);
         const OrdinaryUser user(path(u"locked"_s), locked, folderOnly);
         EXPECT_EQ(errorOf([&] { replaceDatabase(source, locked); }), u"70 - Permission denied"_s);
     }
@@ -222,7 +189,7 @@ TEST_F(DatabaseFiles, AFailedReplacementLeavesTheOldFileAlone) {
 TEST_F(DatabaseFiles, ARunKilledWhileItReplacesLeavesOneOfTheTwoFilesWhole) {
     const QString first = makeDatabase(u"first.mdb"_s);
     const QString second = makeDatabase(u"second.mdb"_s);
-    exec(second, "INSERT INTO Person (LegalName) VALUES ('Second')");
+    support::exec(second, u"INSERT INTO Person (LegalName) VALUES ('Second')"_s);
     const QString live = makeDatabase(u"live.mdb"_s);
     int interrupted = 0;
     // How long a copy takes is the machine's affair: it goes on until a kill has met one.
@@ -241,7 +208,7 @@ TEST_F(DatabaseFiles, ARunKilledWhileItReplacesLeavesOneOfTheTwoFilesWhole) {
     EXPECT_GT(interrupted, 0) << "no kill ever met a file half copied";
     data::BookReplacement(live, path(u"Attachments"_s), path(u"Backup"_s)).discardRemains();
     QFile::remove(live + u".restoring"_s);
-    EXPECT_EQ(names(), QStringList({u"first.mdb"_s, u"live.mdb"_s, u"second.mdb"_s}));
+    EXPECT_EQ(namesIn(), QStringList({u"first.mdb"_s, u"live.mdb"_s, u"second.mdb"_s}));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
@@ -10,6 +9,7 @@
 #include "data/connection.h"
 #include "data/recordset.h"
 #include "platform/base/runtime_error.h"
+#include "tests/support/database_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,11 +33,7 @@ protected:
     }
 
     /// First value of the first row, as the file holds it, read by another connection.
-    [[nodiscard]] QString stored(const char* select) const {
-        SQLite::Database other(path_.toStdString(), SQLite::OPEN_READONLY);
-        const auto value = other.execAndGet(select);
-        return value.isNull() ? u"null"_s : QString::fromUtf8(value.getText());
-    }
+    [[nodiscard]] QString stored(const char* select) const { return support::cell(path_, QString::fromUtf8(select)); }
 
     void open(data::Recordset& rows, const char* statement) { rows.open(QString::fromUtf8(statement), connection_); }
 

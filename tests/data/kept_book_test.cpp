@@ -3,14 +3,11 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
 #include "data/book_replacement.h"
 #include "data/template.h"
 #include "hostile_disk.h"
 #include "platform/base/files.h"
+#include "tests/support/test_folder.h"
 
 using namespace Qt::StringLiterals;
 namespace files = platform::files;
@@ -18,19 +15,13 @@ namespace files = platform::files;
 namespace {
 
 /// A book of 1,200 KB of attached files, and one of 1,500 KB elsewhere that takes its place.
-class KeptBooks : public testing::Test {
+class KeptBooks : public testing::Test, protected support::TestFolder {
 protected:
     KeptBooks() {
-        QDir(elsewhere_.path()).mkdir(u"MonAttachments"_s);
-        data::createTemplate(elsewhere_.filePath(u"Mon.mdb"_s));
-        write(elsewhere_.filePath(u"MonAttachments/new.txt"_s), QByteArray(1'500'000, 'n'));
+        data::createTemplate(path(u"Mon.mdb"_s));
+        write(path(u"MonAttachments/new.txt"_s), QByteArray(1'500'000, 'n'));
     }
-    static void write(const QString& path, const QByteArray& bytes) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    static void layOut(const QString& folder) {
-        QDir(folder).mkdir(u"Attachments"_s);
+    void layOut(const QString& folder) const {
         data::createTemplate(folder + u"/FamilyInfo.mdb"_s);
         for (const auto& name : {u"a.txt"_s, u"b.txt"_s}) {
             write(folder + u"/Attachments/"_s + name, QByteArray(600'000, 'o'));
@@ -39,16 +30,11 @@ protected:
     }
     void replaceIn(const QString& folder) const {
         data::BookReplacement book(folder + u"/FamilyInfo.mdb"_s, folder + u"/Attachments"_s, folder + u"/Backup"_s);
-        book.replaceDatabase(elsewhere_.filePath(u"Mon.mdb"_s), elsewhere_.filePath(u"MonAttachments"_s));
+        book.replaceDatabase(path(u"Mon.mdb"_s), path(u"MonAttachments"_s));
         book.replaceAttachments();
         EXPECT_EQ(namesIn(folder + u"/Attachments"_s), QStringList{u"new.txt"_s});
         EXPECT_EQ(files::fileSize(folder + u"/Attachments/new.txt"_s), 1'500'000);
     }
-    static QStringList namesIn(const QString& folder) {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-
-    QTemporaryDir elsewhere_;
 };
 
 TEST_F(KeptBooks, GiveWayWhereThereIsRoomForOneBookOnly) {

@@ -3,9 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QSet>
-#include <QTemporaryDir>
 
 #include "data/book_replacement.h"
 #include "data/connection.h"
@@ -15,6 +13,7 @@
 #include "platform/base/files.h"
 #include "platform/base/folder_replacement.h"
 #include "platform/base/text_writer.h"
+#include "tests/support/test_folder.h"
 #include "tests/support/watched_disk.h"
 
 using namespace Qt::StringLiterals;
@@ -24,30 +23,16 @@ namespace files = platform::files;
 
 namespace {
 
-class PowerCut : public testing::Test {
+class PowerCut : public testing::Test, protected support::TestFolder {
 protected:
     PowerCut() {
         data::createTemplate(path(u"FamilyInfo.mdb"_s));
         data::createTemplate(path(u"Mon.mdb"_s));
         for (const auto& name : {u"Attachments"_s, u"MonAttachments"_s}) {
-            QDir(folder_.path()).mkdir(name);
+            makeFolder(name);
             for (const auto& file : {u"/a.txt"_s, u"/b.txt"_s})
                 files::copyFile(path(u"Mon.mdb"_s), path(name + file));
         }
-    }
-    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
-
-    [[nodiscard]] QStringList namesIn(const QString& name) const {
-        return QDir(path(name)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-    [[nodiscard]] QByteArray bytesOf(const QString& name) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
-        return file.readAll();
-    }
-    void write(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
     /// Of the books kept in the folder of backups.
     [[nodiscard]] QStringList keptNames() const {
@@ -112,8 +97,6 @@ protected:
         }
         return renames;
     }
-
-    QTemporaryDir folder_;
 };
 
 TEST_F(PowerCut, NoFileBearsItsNameBeforeItIsOnTheDisk) {
@@ -123,7 +106,7 @@ TEST_F(PowerCut, NoFileBearsItsNameBeforeItIsOnTheDisk) {
     book.replaceAttachments();
     const QString live = u"rename %1.new %1"_s.arg(path(u"FamilyInfo.mdb"_s));
     const QString note = path(u"FamilyInfo.mdb.restoring"_s);
-    EXPECT_GT(disk.last(u"flush "_s + folder_.path(), disk.last(live)), 0) << "the note is there before the new file";
+    EXPECT_GT(disk.last(u"flush "_s + path(), disk.last(live)), 0) << "the note is there before the new file";
     EXPECT_GT(disk.last(u"remove "_s + note), disk.last(u"flush "_s + path(u"Attachments"_s)));
 
     files::copyFile(path(u"FamilyInfo.mdb"_s), path(u"Tue.mdb"_s));
@@ -137,7 +120,7 @@ TEST_F(PowerCut, NoFileBearsItsNameBeforeItIsOnTheDisk) {
 }
 
 TEST_F(PowerCut, ABookThatIsKeptBearsItsNameWhenItIsOnTheDisk) {
-    QDir(folder_.path()).mkdir(u"Backup"_s);
+    makeFolder(u"Backup"_s);
     const support::WatchedDisk disk;
     replaceByMonday();
     const QString kept = u"Backup/"_s + keptNames().value(0);
@@ -151,7 +134,7 @@ TEST_F(PowerCut, ABookThatIsKeptBearsItsNameWhenItIsOnTheDisk) {
 }
 
 TEST_F(PowerCut, WhereverARunDiesOneBookIsLiveAndTheOtherOneCanBeRestored) {
-    QDir(folder_.path()).mkdir(u"Backup"_s);
+    makeFolder(u"Backup"_s);
     SQLite::Database(path(u"Mon.mdb"_s).toStdString(), SQLite::OPEN_READWRITE)
         .exec("INSERT INTO Person (LegalName) VALUES ('Monday')");
     const QByteArray old = bytesOf(u"FamilyInfo.mdb"_s);
@@ -206,7 +189,7 @@ TEST_F(PowerCut, ASaveWaitsForTheDiskAtEachStep) {
     EXPECT_GT(disk.last(u"flush "_s + journal, disk.operations().indexOf(u"write "_s + live)), 0);
     EXPECT_GT(flushed, written);
     EXPECT_GT(ended, flushed);
-    EXPECT_GT(disk.last(u"flush "_s + folder_.path()), ended);
+    EXPECT_GT(disk.last(u"flush "_s + path()), ended);
 }
 
 }  // namespace

@@ -41,19 +41,6 @@ QString plan(SQLite::Database& database, const std::string& sql) {
 
 }  // namespace
 
-TEST(Tables, NamesAreDistinctEvenWithoutCase) {
-    QSet<QString> tables;
-    for (const auto& table : data::allTables()) {
-        tables.insert(QString(table.name).toLower());
-        QSet<QString> columns;
-        const auto stored = data::storedColumns(table);
-        for (const auto& column : stored)
-            columns.insert(QString(column.name).toLower());
-        EXPECT_EQ(columns.size(), qsizetype(stored.size())) << table.name.data();
-    }
-    EXPECT_EQ(tables.size(), qsizetype(data::allTables().size()));
-}
-
 TEST(Tables, TextBoxesStandBeforeCheckBoxes) {
     for (const auto& table : data::allTables()) {
         const auto isCheck = [](const data::Column& column) { return column.kind == data::FieldKind::YesNo; };
@@ -92,25 +79,6 @@ TEST_F(TemplateFile, DeclaresKeysAndKinds) {
             "SELECT group_concat(name || ' ' || type, ', ') FROM pragma_table_info('" + std::string(table) + "')";
         EXPECT_EQ(text(database, list.c_str()), columns) << table;
     }
-}
-
-TEST_F(TemplateFile, HasNoOtherTableAndNoRowButTheStates) {
-    auto database = open();
-    EXPECT_EQ(text(database, "SELECT Count(*) FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'"),
-              QString::number(data::allTables().size()));
-    for (const auto& table : data::allTables()) {
-        if (table.name == "LUStates"_L1) continue;
-        EXPECT_EQ(database.execAndGet("SELECT Count(*) FROM " + std::string(table.name.data())).getInt(), 0);
-    }
-    EXPECT_EQ(text(database, "PRAGMA page_size"), u"4096"_s);
-    EXPECT_EQ(text(database, "PRAGMA journal_mode"), u"delete"_s);
-    EXPECT_EQ(text(database, "PRAGMA integrity_check"), u"ok"_s);
-}
-
-TEST_F(TemplateFile, KeepsSecretsInTheOrderOfTheirGrid) {
-    auto database = open();
-    EXPECT_EQ(text(database, "SELECT group_concat(name, ' ') FROM pragma_table_info('PIN_Password')"),
-              u"ID Seq Account UserName PIN_Password PersonID Encrypted"_s);
 }
 
 TEST_F(TemplateFile, OffersNoStateFirst) {

@@ -1,13 +1,12 @@
 #include "find/book_search.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
-
-#include <QTemporaryDir>
 
 #include "app/shown_rows.h"
 #include "data/template.h"
 #include "platform/base/runtime_error.h"
+#include "tests/support/database_file.h"
+#include "tests/support/test_folder.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -16,15 +15,13 @@ namespace {
 
 class BookSearch : public testing::Test {
 protected:
-    BookSearch() : path_(folder_.filePath(u"FamilyInfo.mdb"_s)) {
+    BookSearch() {
         data::createTemplate(path_);
         exec(u"INSERT INTO Person (LegalName, Seq) VALUES ('Ann Larkin', 1), ('Bob Larkin', 2)"_s);
         connection_.open(path_);
     }
 
-    void exec(const QString& statement) const {
-        SQLite::Database(path_.toStdString(), SQLite::OPEN_READWRITE).exec(statement.toStdString());
-    }
+    void exec(const QString& statement) const { support::exec(path_, statement); }
     /// The places as "Category|Member|Field: Text", one a line.
     QString found(const QString& typed, qint16 member = 0) {
         find::BookSearch search(connection_, app::shownRows());
@@ -42,8 +39,8 @@ protected:
         return lines.join(u'\n');
     }
 
-    QTemporaryDir folder_;
-    QString path_;
+    support::TestFolder folder_;
+    const QString path_ = folder_.path(u"FamilyInfo.mdb"_s);
     data::Connection connection_;
 };
 
@@ -152,13 +149,10 @@ TEST_F(BookSearch, TheTextIsThatAroundTheMatchInOneLine) {
 
 TEST_F(BookSearch, ItGoesOnInSlicesCountsAllAndKeepsTheFirst) {
     constexpr int rows = 6000;
-    {
-        SQLite::Database file(path_.toStdString(), SQLite::OPEN_READWRITE);
-        SQLite::Transaction all(file);
-        for (int i = 0; i < rows; ++i)
-            file.exec("INSERT INTO Contacts (Name, Addr) VALUES ('Name', 'Name')");
-        all.commit();
-    }
+    exec(
+        u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) INSERT INTO Contacts (Name, "
+        u"Addr) "
+        "SELECT 'Name', 'Name' FROM n"_s.arg(rows));
     find::BookSearch search(connection_, app::shownRows());
     search.begin(u"name"_s, 0);
     int slices = 0;

@@ -122,39 +122,4 @@ TEST_F(Find, ItLeavesAllAsItWasWhenClosedOrRefused) {
     EXPECT_FALSE(isOpen());
 }
 
-TEST_F(Find, ItIsNoneOfTheTenWindows) {
-    makeFamily();
-    for (const char* table : {"Marriage", "Parents", "Passports", "Funeral", "Education", "Residences", "Taxes"})
-        exec(u"INSERT INTO %1 (PersonID) VALUES (1)"_s.arg(QLatin1StringView(table)));
-    user.start();
-    user.pick(selector, u"Ann Larkin"_s);
-    for (const char* key : {"Home", "Marriage", "Parents", "Passports", "Funeral", "Education", "Residences", "Taxes"})
-        openNode(QLatin1StringView(key));
-    ASSERT_EQ(forms().size(), 10);
-    user.key(u"Ctrl+F"_s);
-    user.type(u"clock"_s);
-    user.key(u"Return"_s);
-    EXPECT_EQ(activeWindow(), u"frmWhoGetsWhat"_s) << "the tenth";
-    user.key(u"Ctrl+F"_s);
-    EXPECT_TRUE(isOpen()) << "looking is free";
-    user.key(u"Return"_s);
-    EXPECT_EQ(dismissBox(), u"Too Many Data Windows Open"_s);
-    EXPECT_EQ(forms().size(), 11);
-}
-
-TEST_F(Find, TheListOfPasswordsIsNotSearchedWhileItIsOpenEither) {
-    makeFamily();
-    exec(
-        u"INSERT INTO PIN_Password (Seq, PersonID, Account, UserName, PIN_Password, Encrypted) VALUES "
-        "(1, 1, 'Silver bank', 'silver', 'silver', 'PT')"_s);
-    user.start();
-    user.pick(selector, u"Ann Larkin"_s);
-    openNode(u"PINsPasswords"_s);
-    if (user.dialog()["name"_L1].toString() == u"frmLoginPIN"_s) user.key(u"Return"_s);
-    ASSERT_EQ(activeWindow(), u"frmPinsAndPasswords"_s);
-    user.key(u"Ctrl+F"_s);
-    user.type(u"silver"_s);
-    EXPECT_EQ(count(), u"Nothing found"_s);
-}
-
 }  // namespace

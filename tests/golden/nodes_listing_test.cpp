@@ -173,7 +173,7 @@ TEST_F(NodesListing, PicturesGoByTheListedTables) {
 }
 
 TEST_F(NodesListing, ClicksOpenAndCountWhatIsListed) {
-    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
+    write(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
     for (const QString& table : categoryTables())
         addRow(table, 1);
     startWith(u"Ann"_s);

@@ -22,7 +22,7 @@ protected:
 };
 
 TEST_F(AttachedList, ItemsKeepTheirFilesWhoeverIsSelected) {
-    writeFile(u"deed.txt"_s, "deed");
+    write(u"deed.txt"_s, "deed");
     open(u"WhoGetsWhat"_s, u"Ann Larkin"_s);
     EXPECT_EQ(attachKey(), u"WRec_0_0"_s);
     user.click(u"cmdAdd"_s);

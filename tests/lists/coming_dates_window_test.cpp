@@ -133,20 +133,6 @@ TEST_F(ComingDatesWindow, ARowLeadsToItsRecordAndTheRowsAreReadAnewBehindIt) {
     EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob O'Brien"_s);
 }
 
-TEST_F(ComingDatesWindow, CountsAmongTheTenWindows) {
-    for (const QString& table : {u"CheckingAccounts"_s, u"SavingsAccounts"_s, u"MoneyMarkets"_s, u"Bonds"_s,
-                                 u"Stocks"_s, u"Annuities"_s, u"AutoInsurance"_s})
-        exec(u"INSERT INTO %1 (PersonID) VALUES (1)"_s.arg(table));
-    open(u"Whole Family"_s);
-    for (const QString& node :
-         {u"CDs"_s, u"Checking"_s, u"Savings"_s, u"MoneyMarkets"_s, u"Bonds"_s, u"Stocks"_s, u"Annuities"_s, u"Auto"_s})
-        openNode(node);
-    EXPECT_EQ(forms().size(), 11);
-    user.menu(u"mComing"_s);
-    EXPECT_EQ(dismissBox(), u"Too Many Data Windows Open"_s);
-    EXPECT_EQ(activeWindow(), u"frmAutoInsurance"_s);
-}
-
 TEST_F(ComingDatesWindow, UnsavedChangesComeFirst) {
     startFor(u"Whole Family"_s);
     openNode(u"CDs"_s);

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
@@ -229,9 +228,7 @@ TEST_F(SequencedList, AListIsSavedAndPrintedWithItsVisibleColumns) {
     open();
     user.menu(u"mSave"_s);
     user.choose(path(u"list.txt"_s));
-    QFile file(path(u"list.txt"_s));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString text = QString::fromLatin1(file.readAll());
+    const QString text = QString::fromLatin1(bytesOf(u"list.txt"_s));
     EXPECT_TRUE(text.startsWith(u"          The Asset Liquidation Information Listing As Of "_s)) << text.toStdString();
     EXPECT_FALSE(text.contains(u"ID"_s));
     EXPECT_TRUE(text.contains(u"          1     Tools &  Dies"_s)) << text.toStdString();
@@ -244,7 +241,7 @@ TEST_F(SequencedList, AListIsSavedAndPrintedWithItsVisibleColumns) {
 
 TEST_F(SequencedList, AReadOnlySessionLooksButChangesNothing) {
     addRows(2);
-    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=\xcf\r\nSplash=1\r\n");
+    write(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=\xcf\r\nSplash=1\r\n");
     open();
     for (const QString& button : {u"cmdAdd"_s, u"cmdEdit"_s, u"cmdDelete"_s}) {
         user.click(button);

@@ -27,10 +27,7 @@ protected:
         addMembers(members);
         startFor(u"Whole Family"_s);
     }
-    QString saved(const QString& name) {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : u"no file"_s;
-    }
+    QString saved(const QString& name) { return QString::fromUtf8(bytesOf(name)); }
     void save(const QString& key, const QString& name) {
         user.tool(key);
         user.choose(path(name));
@@ -51,9 +48,8 @@ protected:
 TEST_F(RecordOutput, NeverTakesThePlaceOfTheBook) {
     startWith({u"Ann Larkin"_s});
     const QString before = cell(u"SELECT COUNT(*) || LegalName FROM Person"_s);
-    QDir(path({})).mkpath(u"Attachments"_s);
-    writeFile(u"Attachments/deed.pdf"_s, "deed");
-    writeFile(u"FamilyInfo_Empty.mdb"_s, "empty");
+    write(u"Attachments/deed.pdf"_s, "deed");
+    write(u"FamilyInfo_Empty.mdb"_s, "empty");
     ASSERT_EQ(link(path(u"Attachments/deed.pdf"_s).toLocal8Bit().constData(),
                    path(u"another name.txt"_s).toLocal8Bit().constData()),
               0);
@@ -149,7 +145,7 @@ TEST_F(RecordOutput, SavesTheRecordOverAnyFileButTheProtectedOne) {
     EXPECT_EQ(user.dialog()["title"_L1].toString(), u"Save As"_s);
     user.cancel();
     EXPECT_EQ(dismissBox(), u"No Filename"_s);
-    writeFile(u"splashdef.txt"_s, QByteArray(100'000, 'x'));
+    write(u"splashdef.txt"_s, QByteArray(100'000, 'x'));
     save(u"tbSave"_s, u"splashdef.txt"_s);
     const QString text = saved(u"splashdef.txt"_s);
     EXPECT_TRUE(text.startsWith(u"     The "_s));
@@ -230,7 +226,7 @@ private:
 };
 
 TEST_F(RecordOutput, ATextThatCanNotBeMadeIsToldApartAndLeavesTheOldFile) {
-    writeFile(u"a.txt"_s, "old");
+    write(u"a.txt"_s, "old");
     QStringList told;
     const auto unreadable = []() -> output::PrintableScreen {
         throw platform::RuntimeError(platform::Error::TypeMismatch);
@@ -391,7 +387,7 @@ TEST_F(RecordOutput, AListIsDrawnCellByCellWhereOneStringWouldNotKeepItsColumns)
 
 TEST_F(RecordOutput, ThePlatformsSaveDialogAsksBeforeItReplacesAFile) {
     startWith({u"Ann Larkin"_s});
-    writeFile(u"kept.txt"_s, "kept");
+    write(u"kept.txt"_s, "kept");
     user.tool(u"tbSave"_s);
     user.compose(u"kept"_s);
     for (const QString& answer : {u"No"_s, u"Yes"_s}) {
@@ -406,7 +402,7 @@ TEST_F(RecordOutput, ThePlatformsSaveDialogAsksBeforeItReplacesAFile) {
 TEST_F(RecordOutput, TellsWhyAFileCanNotBeWritten) {
     startWith({u"Ann Larkin"_s});
     QDir(path({})).mkdir(u"folder"_s);
-    writeFile(u"locked.txt"_s, "kept");
+    write(u"locked.txt"_s, "kept");
     QFile::setPermissions(path(u"locked.txt"_s), QFile::ReadOwner);
     struct {
         QString file, report;
@@ -424,22 +420,10 @@ TEST_F(RecordOutput, TellsWhyAFileCanNotBeWritten) {
     EXPECT_EQ(saved(u"locked.txt"_s), u"kept"_s);
 }
 
-TEST_F(RecordOutput, AFullDiskEndsTheSave) {
-    startWith({u"Ann Larkin"_s});
-    exec(u"UPDATE Person SET Comment = '%1'"_s.arg(QString(100'000, u'x')));
-    SmallDisk disk;
-    disk.fill();
-    user.tool(u"tbSaveAll"_s);
-    user.choose(disk.folder() + u"/all.txt"_s);
-    EXPECT_EQ(boxText(), u"61 - Disk full"_s);
-    EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
-    EXPECT_EQ(boxTitle(), u""_s);
-}
-
 TEST_F(RecordOutput, TextFilesHoldEveryWritingInUtf8WithoutAMark) {
     const QString name = u"\u0141ar\u043A \u0E81\U0001F3E1 \u05D0"_s;
     startWith({name});
-    writeFile(u"a.txt"_s, "old");
+    write(u"a.txt"_s, "old");
     QFile::setPermissions(path(u"a.txt"_s), QFile::ReadOwner | QFile::WriteOwner);
     save(u"tbSave"_s, u"a.txt"_s);
     EXPECT_TRUE(saved(u"a.txt"_s).startsWith(u"     The "_s));
@@ -450,9 +434,9 @@ TEST_F(RecordOutput, TextFilesHoldEveryWritingInUtf8WithoutAMark) {
 }
 
 TEST_F(RecordOutput, TheCoverPageIsCentredAndHasTheCompanyAtItsFoot) {
-    writeFile(u"SplashDef.txt"_s,
-              "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nCompany=Larkmoor Ltd\r\nAddress=1 Hill\r\nCity=Barre\r\n"
-              "State=VT\r\nZip=05641\r\nPhone=555\r\nValue=\r\nSplash=1\r\n");
+    write(u"SplashDef.txt"_s,
+          "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nCompany=Larkmoor Ltd\r\nAddress=1 Hill\r\nCity=Barre\r\n"
+          "State=VT\r\nZip=05641\r\nPhone=555\r\nValue=\r\nSplash=1\r\n");
     exec(
         u"INSERT INTO CoverPage (Heading1, SubHeading1, Heading2, SubHeading2, Date) VALUES "
         "('Our Records', 'Kept well', 'Second', 'Sub', 'May 2026')"_s);

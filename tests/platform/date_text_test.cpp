@@ -196,11 +196,5 @@ TEST(DateText, DatesTurnIntoText) {
     }
 }
 
-TEST(Clock, ReadsTheComputersDate) {
-    const QDate before = QDate::currentDate();
-    const QDate today = systemClock().today();
-    EXPECT_TRUE(today >= before && today <= QDate::currentDate());
-}
-
 }  // namespace
 }  // namespace platform

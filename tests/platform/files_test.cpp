@@ -1,18 +1,14 @@
 #include "platform/base/files.h"
 
 #include <gtest/gtest.h>
-#include <sys/mount.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <csignal>
 #include <stdexcept>
 
+#include "tests/data/hostile_disk.h"
 #include "tests/platform/error_number.h"
+#include "tests/support/test_folder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,34 +31,13 @@ private:
     uid_t before_ = ::geteuid();
 };
 
-class Files : public testing::Test {
+class Files : public testing::Test, protected support::TestFolder {
 protected:
-    [[nodiscard]] QString path(const QString& name) const { return join(folder_.path(), name); }
-
-    QString make(const QString& name, const QByteArray& bytes = "x") const {
-        QDir().mkpath(QFileInfo(path(name)).absolutePath());
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return path(name);
-    }
-
     QString makeReadOnly(const QString& name) const {
-        const QString made = make(name, "old");
+        const QString made = write(name, "old");
         setReadOnly(made);
         return made;
     }
-
-    static QByteArray bytesOf(const QString& file) {
-        QFile opened(file);
-        EXPECT_TRUE(opened.open(QIODevice::ReadOnly)) << file.toStdString();
-        return opened.readAll();
-    }
-
-    static QStringList namesIn(const QString& folder) {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-
-    QTemporaryDir folder_;
 };
 
 TEST_F(Files, PathsAreJoinedAndCut) {
@@ -75,29 +50,29 @@ TEST_F(Files, PathsAreJoinedAndCut) {
 }
 
 TEST_F(Files, ExistenceAndSizes) {
-    const QString file = make(u"f"_s, "12345");
-    make(u"sub/deep/g"_s, "123");
+    const QString file = write(u"f"_s, "12345");
+    write(u"sub/deep/g"_s, "123");
     EXPECT_TRUE(fileExists(file) && !folderExists(file));
     EXPECT_TRUE(folderExists(path(u"sub"_s)) && !fileExists(path(u"sub"_s)));
     EXPECT_FALSE(fileExists(u""_s) || fileExists(path(u"*"_s)) || folderExists(u""_s));
     EXPECT_EQ(fileSize(file), 5);
-    EXPECT_EQ(folderSize(folder_.path()), 8);
+    EXPECT_EQ(folderSize(path()), 8);
     EXPECT_EQ(errorOf([&] { return fileSize(path(u"none"_s)); }), 53);
     EXPECT_EQ(errorOf([&] { return folderSize(path(u"none"_s)); }), 76);
 }
 
 TEST_F(Files, CopyReplacesTheTargetAndTakesAttributesAlong) {
     const QString source = makeReadOnly(u"source"_s);
-    const QString target = make(u"target"_s, "a longer content than the new one");
+    const QString target = write(u"target"_s, "a longer content than the new one");
     copyFile(source, target);
     EXPECT_EQ(bytesOf(target), "old");
     EXPECT_TRUE(isReadOnly(target));
-    EXPECT_EQ(namesIn(folder_.path()), QStringList({u"source"_s, u"target"_s}));
+    EXPECT_EQ(namesIn(), QStringList({u"source"_s, u"target"_s}));
 }
 
 TEST_F(Files, CopyThroughALinkKeepsTheLink) {
-    const QString source = make(u"source"_s, "new");
-    make(u"elsewhere/target"_s, "old");
+    const QString source = write(u"source"_s, "new");
+    write(u"elsewhere/target"_s, "old");
     QFile::link(path(u"elsewhere/target"_s), path(u"link"_s));
     copyFile(source, path(u"link"_s));
     EXPECT_TRUE(QFileInfo(path(u"link"_s)).isSymLink());
@@ -105,9 +80,9 @@ TEST_F(Files, CopyThroughALinkKeepsTheLink) {
 }
 
 TEST_F(Files, CopyRefusals) {
-    const QString source = make(u"source"_s);
+    const QString source = write(u"source"_s);
     const QString locked = makeReadOnly(u"locked"_s);
-    make(u"folder/in"_s);
+    write(u"folder/in"_s);
     EXPECT_EQ(errorOf([&] { copyFile(path(u"none"_s), path(u"t"_s)); }), 53);
     EXPECT_EQ(errorOf([&] { copyFile(path(u"folder"_s), path(u"t"_s)); }), 53);
     EXPECT_EQ(errorOf([&] { copyFile(source, path(u"none/t"_s)); }), 76);
@@ -117,28 +92,28 @@ TEST_F(Files, CopyRefusals) {
     EXPECT_EQ(errorOf([&] { copyFile(source, path(u"folder/../source"_s)); }), 70);
     EXPECT_EQ(bytesOf(locked), "old");
     EXPECT_EQ(bytesOf(source), "x");
-    EXPECT_EQ(namesIn(folder_.path()), QStringList({u"folder"_s, u"locked"_s, u"source"_s}));
+    EXPECT_EQ(namesIn(), QStringList({u"folder"_s, u"locked"_s, u"source"_s}));
 }
 
 TEST_F(Files, InterruptedCopyLeavesTheOldFileWhole) {
     const QByteArray content(20 << 20, 'n');
-    const QString source = make(u"source"_s, content);
-    const QString target = make(u"target"_s, "old");
+    const QString source = write(u"source"_s, content);
+    const QString target = write(u"target"_s, "old");
     const auto stop = [&](const QString& copy) {
         EXPECT_TRUE(bytesOf(copy) == content);
         throw std::runtime_error("stopped");
     };
     EXPECT_THROW(copyFile(source, target, stop), std::runtime_error);
     EXPECT_EQ(bytesOf(target), "old");
-    EXPECT_EQ(namesIn(folder_.path()), QStringList({u"source"_s, u"target"_s}));
+    EXPECT_EQ(namesIn(), QStringList({u"source"_s, u"target"_s}));
 }
 
 TEST_F(Files, AllFilesOfAFolder) {
-    make(u"from/a"_s, "a");
-    make(u"from/.hidden"_s, "h");
-    make(u"from/sub/b"_s, "b");
-    make(u"to/c"_s);
-    make(u"empty/sub/d"_s);
+    write(u"from/a"_s, "a");
+    write(u"from/.hidden"_s, "h");
+    write(u"from/sub/b"_s, "b");
+    write(u"to/c"_s);
+    write(u"empty/sub/d"_s);
     const QString to = path(u"to"_s);
     copyAllFiles(path(u"from"_s), to);
     EXPECT_EQ(namesIn(to), QStringList({u".hidden"_s, u"a"_s, u"c"_s}));
@@ -153,9 +128,9 @@ TEST_F(Files, AllFilesOfAFolder) {
 }
 
 TEST_F(Files, CopyOfAllFilesStopsAtTheFirstError) {
-    make(u"from/a"_s, "new");
-    make(u"from/b"_s, "new");
-    make(u"from/c"_s, "new");
+    write(u"from/a"_s, "new");
+    write(u"from/b"_s, "new");
+    write(u"from/c"_s, "new");
     makeReadOnly(u"to/b"_s);
     EXPECT_EQ(errorOf([&] { copyAllFiles(path(u"from"_s), path(u"to"_s)); }), 70);
     EXPECT_EQ(namesIn(path(u"to"_s)), QStringList({u"a"_s, u"b"_s}));
@@ -169,17 +144,17 @@ TEST_F(Files, ReadOnlyFilesAreDeletedOnlyByForce) {
     EXPECT_FALSE(fileExists(file));
     EXPECT_EQ(errorOf([&] { deleteFile(file, true); }), 53);
 
-    setReadOnly(make(u"g"_s), true);
+    setReadOnly(write(u"g"_s), true);
     setReadOnly(path(u"g"_s), false);
     deleteFile(path(u"g"_s), false);
     EXPECT_EQ(errorOf([&] { setReadOnly(path(u"g"_s)); }), 53);
 }
 
 TEST_F(Files, FoldersAreMergedAndDeletedWhole) {
-    make(u"from/a"_s, "new");
-    make(u"from/sub/b"_s, "new");
-    make(u"to/a"_s, "old");
-    make(u"to/kept"_s, "old");
+    write(u"from/a"_s, "new");
+    write(u"from/sub/b"_s, "new");
+    write(u"to/a"_s, "old");
+    write(u"to/kept"_s, "old");
     const QString from = path(u"from"_s);
     const QString to = path(u"to"_s);
     copyFolder(from, to);
@@ -203,16 +178,16 @@ TEST_F(Files, FoldersAreMergedAndDeletedWhole) {
 }
 
 TEST_F(Files, MissingRightsAreRefused) {
-    const QString secret = make(u"secret"_s);
-    make(u"closed/f"_s);
+    const QString secret = write(u"secret"_s);
+    write(u"closed/f"_s);
     QFile::setPermissions(secret, {});
     QFile::setPermissions(path(u"closed"_s), {});
-    ::chmod(QFile::encodeName(folder_.path()).constData(), 0755);
+    ::chmod(QFile::encodeName(path()).constData(), 0755);
     {
         const OrdinaryUser user;
         EXPECT_EQ(errorOf([&] { return readLines(secret); }), 70);
         EXPECT_EQ(errorOf([&] { copyFile(secret, u"/tmp/unwanted"_s); }), 70);
-        EXPECT_EQ(errorOf([&] { return folderSize(folder_.path()); }), 70);
+        EXPECT_EQ(errorOf([&] { return folderSize(path()); }), 70);
     }
     QFile::setPermissions(path(u"closed"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
@@ -233,7 +208,7 @@ TEST_F(Files, LinesEndAtLineFeedsOnly) {
         {"a\x0B\x0C\x1C\x85\x80\n", {u"a\u000B\u000C\u001C\u2026\u20AC"_s}},
     };
     for (const auto& [bytes, lines] : cases) {
-        EXPECT_EQ(readLines(make(u"text"_s, bytes)), lines) << bytes.toPercentEncoding().toStdString();
+        EXPECT_EQ(readLines(write(u"text"_s, bytes)), lines) << bytes.toPercentEncoding().toStdString();
     }
     EXPECT_EQ(errorOf([&] { return readLines(path(u"none"_s)); }), 53);
 }
@@ -249,46 +224,21 @@ TEST_F(Files, TextIsWrittenWholeOrNotAtAll) {
     setReadOnly(file);
     EXPECT_EQ(errorOf([&] { writeTextFile(file, u"a"_s); }), 70);
     EXPECT_EQ(bytesOf(file), "caf\xE9 \x80\r\nb\n");
-    EXPECT_EQ(namesIn(folder_.path()), QStringList(u"text"_s));
-}
-
-/// Runs a check in a folder where only some 512 KiB can be written: on a small disk of its own, or, without the right
-/// to mount one, in a child process whose files can't grow further.
-template <typename Check>
-void onSmallDisk(const QString& folder, Check check) {
-    ASSERT_TRUE(QDir().mkpath(folder));
-    const QByteArray name = QFile::encodeName(folder);
-    if (::mount("tmpfs", name.constData(), "tmpfs", 0, "size=512k") == 0) {
-        check(folder);
-        EXPECT_EQ(::umount(name.constData()), 0);
-        return;
-    }
-    const pid_t child = ::fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        const rlimit limit{512 << 10, 512 << 10};
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        check(folder);
-        ::_exit(testing::Test::HasFailure() ? 1 : 0);
-    }
-    int status = 0;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(namesIn(), QStringList(u"text"_s));
 }
 
 TEST_F(Files, FullDiskLeavesTheOldFilesWhole) {
-    const QString big = make(u"big"_s, QByteArray(3 << 20, 'n'));
-    const QString small = make(u"small"_s, QByteArray(100 << 10, 's'));
+    const QString big = write(u"big"_s, QByteArray(3 << 20, 'n'));
+    const QString small = write(u"small"_s, QByteArray(100 << 10, 's'));
     const QByteArray smallBytes = bytesOf(small);
-    onSmallDisk(path(u"disk"_s), [&](const QString& disk) {
-        const QString target = join(disk, u"target"_s);
-        copyFile(small, target);
-        EXPECT_EQ(errorOf([&] { copyFile(big, target); }), 61);
-        EXPECT_EQ(errorOf([&] { writeTextFile(target, QString(3 << 20, u'x')); }), 61);
-        EXPECT_EQ(bytesOf(target), smallBytes);
-        EXPECT_EQ(namesIn(disk), QStringList(u"target"_s));
-    });
+    const SmallDisk disk(512);
+    if (!disk.isMounted()) GTEST_SKIP() << "no disk of its own for the test";
+    const QString target = join(disk.folder(), u"target"_s);
+    copyFile(small, target);
+    EXPECT_EQ(errorOf([&] { copyFile(big, target); }), 61);
+    EXPECT_EQ(errorOf([&] { writeTextFile(target, QString(3 << 20, u'x')); }), 61);
+    EXPECT_EQ(bytesOf(target), smallBytes);
+    EXPECT_EQ(namesIn(disk.folder()), QStringList(u"target"_s));
 }
 
 }  // namespace

@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 #include <set>
 
-#include "data/tables.h"
 #include "screens/catalogue/person_entry.h"
 #include "screens/catalogue/screen_fields.h"
 
@@ -51,33 +49,6 @@ TEST(Catalogues, FramesTakeUpTheFieldsInTheirOrder) {
                     << QString(field).toStdString();
             }
         }
-    }
-}
-
-TEST(Catalogues, OwnWordsAreAboutColumnsOfTheTable) {
-    for (const ScreenDefinition& screen : allScreens()) {
-        SCOPED_TRACE(QString(screen.name).toStdString());
-        std::set<QString> columns;
-        for (const data::Column& column : data::table(QString(screen.table)).columns)
-            columns.insert(column.name);
-        for (const Override& own : screen.overrides)
-            EXPECT_TRUE(columns.contains(own.column));
-        for (const QLatin1StringView column : screen.leftOut)
-            EXPECT_TRUE(columns.contains(column));
-        EXPECT_TRUE(screen.unchecked.isEmpty() || columns.contains(screen.unchecked));
-    }
-}
-
-// The files of a record are found by the prefix, so it must lead to one table.
-TEST(Catalogues, APrefixMeansOneTable) {
-    std::map<QString, QString> tables;
-    std::set<QString> prefixes;
-    for (const ScreenDefinition& screen : allScreens()) {
-        if (screen.attachmentPrefix.isEmpty()) continue;
-        const QString table = screen.table;
-        EXPECT_EQ(tables.emplace(screen.attachmentPrefix, table).first->second, table);
-        const bool fresh = prefixes.insert(screen.attachmentPrefix).second;
-        EXPECT_TRUE(fresh || screen.shared) << QString(screen.name).toStdString();
     }
 }
 

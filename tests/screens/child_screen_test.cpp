@@ -103,7 +103,7 @@ TEST_F(ChildScreen, AnotherSiteTakesTheWindowOverOnlyWithoutChanges) {
 }
 
 TEST_F(ChildScreen, AReadOnlySessionSeesChildrenOnlyWhereThereAreSome) {
-    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
+    write(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
     exec(u"INSERT INTO Inventory (TypeID, ParentID, Type) VALUES (1, 1, 'Sofa')"_s);
     startWithSites();
     openNode(u"Home"_s);

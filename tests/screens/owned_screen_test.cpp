@@ -213,25 +213,6 @@ TEST_F(OwnedScreen, NothingIsSavedWithoutAnOwner) {
     EXPECT_EQ(dismissBox(), u"No Matching Family Member"_s);
 }
 
-TEST_F(OwnedScreen, AMoveBeyondAnEndStaysOnTheRow) {
-    openFor({u"Ann Larkin"_s}, u"Ann Larkin"_s, u"Taxes"_s);
-    save(u"Company:"_s, u"one"_s);
-    add(u"Company:"_s, u"two"_s);
-    struct Step {
-        QString key, status;
-    };
-    user.click(u"Company:"_s);
-    for (const Step& step : {Step{u"PageUp"_s, u"Record: 1 of 2"_s}, Step{u"Down"_s, u"Record: 2 of 2"_s},
-                             Step{u"Down"_s, u"Record: 2 of 2"_s}, Step{u"Ctrl+Up"_s, u"Record: 1 of 2"_s},
-                             Step{u"End"_s, u"Record: 2 of 2"_s}, Step{u"Home"_s, u"Record: 1 of 2"_s}}) {
-        user.forgetNoises();
-        user.key(step.key);
-        EXPECT_EQ(user.state()["beeps"_L1].toInt(), 0) << step.key.toStdString();
-        EXPECT_EQ(status(), step.status) << step.key.toStdString();
-        EXPECT_EQ(user.text(u"Person:"_s), u"Ann Larkin"_s);
-    }
-}
-
 TEST_F(OwnedScreen, ALoadThatFailsIsReportedByTheScreenOrByTheHost) {
     addMembers({u"Ann Larkin"_s});
     user.start();
@@ -249,7 +230,7 @@ TEST_F(OwnedScreen, ALoadThatFailsIsReportedByTheScreenOrByTheHost) {
 TEST_F(OwnedScreen, InAReadOnlySessionRowsAreSeenAndNothingIsChanged) {
     addMembers({u"Ann Larkin"_s, u"Bob Larkin"_s});
     exec(u"INSERT INTO Employers (PersonID, Employer) VALUES (1, 'Mill')"_s);
-    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
+    write(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
     startFor(u"Ann Larkin"_s);
     openNode(u"Taxes"_s);
     EXPECT_EQ(dismissBox(), u"Invalid Login"_s);

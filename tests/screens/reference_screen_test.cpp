@@ -113,7 +113,7 @@ TEST_F(ReferenceScreen, TheCoverPageKnowsNoChanges) {
 }
 
 TEST_F(ReferenceScreen, TheCoverPageCanBeChangedInAReadOnlySession) {
-    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
+    write(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nValue=secret\r\nSplash=1\r\n");
     startWithDoctors({});
     user.menu(u"mCoverPage"_s);
     dismissBox();

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -60,16 +59,12 @@ protected:
             "'refused'); END"_s.arg(condition));
     }
     void allow() { exec(u"DROP TRIGGER refusal"_s); }
-    QByteArray bytesOf(const QString& name) {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     /// Ends the run and leaves the file as a kill at the moment of the call would have.
     void kill() {
         const QByteArray left = bytesOf(u"FamilyInfo.mdb"_s);
         user.click(u"cmdClose"_s);
         user.close();
-        writeFile(u"FamilyInfo.mdb"_s, left);
+        write(u"FamilyInfo.mdb"_s, left);
     }
     void insert(const QString& rows) {
         exec(u"INSERT INTO PIN_Password (Seq, Account, PIN_Password, PersonID, Encrypted) VALUES "_s + rows);
@@ -188,8 +183,7 @@ TEST_F(PinList, SecretsThatCouldntBeEncipheredAreToldAndTheNextStartDoesIt) {
 }
 
 TEST_F(PinList, ABackupOfAnOpenListHoldsNoSecret) {
-    ASSERT_TRUE(QDir(path({})).mkdir(u"Attachments"_s));
-    writeFile(u"Attachments/deed.txt"_s, "deed");
+    write(u"Attachments/deed.txt"_s, "deed");
     start();
     open({});
     for (int i = 1; i <= 40; ++i)

@@ -1,52 +1,27 @@
 #include "tests/support/household.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 
 #include "data/template.h"
+#include "tests/support/database_file.h"
 #include "tests/support/kinbook_program.h"
 
 using namespace Qt::StringLiterals;
 
 namespace support {
 
-Household::Household() : user(hurriedKinbook(folder_.path())) {
+Household::Household() : user(hurriedKinbook(path())) {
     data::createTemplate(path(u"FamilyInfo.mdb"_s));
-    writeFile(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nValue=\r\nSplash=1\r\n");
-}
-
-void Household::writeFile(const QString& name, const QByteArray& bytes) const {
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray Household::bytesOf(const QString& name) const {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-    return file.readAll();
-}
-
-QStringList Household::namesIn(const QString& folder) const {
-    return QDir(path(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    write(u"SplashDef.txt"_s, "CompanyName=Larkmoor\r\nProductName=Kinbook\r\nValue=\r\nSplash=1\r\n");
 }
 
 void Household::exec(const QString& statement) const {
-    SQLite::Database file(path(u"FamilyInfo.mdb"_s).toStdString(), SQLite::OPEN_READWRITE, 2000);
-    // Nobody waits for the disk here but the program.
-    file.exec("PRAGMA synchronous = OFF");
-    file.exec(statement.toStdString());
+    support::exec(path(u"FamilyInfo.mdb"_s), statement);
 }
 
 QString Household::cell(const QString& statement) const {
-    const SQLite::Database file(path(u"FamilyInfo.mdb"_s).toStdString(), SQLite::OPEN_READONLY, 2000);
-    SQLite::Statement query(file, statement.toStdString());
-    if (!query.executeStep() || query.getColumn(0).isNull()) return u"null"_s;
-    return QString::fromStdString(query.getColumn(0).getString());
+    return support::cell(path(u"FamilyInfo.mdb"_s), statement);
 }
 
 void Household::addMembers(const QStringList& legalNames) const {

@@ -3,24 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <QString>
-#include <QTemporaryDir>
 
 #include "tests/support/print.h"
+#include "tests/support/test_folder.h"
 #include "tests/support/user.h"
 
 namespace support {
 
 /// An application folder of its own, with an empty family in it, and a user in front of the program there.
-class Household : public testing::Test {
+class Household : public testing::Test, protected TestFolder {
 protected:
     Household();
 
-    /// A path in the application folder.
-    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
-    void writeFile(const QString& name, const QByteArray& bytes) const;
-    [[nodiscard]] QByteArray bytesOf(const QString& name) const;
-    /// All that lies in a folder of the application folder, by name.
-    [[nodiscard]] QStringList namesIn(const QString& folder) const;
     /// Changes the database file from outside the program.
     void exec(const QString& statement) const;
     /// First column of the statement's first row as text; "null" for a null and for no row.
@@ -47,10 +41,6 @@ protected:
     /// Opens the branches above a node and clicks it.
     void openNode(const QString& key);
 
-private:
-    QTemporaryDir folder_;
-
-protected:
     User user;
 };
 

@@ -4,9 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
-#include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <stdexcept>
@@ -21,7 +19,6 @@
 #include "platform/forms/memo_box.h"
 #include "platform/forms/menus.h"
 #include "platform/forms/text_box.h"
-#include "platform/forms/tree_view.h"
 
 using namespace Qt::StringLiterals;
 
@@ -53,42 +50,10 @@ public:
         auto* tell = named(new platform::CommandButton, u"cmdTell"_s);
         tell->onClick(handler([this] { this->desktop().notice(u"Told."_s); }));
         layout->addWidget(tell);
-        layout->addWidget(makeGrid());
-        layout->addWidget(makeList());
     }
 
     [[nodiscard]] bool keyPreview() const override { return true; }
     void Form_KeyPress(int keyAscii) override { setCaption(u"Key %1"_s.arg(keyAscii)); }
-
-private:
-    QWidget* makeGrid() {
-        constexpr int rows = 40;
-        auto* grid = new QTableWidget(rows, 2);
-        grid->setObjectName(u"grdDataGrid"_s);
-        grid->setHorizontalHeaderLabels({u"ID"_s, u"Account"_s});
-        grid->setColumnHidden(0, true);
-        grid->setColumnWidth(1, 150);
-        for (int row = 0; row < rows; ++row) {
-            grid->setItem(row, 0, new QTableWidgetItem(QString::number(row + 1)));
-            grid->setItem(row, 1, new QTableWidgetItem(u"Account %1"_s.arg(row)));
-        }
-        return grid;
-    }
-
-    /// Its context menu tells its entry in the caption.
-    QWidget* makeList() {
-        auto* list = new QListWidget;
-        list->setObjectName(u"lvFiles"_s);
-        list->addItems({u"a.txt"_s, u"b.txt"_s});
-        list->setContextMenuPolicy(Qt::CustomContextMenu);
-        auto* menu = platform::makeMenu(*this, u"mnuPopupMenu"_s, {});
-        platform::addEntry(*menu, u"mnuView"_s, u"View"_s,
-                           handler([this, list] { setCaption(u"View "_s + list->currentItem()->text()); }));
-        platform::addEntry(*menu, u"mnuAdd"_s, u"Add"_s, {})->setEnabled(false);
-        connect(list, &QWidget::customContextMenuRequested, this,
-                [list, menu](const QPoint& place) { menu->exec(list->viewport()->mapToGlobal(place)); });
-        return list;
-    }
 };
 
 class TestForm : public platform::FormWindow {
@@ -196,28 +161,12 @@ private:
             write(yes ? u"Yes"_s : u"No"_s);
             if (yes) desktop().notice(u"Done."_s, u"Told"_s, platform::Icon::Critical);
         });
-        addButton(*layout, u"cmdFile"_s, u"File"_s, [this] {
-            write(u"File "_s + desktop().dialogs().fileDialog({.mode = platform::FileRequest::Mode::Save,
-                                                               .folder = u"/tmp"_s,
-                                                               .filterText = u"Text Files (*.txt)"_s,
-                                                               .filterPattern = u"*.txt"_s,
-                                                               .title = u"Save it"_s,
-                                                               .fileName = u"preset"_s,
-                                                               .suffix = u"txt"_s}));
-        });
-        addButton(*layout, u"cmdInput"_s, u"Input"_s,
-                  [this] { write(u"Input "_s + desktop().dialogs().inputBox(u"Name?"_s, u"Naming"_s, u"old"_s)); });
         addButton(*layout, u"cmdModal"_s, u"Modal"_s, [this] {
             auto& dialog = desktop().load(std::make_unique<TestDialog>(desktop()));
             dialog.showModal();
             if (!dialog.isLoaded()) return write(u"Unloaded"_s);
             write(u"Hidden "_s + static_cast<QLineEdit*>(&dialog.control(u"txtAccount"_s)->widget())->text());
             dialog.unload();
-        });
-        addButton(*layout, u"cmdWait"_s, u"Wait"_s, [this] {
-            desktop().wait(0.3);
-            desktop().beep();
-            write(u"Waited"_s);
         });
         addButton(*layout, u"cmdFail"_s, u"Fail"_s,
                   [] { throw platform::RuntimeError(platform::Error::ObjectNotSet); });
@@ -250,11 +199,8 @@ public:
         auto* panel = new QWidget;
         auto* layout = new QVBoxLayout(panel);
         auto* person = named(new platform::ComboBox, u"cbPerson"_s);
-        for (int i = 0; i < 40; ++i)
-            person->addItem(u"Member %1"_s.arg(i));
         layout->addWidget(person);
         layout->addWidget(named(new platform::CommandButton, u"cmdAddNew"_s));
-        layout->addWidget(makeTree());
         setPanel(*panel);
         QMenu* file = platform::makeMenu(*this, u"mFile"_s, u"&File"_s);
         platform::addEntry(*file, u"mExit"_s, u"E&xit"_s, handler([this] { closeHost(); }));
@@ -265,17 +211,6 @@ protected:
     void closeHost() override {
         desktop().unloadAll([this](const Form& form) { return &form != this; });
         if (desktop().count() == 1) unload();
-    }
-
-private:
-    QWidget* makeTree() {
-        auto* tree = named(new platform::TreeView, u"tvTree"_s);
-        tree->addNode({}, u"Top"_s, u"Kinbook"_s);
-        tree->addNode(u"Top"_s, u"Branch"_s, u"Branch"_s);
-        tree->addNode(u"Branch"_s, u"Leaf"_s, u"Leaf"_s);
-        tree->addNode(u"Top"_s, u"Last"_s, u"Last"_s);
-        tree->onNodeClick([this, tree](int index) { setCaption(u"Host "_s + tree->key(index)); });
-        return tree;
     }
 };
 

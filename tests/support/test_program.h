@@ -7,12 +7,11 @@ namespace support {
 
 /// A host with one child window, which has a control of each kind and writes down its events.
 ///
-/// "MDIHost" has cbPerson, cmdAddNew and tvTree (root "Top" > "Branch" > "Leaf", and "Last" under the root) on its
-/// panel. "frmTest" has txtFields(0) to (3) (0 refuses to be left with "bad" in it and says so in a box, 1 with "mute"
-/// in it without one, 2 has many lines, 3 is locked), cbFields(0) (locked: cbFields(1)), chkFields(0), buttons that
-/// open each kind of dialog, toolbar keys tbPrint and tbAttach (disabled), and the menu mFile. lblLog shows its events.
-/// cmdModal opens "frmDialog" with txtAccount, the grid grdDataGrid (40 rows, its ID hidden) and the list lvFiles,
-/// which has a context menu. mThrow ends in an exception that is no RuntimeError, mDie in one past Desktop::run.
+/// "MDIHost" has cbPerson and cmdAddNew on its panel. "frmTest" has txtFields(0) to (3) (0 refuses to be left with
+/// "bad" in it and says so in a box, 1 with "mute" in it without one, 2 has many lines, 3 is locked), cbFields(0)
+/// (locked: cbFields(1)), chkFields(0), buttons, toolbar keys tbPrint and tbAttach (disabled), and the menu mFile.
+/// lblLog shows its events. cmdAsk asks in a box; cmdModal opens "frmDialog" with txtAccount. mThrow ends in an
+/// exception that is no RuntimeError, mDie in one past Desktop::run.
 [[nodiscard]] MakeProgram testProgram();
 
 /// The events that frmTest wrote down since the last call, each followed by a semicolon.

@@ -56,7 +56,6 @@ TEST_F(UserTest, RefusesWhatNoUserCouldDo) {
         {u"menu mExit"_s, u"the menu has no entry mExit"_s},
         {u"pick cbFields(1) Cy"_s, u"the list of cbFields(1) did not open"_s},
         {u"pick cbFields(0) Dan"_s, u"cbFields(0) has no entry \"Dan\""_s},
-        {u"node Leaf"_s, u"Leaf is inside the collapsed branch Branch"_s},
         {u"answer OK"_s, u"no message box is open"_s},
         {u"key Hyper"_s, u"unknown key: Hyper"_s},
         {u"dance"_s, u"unknown command: dance"_s},
@@ -73,14 +72,6 @@ TEST_F(UserTest, RefusesWhatNoUserCouldDo) {
               u"cmdSave is out of reach: MessageBox \"Asking\" is open in front of it"_s);
 }
 
-TEST_F(UserTest, ReturnsWhenTheProgramIsIdle) {
-    EXPECT_EQ(say(u"click cmdWait"_s)[u"beeps"_s].toInt(), 1);
-    EXPECT_EQ(log.news(), u"Waited;"_s);
-    EXPECT_EQ(say(u"state"_s)[u"beeps"_s].toInt(), 0) << "beeps count from the answer before";
-    say(u"key Alt+M"_s);
-    EXPECT_EQ(say(u"get chkFields(0)"_s)[u"value"_s].toInt(), 1) << "an accelerator's click comes late";
-}
-
 TEST_F(UserTest, TypesEveryCharacter) {
     const QString odd = u"Añ \"q\" (x) £€ 漢 \U0001F600 \\"_s;
     say(u"fill txtFields(0) \"Añ \\\"q\\\" (x) £€ 漢 \\ud83d\\ude00 \\\\\""_s);
@@ -95,63 +86,6 @@ TEST_F(UserTest, TypesEveryCharacter) {
     EXPECT_EQ(user.text(u"txtFields(2)"_s), QString());
     user.fill(u"txtFields(3)"_s, u"x"_s);
     EXPECT_EQ(user.text(u"txtFields(3)"_s), u"fixed"_s) << "a locked box takes no typing";
-}
-
-TEST_F(UserTest, ChoosesByTheMouse) {
-    say(u"pick MDIHost.cbPerson \"Member 33\""_s);
-    EXPECT_EQ(user.text(u"MDIHost.cbPerson"_s), u"Member 33"_s);
-    say(u"pick cbFields(0) Cy"_s);
-    say(u"menu mNote"_s);
-    say(u"tool tbPrint"_s);
-    EXPECT_EQ(log.news(), u"Combo 2;mNote;tbPrint;"_s);
-
-    say(u"expand Top"_s);
-    say(u"expand Branch"_s);
-    say(u"node Leaf"_s);
-    EXPECT_EQ(say(u"form MDIHost"_s)[u"caption"_s].toString(), u"Host Leaf"_s);
-    say(u"collapse Top"_s);
-    EXPECT_FALSE(say(u"tree"_s)[u"nodes"_s][0][u"expanded"_s].toBool());
-}
-
-TEST_F(UserTest, FinishesDialogs) {
-    const QJsonObject file = say(u"click cmdFile"_s)[u"dialog"_s].toObject();
-    EXPECT_EQ(file, (QJsonObject{{u"kind"_s, u"file"_s},
-                                 {u"name"_s, u"FileDialog"_s},
-                                 {u"title"_s, u"Save it"_s},
-                                 {u"mode"_s, u"save"_s},
-                                 {u"folder"_s, u"/tmp"_s},
-                                 {u"filter"_s, u"Text Files (*.txt)"_s},
-                                 {u"suffix"_s, u"txt"_s},
-                                 {u"file"_s, u"preset"_s}}));
-    say(u"choose nowhere/new"_s);
-    say(u"click cmdFile"_s);
-    say(u"choose \"\""_s);
-    say(u"click cmdFile"_s);
-    say(u"cancel"_s);
-    EXPECT_EQ(log.news(), u"File /tmp/nowhere/new.txt;File ;File ;"_s);
-
-    EXPECT_EQ(say(u"click cmdInput"_s)[u"dialog"_s][u"value"_s].toString(), u"old"_s);
-    say(u"enter \"Zoë L\""_s);
-    say(u"click cmdInput"_s);
-    say(u"cancel"_s);
-    EXPECT_EQ(log.news(), u"Input Zoë L;Input ;"_s);
-}
-
-TEST_F(UserTest, ReadsAndSelectsRows) {
-    say(u"click cmdModal"_s);
-    const QJsonObject grid = say(u"grid"_s);
-    EXPECT_EQ(grid[u"columns"_s].toArray(), (QJsonArray{QJsonObject{{u"name"_s, u"ID"_s}, {u"width"_s, 0}},
-                                                        QJsonObject{{u"name"_s, u"Account"_s}, {u"width"_s, 150}}}));
-    EXPECT_EQ(grid[u"rows"_s].toArray().size(), 40);
-    EXPECT_EQ(grid[u"rows"_s][39].toArray(), (QJsonArray{u"40"_s, u"Account 39"_s}));
-    EXPECT_EQ(grid[u"current"_s].toInt(), -1);
-    say(u"select grdDataGrid 39"_s);
-    EXPECT_EQ(say(u"grid grdDataGrid"_s)[u"current"_s].toInt(), 39);
-    EXPECT_FALSE(say(u"select grdDataGrid 40"_s)[u"ok"_s].toBool());
-
-    say(u"select lvFiles 1"_s);
-    EXPECT_EQ(say(u"popup mnuAdd"_s)[u"error"_s].toString(), u"mnuAdd is disabled"_s);
-    EXPECT_EQ(say(u"popup mnuView"_s)[u"dialog"_s][u"title"_s].toString(), u"View b.txt"_s);
 }
 
 TEST_F(UserTest, ReadsControls) {
@@ -180,22 +114,6 @@ TEST_F(UserTest, ReadsControls) {
     }
 }
 
-TEST_F(UserTest, TheCloseBoxOfADialog) {
-    const auto error = [this] { return say(u"dismiss"_s)[u"error"_s].toString(); };
-    EXPECT_EQ(error(), u"neither a dialog nor a message box is open"_s);
-    say(u"click cmdAsk"_s);
-    EXPECT_EQ(error(), u"MessageBox \"Asking\" has no close box"_s);
-    say(u"answer Yes"_s);
-    EXPECT_TRUE(say(u"dismiss"_s)[u"dialog"_s].isNull()) << "the box of one button";
-    say(u"click cmdFile"_s);
-    say(u"dismiss"_s);
-    say(u"click cmdInput"_s);
-    say(u"dismiss"_s);
-    say(u"click cmdModal"_s);
-    say(u"dismiss"_s);
-    EXPECT_EQ(log.news(), u"Yes;File ;Input ;Unloaded;"_s);
-}
-
 TEST_F(UserTest, WhatTheProgramWouldNotSurviveEndsTheProcess) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     constexpr int died = 70;
@@ -213,18 +131,6 @@ TEST(Drive, EndsWithALineThatTellsWhatKilledIt) {
     const QByteArray last = drive.readAllStandardOutput().trimmed().split('\n').last();
     EXPECT_EQ(QJsonDocument::fromJson(last).object(),
               (QJsonObject{{u"ok"_s, false}, {u"error"_s, u"died: signal 06"_s}}));
-}
-
-TEST_F(UserTest, TheProgramCanBePlayedAgain) {
-    say(u"fill txtFields(0) kept"_s);
-    say(u"close"_s);
-    EXPECT_TRUE(say(u"answer No"_s)[u"running"_s].toBool());
-    say(u"close"_s);
-    const QJsonObject ended = say(u"answer Yes"_s);
-    EXPECT_FALSE(ended[u"running"_s].toBool());
-    EXPECT_EQ(ended[u"forms"_s].toArray(), QJsonArray());
-    EXPECT_EQ(say(u"start"_s)[u"forms"_s].toArray(), (QJsonArray{u"MDIHost"_s, u"frmTest"_s}));
-    EXPECT_EQ(user.text(u"txtFields(0)"_s), QString());
 }
 
 }  // namespace
