@@ -182,15 +182,9 @@ void FieldBoxes::writeDates(platform::RecordSource& rows) const {
 }
 
 void FieldBoxes::fillCombos(const QStringList& states) {
-    for (const Combo& combo : combos_) {
-        if (combo.column->shownIn == data::ShownIn::StatusCombo) {
-            for (const QLatin1StringView item : definition_.statusItems)
-                combo.box->addItem(item);
-        } else {
-            for (const QString& state : states)
-                combo.box->addItem(state);
-        }
-    }
+    const QStringList statuses(definition_.statusItems.begin(), definition_.statusItems.end());
+    for (const Combo& combo : combos_)
+        combo.box->addItems(combo.column->shownIn == data::ShownIn::StatusCombo ? statuses : states);
 }
 
 void FieldBoxes::orderTabs(const std::vector<QWidget*>& order) {

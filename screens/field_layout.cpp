@@ -274,8 +274,14 @@ Qt::Orientations FieldLayout::expandingDirections() const {
 
 int FieldLayout::heightForWidth(int width) const {
     const QMargins margins = contentsMargins();
-    const QRect inside(0, 0, width - margins.left() - margins.right(), 0);
-    return layOut(inside, false) + margins.top() + margins.bottom();
+    return heightFor(width - margins.left() - margins.right()) + margins.top() + margins.bottom();
+}
+
+int FieldLayout::heightFor(int width) const {
+    if (heights_.changes != sheet_->changes()) heights_ = {.changes = sheet_->changes(), .byWidth = {}};
+    const auto [height, isNew] = heights_.byWidth.try_emplace(width);
+    if (isNew) height->second = layOut(QRect(0, 0, width, 0), false);
+    return height->second;
 }
 
 QSize FieldLayout::sizeHint() const {

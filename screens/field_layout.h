@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLayout>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -22,7 +23,12 @@ public:
     /// Pixels that a frame's inside needs.
     [[nodiscard]] int leastWidth();
     /// Fonts, labels or a count have changed: everything is measured anew.
-    void forget() { known_ = {}; }
+    void forget() {
+        known_ = {};
+        ++changes_;
+    }
+    /// Counts the calls of forget(): what was measured at another count is out of date.
+    [[nodiscard]] int changes() const { return changes_; }
 
 private:
     [[nodiscard]] FieldColumns measured(int count, int width) const;
@@ -33,6 +39,7 @@ private:
     int most_;
     std::vector<const FieldLayout*> frames_;
     FieldColumns known_;
+    int changes_ = 0;
 };
 
 /// Lays out one frame of a record screen: boxes as wide as what they hold, in one, two or three columns as the width
@@ -65,10 +72,19 @@ public:
 private:
     /// Stands the cells from `top` on, where `stand`; returns the height.
     int layOut(const QRect& rect, bool stand) const;
+    /// Of the inside for so many pixels of width.
+    [[nodiscard]] int heightFor(int width) const;
 
     std::shared_ptr<FieldSheet> sheet_;
     std::vector<FieldCell> cells_;
     std::vector<QLayoutItem*> items_;
+
+    /// What was measured since the sheet's last change: the toolkit asks many times while a window opens.
+    struct Heights {
+        int changes = 0;
+        std::map<int, int> byWidth;
+    };
+    mutable Heights heights_;
 };
 
 }  // namespace screens

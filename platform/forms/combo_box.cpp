@@ -1,6 +1,7 @@
 #include "platform/forms/combo_box.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,13 +22,10 @@
 namespace platform {
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), line_(new LineEdit(this)) {
-    // This makes it editable, without a line of the toolkit's that would go at once, and a list that nobody opens.
-    setLineEdit(line_);
-    setCompleter(nullptr);
+    makeEditable();
     setInsertPolicy(QComboBox::NoInsert);
     setMaxVisibleItems(15);
-    setMinimumContentsLength(12);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(14);
     lineEdit()->setMaxLength(std::numeric_limits<int>::max() / 2);
     // A typed text that reads like an entry isn't a choice of it when the focus goes.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
@@ -43,6 +41,21 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), line_(new LineEdit(this
         listIndex_ = -1;
         long_.clear();
     });
+}
+
+void ComboBox::makeEditable() {
+    // A line that completes gets no completer of the toolkit's, which takes longer to make than the whole box; this one
+    // serves them all, for it goes at once.
+    static auto* const passing = new QCompleter(qApp);
+    line_->setCompleter(passing);
+    setLineEdit(line_);
+    setCompleter(nullptr);
+}
+
+QSize ComboBox::sizeHint() const {
+    // However long the entries are. The toolkit's own policy for that makes the list at once, which few boxes ever
+    // open.
+    return minimumSizeHint();
 }
 
 QString ComboBox::text() const {
@@ -94,10 +107,11 @@ void ComboBox::setListIndex(int index) {
     if (isOther) click();
 }
 
-void ComboBox::addItem(const QString& text) {
+void ComboBox::addItems(const QStringList& texts) {
     const QSignalBlocker quiet(this);
     const QString kept = currentText();
-    QComboBox::addItem(text.first(shownLength(text, mostInCombo)), text);
+    for (const QString& text : texts)
+        QComboBox::addItem(text.first(shownLength(text, mostInCombo)), text);
     // The first entry of a list would choose itself.
     if (listIndex_ < 0) {
         setCurrentIndex(-1);

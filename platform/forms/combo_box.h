@@ -32,7 +32,9 @@ public:
     [[nodiscard]] int listCount() const { return count(); }
     /// Text of an entry; empty outside the list.
     [[nodiscard]] QString list(int index) const { return itemData(index).toString(); }
-    void addItem(const QString& text);
+    void addItem(const QString& text) { addItems({text}); }
+    /// The same as addItem() for each of them, in less time.
+    void addItems(const QStringList& texts);
     /// Takes an entry out; one that is chosen empties the box. Throws RuntimeError 5 outside the list.
     void removeEntry(int index);
     void clearList();
@@ -59,6 +61,7 @@ public:
     void showValue(const QVariant& value, ColumnKind kind, const QString& format) override;
     [[nodiscard]] QVariant content() const override { return text(); }
 
+    [[nodiscard]] QSize sizeHint() const override;
     void showPopup() override;
 
 protected:
@@ -69,6 +72,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void makeEditable();
     void click();
     void complete();
     /// Brings a text into the box, or its beginning where it is too long to be drawn.

@@ -33,7 +33,8 @@ protected:
         const int side = std::min(viewport()->width(), viewport()->height()) / 2;
         QRect place(0, 0, side, side);
         place.moveCenter(viewport()->rect().center());
-        picture.paint(&painter, place);
+        // As an icon of this size, which is drawn once: every window that opens or closes paints the area anew.
+        painter.drawPixmap(place.topLeft(), picture.pixmap(place.size(), devicePixelRatioF()));
     }
 
 private:
@@ -86,11 +87,16 @@ Form* MdiFrame::activeForm() const {
 }
 
 QMdiSubWindow* MdiFrame::addChild(QWidget& child) {
+    // A frame measures its title anew at each of its many steps until it is up: meanwhile there is none.
+    const QString title = child.windowTitle();
+    child.setWindowTitle({});
     QMdiSubWindow* frame = area_->addSubWindow(&child);
     frame->setAttribute(Qt::WA_DeleteOnClose, false);
     // The press of a toolbar key would fall through to the frame, which takes the focus and gives it back: the
     // selection that the key is to copy would be gone.
     frame->setFocusPolicy(Qt::NoFocus);
+    quietly([&] { frame->showMaximized(); });
+    child.setWindowTitle(title);
     return frame;
 }
 
@@ -114,10 +120,14 @@ void MdiFrame::removeChild(QMdiSubWindow& frame, const std::function<void()>& un
     frame.deleteLater();
 }
 
-void MdiFrame::arrange(const std::function<void()>& step) {
+void MdiFrame::quietly(const std::function<void()>& step) {
     const bool within = std::exchange(arranging_, true);
     step();
     arranging_ = within;
+}
+
+void MdiFrame::arrange(const std::function<void()>& step) {
+    quietly(step);
     childActivated();
 }
 

@@ -26,7 +26,7 @@ public:
 
     /// The active child; nullptr if no child is loaded and shown.
     [[nodiscard]] Form* activeForm() const;
-    /// `child`: a form's window.
+    /// Gives a form's window a frame, maximized; bringToFront() is to follow.
     [[nodiscard]] QMdiSubWindow* addChild(QWidget& child);
     /// Shows the child maximized, in front, with the focus.
     void bringToFront(QMdiSubWindow& frame);
@@ -52,6 +52,9 @@ private:
     void goRound(int step);
     void openMenuBar();
     void showMenus();
+    /// Does what makes other children active for moments, of which nobody is told.
+    void quietly(const std::function<void()>& step);
+    /// The same, and tells which child is in front behind it.
     void arrange(const std::function<void()>& step);
     void childActivated();
 
