@@ -1,6 +1,7 @@
 #include "find/folding.h"
 
 #include <QList>
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <memory>
@@ -72,9 +73,22 @@ private:
 
 constexpr unsigned char firstBeyondAscii = 0x80;
 
-/// Without a branch, so that the compiler takes many at once.
 char lower(char character) {
     return static_cast<char>(character + (character >= 'A' && character <= 'Z' ? 'a' - 'A' : 0));
+}
+
+/// So many bytes are one step of the processor's, where the compiler sees that there are as many and that they lie
+/// apart from everything else.
+using Block = std::array<char, 16>;
+
+/// Small letters for plain ones; false, and nothing of use in the block, when it holds a byte beyond ASCII.
+bool makeLower(Block& block) {
+    unsigned char seen = 0;
+    for (char& character : block) {
+        seen = static_cast<unsigned char>(seen | static_cast<unsigned char>(character));
+        character = lower(character);
+    }
+    return seen < firstBeyondAscii;
 }
 
 /// The character that begins with the byte there, and how many bytes it has; a byte that begins none stands for itself.
@@ -110,17 +124,14 @@ void FoldedTexts::append(char sign) {
 }
 
 void FoldedTexts::append(std::string_view utf8) {
-    makeRoom(utf8.size());
-    char* const to = room_.data() + end_;
-    unsigned char seen = 0;
-    for (std::size_t at = 0; at < utf8.size(); ++at) {
-        seen = static_cast<unsigned char>(seen | static_cast<unsigned char>(utf8[at]));
-        to[at] = lower(utf8[at]);
-    }
-    if (seen < firstBeyondAscii) {
-        end_ += utf8.size();
-    } else {
-        appendBeyondAscii(utf8);
+    makeRoom(utf8.size() + sizeof(Block));
+    while (!utf8.empty()) {
+        Block block{};
+        const std::size_t taken = utf8.copy(block.data(), block.size());
+        if (!makeLower(block)) return appendBeyondAscii(utf8);
+        std::ranges::copy(block, room_.data() + end_);
+        end_ += taken;
+        utf8.remove_prefix(taken);
     }
 }
 

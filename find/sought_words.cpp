@@ -17,7 +17,8 @@ namespace find {
 
 namespace {
 
-constexpr std::size_t mostDatesKept = 4096;
+/// Of one format: the days of ninety years, in three MB.
+constexpr std::size_t mostDatesKept = 32'768;
 /// A double has so many digits for sure.
 constexpr double mostDigits = 1e15;
 
@@ -31,11 +32,13 @@ std::string digitsIn(std::string_view text) {
     return digits;
 }
 
-unsigned digitSet(std::string_view text) {
-    unsigned set = 0;
+/// Each of the digits is in the text, and as often.
+bool hasDigits(std::string_view text, std::string_view digits) {
+    std::array<int, 10> left{};
     for (const char character : text)
-        set |= isDigit(character) ? 1U << static_cast<unsigned>(character - '0') : 0U;
-    return set;
+        if (isDigit(character)) ++left.at(static_cast<std::size_t>(character - '0'));
+    return std::ranges::all_of(digits,
+                               [&](char digit) { return left.at(static_cast<std::size_t>(digit - '0'))-- > 0; });
 }
 
 /// A byte that most texts are full of is a bad one to look for, and the front of a letter beyond ASCII the worst.
@@ -123,14 +126,15 @@ bool SoughtWords::numberHas(const SoughtWord& word, double value, const data::Co
 
 bool SoughtWords::dateHas(const SoughtWord& word, std::string_view stored, const data::Column& column) {
     if (!word.inDates) return false;
-    // However a date is written, it has no digits beside those of the file.
-    if ((digitSet(word.digits) & ~digitSet(stored)) != 0) return false;
+    // However a date is written, it has no digits beside those of the file, and each once.
+    if (!hasDigits(stored, word.digits)) return false;
     return word.isIn(stored) || word.isIn(shownDate(stored, column));
 }
 
 const std::string& SoughtWords::shownDate(std::string_view stored, const data::Column& column) {
-    if (dates_.size() >= mostDatesKept) dates_.clear();
-    const auto [date, isNew] = dates_.try_emplace(std::string(stored) + QString(column.format).toStdString());
+    auto& dates = dates_[column.format];
+    if (dates.size() >= mostDatesKept) dates.clear();
+    const auto [date, isNew] = dates.try_emplace(std::string(stored));
     if (isNew) date->second = folded(find::shownDate(stored, column, region_)).toStdString();
     return date->second;
 }

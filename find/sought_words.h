@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <map>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -40,8 +41,8 @@ private:
 
     const platform::Region& region_;
     std::vector<SoughtWord> words_;
-    /// Of the dates that were looked at last, what they show.
-    std::unordered_map<std::string, std::string> dates_;
+    /// By format, what the dates that were looked at show.
+    std::map<QLatin1StringView, std::unordered_map<std::string, std::string>> dates_;
 };
 
 /// How many decimals a column shows; -1 where it shows not the number itself but hundredths of it.

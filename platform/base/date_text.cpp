@@ -286,10 +286,10 @@ QDateTime toDate(const QString& text, const Region& region) {
 
 QString dateText(const QDateTime& date, const Region& region) {
     if (!date.isValid()) return {};
-    QString time = region.withOwnDigits(longTime(date.time(), region));
-    if (date.date() == dayZero) return time;
-    const QString day = formatDate(date, region.shortDate, region);
-    return date.time() == QTime(0, 0) ? day : day + u' ' + time;
+    const auto day = [&] { return formatDate(date, region.shortDate, region); };
+    const auto time = [&] { return region.withOwnDigits(longTime(date.time(), region)); };
+    if (date.date() == dayZero) return time();
+    return date.time() == QTime(0, 0) ? day() : day() + u' ' + time();
 }
 
 QString mediumDate(const QDate& date, const Region& region) {
