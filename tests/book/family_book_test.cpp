@@ -400,8 +400,16 @@ protected:
         auto* progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
         if (!progress || !progress->labelText().startsWith(doing_)) return;
         killTimer(timer_);
+        holder = progress->parentWidget() ? progress->parentWidget()->objectName() : u"none"_s;
+        isTitleWhole =
+            progress->width() > progress->fontMetrics().horizontalAdvance(progress->windowTitle() + u"-- buttons --"_s);
         progress->findChild<QPushButton*>()->click();
     }
+
+public:
+    /// Of the window that was clicked.
+    QString holder;
+    bool isTitleWhole = false;
 
 private:
     QString doing_;
@@ -446,6 +454,8 @@ TEST_F(FamilyBook, ThatIsStoppedLeavesNothing) {
     save(path(u"book.pdf"_s));
     EXPECT_EQ(boxText(), u"You stopped the family book.  No file was saved."_s);
     EXPECT_EQ(dismissBox(), u"Family Book Stopped"_s);
+    EXPECT_EQ(finger->holder, u"frmFamilyBook"_s);
+    EXPECT_TRUE(finger->isTitleWhole);
     finger->deleteLater();
     EXPECT_EQ(bytesOf(u"book.pdf"_s), "the old one");
     EXPECT_EQ(namesIn({}), names);
