@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QJsonObject>
-
 #include "tests/support/household.h"
 
 using namespace Qt::StringLiterals;

@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QJsonObject>
 #include <QLineEdit>
 #include <QTextBrowser>
 #include <QTreeWidget>
@@ -42,7 +41,7 @@ TEST_F(Help, TheDialogsTellWhatTheyAreFor) {
     openNode(u"CategoryListHelp"_s);
     EXPECT_TRUE(textOf(u"Text1"_s).startsWith(u"1.  Category List Tips.\r\nIf a '+' or '-' is shown beside"_s));
     EXPECT_TRUE(textOf(u"Text1"_s).endsWith(u"set the order of the family appearances.\r\n"_s));
-    EXPECT_TRUE(user.control(u"Text1"_s)["locked"_L1].toBool());
+    EXPECT_TRUE(isLocked(u"Text1"_s));
     user.key(u"Escape"_s);
     openNode(u"SecurityInfo"_s);
     EXPECT_TRUE(textOf(u"lblLabels"_s).startsWith(u"If you do not care about setting up password protection"_s));
@@ -64,8 +63,7 @@ TEST_F(Help, ItsOwnerCountsAsAFormButNotAsADataWindow) {
     user.close();
     EXPECT_EQ(boxTitle(), u"Close Confirmation"_s);
     user.answer(u"No"_s);
-    user.click(u"cmdEdit"_s);
-    user.click(u"cmdCancel"_s);
+    cancelEdit();
     user.menu(u"mnuHelp"_s);
     user.close();
     EXPECT_FALSE(running());

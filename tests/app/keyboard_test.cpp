@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <QJsonArray>
 #include <QJsonObject>
 #include <algorithm>
 #include <chrono>
@@ -18,20 +17,6 @@ class Keyboard : public support::Household {
 protected:
     const QString selector = u"MDIHost.cbPerson"_s;
 
-    void openFor(const QString& selection, const QString& node) {
-        user.start();
-        user.pick(selector, selection);
-        openNode(node);
-    }
-    QString focus() { return user.state()["focus"_L1].toString(); }
-    QString currentNode() {
-        QStringList selected;
-        const QJsonArray nodes = user.tree()["nodes"_L1].toArray();
-        for (const QJsonValue& node : nodes) {
-            if (node["selected"_L1].toBool()) selected << node["key"_L1].toString();
-        }
-        return selected.join(u' ');
-    }
     /// Longer than the arrows rest on a node before it opens.
     static void rest() { std::this_thread::sleep_for(std::chrono::milliseconds(900)); }
     /// Across the left edge of the button that stands alone at the first start; 0 if all there is grey.
@@ -60,8 +45,7 @@ TEST_F(Keyboard, AnAddAndAnEditBeginInTheFirstBoxThatTakesWhatIsTyped) {
     struct Case {
         QString node, edits, adds;
     };
-    user.start();
-    user.pick(selector, u"Ann Larkin"_s);
+    startFor(u"Ann Larkin"_s);
     for (const Case& row :
          {Case{u"Home"_s, u"txtFields(1)"_s, u"cbFields(0)"_s}, Case{u"AgLand"_s, u"txtFields(1)"_s, u"cbFields(0)"_s},
           Case{u"Birth"_s, u"txtFields(0)"_s, u"txtFields(0)"_s},
@@ -84,8 +68,7 @@ TEST_F(Keyboard, AnAddAndAnEditBeginInTheFirstBoxThatTakesWhatIsTyped) {
 }
 
 TEST_F(Keyboard, AfterTheDialogOfAListTheFocusIsInTheGrid) {
-    addMembers({u"Ann Larkin"_s});
-    openFor(u"Ann Larkin"_s, u"AssetLiquidation"_s);
+    openFor({u"Ann Larkin"_s}, u"Ann Larkin"_s, u"AssetLiquidation"_s);
     user.key(u"Ctrl+N"_s);
     user.key(u"Escape"_s);
     EXPECT_EQ(activeWindow(), u"frmAssetLiquidation"_s);
@@ -176,8 +159,7 @@ TEST_F(Keyboard, AQuestionThatDestroysIsAnsweredNoByEnterAndByEsc) {
     addMembers({u"Ann Larkin"_s});
     exec(u"INSERT INTO Taxes (PersonID, Company) VALUES (1, 'one')"_s);
     exec(u"INSERT INTO AssetLiquidation (Seq, Asset) VALUES (1, 'Clock')"_s);
-    user.start();
-    user.pick(selector, u"Ann Larkin"_s);
+    startFor(u"Ann Larkin"_s);
     for (const QString& key : {u"Return"_s, u"Escape"_s}) {
         for (const QString& entry : {u"mNew"_s, u"mOpen"_s}) {
             user.menu(entry);
@@ -239,7 +221,7 @@ TEST_F(Keyboard, TheTreeOpensANodeByEnterOrAfterAPauseAndKeepsItsLetters) {
     ASSERT_EQ(focus(), u"tvTree"_s);
     keys({u"Home"_s});
     user.type(u"Pare"_s);
-    EXPECT_EQ(currentNode(), u"Parents"_s);
+    EXPECT_EQ(selectedNode(), u"Parents"_s);
     rest();
     EXPECT_EQ(focus(), u"tvTree"_s);
     EXPECT_FALSE(forms().contains(u"frmParents"_s)) << "letters open nothing";
@@ -256,7 +238,7 @@ TEST_F(Keyboard, TheTreeOpensANodeByEnterOrAfterAPauseAndKeepsItsLetters) {
     }
     rest();
     user.type(u"Medical I"_s);
-    EXPECT_EQ(currentNode(), u"Medical Information"_s) << "a blank within a name opens nothing";
+    EXPECT_EQ(selectedNode(), u"Medical Information"_s) << "a blank within a name opens nothing";
     EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
     rest();
     user.type(u"Pare"_s);
@@ -335,8 +317,7 @@ TEST_F(Keyboard, TabGoesInReadingOrder) {
 // Commands ---------------------------------------------------------------------------------------------------------
 
 TEST_F(Keyboard, HelpComesByItsKeyAndGoesByEsc) {
-    addMembers({u"Ann Larkin"_s});
-    openFor(u"Ann Larkin"_s, u"Birth"_s);
+    openFor({u"Ann Larkin"_s}, u"Ann Larkin"_s, u"Birth"_s);
     user.key(u"F1"_s);
     EXPECT_TRUE(user.session()["gbHelpOpened"_L1].toBool());
     EXPECT_EQ(focus(), QString()) << "the help has the keys";

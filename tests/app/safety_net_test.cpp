@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <QThread>
 

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
-#include <QJsonObject>
-
 #include "tests/support/household.h"
 
 using namespace Qt::StringLiterals;
@@ -23,15 +20,7 @@ protected:
             u"INSERT INTO Attachments (BugNum, SeqNum, FileName, OldFileName) VALUES "
             "('Hom_2_2', 1, 'Hom_2_2_0.pdf', 'Deed of Zoë.pdf')"_s);
     }
-    QStringList lines() {
-        QStringList lines;
-        const QJsonArray rows = user.grid(u"lvFound"_s)["rows"_L1].toArray();
-        for (const QJsonValue& row : rows)
-            lines << row.toVariant().toStringList().join(u'|');
-        return lines;
-    }
     int current() { return user.grid(u"lvFound"_s)["current"_L1].toInt(); }
-    QString focus() { return user.state()["focus"_L1].toString(); }
     QString count() { return user.text(u"lblFound"_s); }
     bool isOpen() { return user.dialog()["name"_L1].toString() == u"frmFind"_s; }
 };
@@ -42,18 +31,19 @@ TEST_F(Find, WhatIsTypedIsFoundAtOnceAndOpenedByTheKeyboard) {
     user.menu(u"mFind"_s);
     EXPECT_EQ(focus(), u"txtFind"_s);
     EXPECT_EQ(count(), QString());
-    EXPECT_FALSE(user.control(u"cmdOpen"_s)["enabled"_L1].toBool());
+    EXPECT_FALSE(isEnabled(u"cmdOpen"_s));
     user.type(u"zoe"_s);
-    EXPECT_EQ(lines(), (QStringList{u"Birth Information|Zoë Larkin|Legal Name|Zoë Larkin"_s,
-                                    u"Home(s), Inventory|Zoë Larkin|Type|Zoë's chair"_s, u"Who Gets What||Person|Zoë"_s,
-                                    u"Home(s)|Zoë Larkin|Attachment|Deed of Zoë.pdf"_s}));
+    EXPECT_EQ(rows(u"lvFound"_s),
+              (QStringList{u"Birth Information|Zoë Larkin|Legal Name|Zoë Larkin"_s,
+                           u"Home(s), Inventory|Zoë Larkin|Type|Zoë's chair"_s, u"Who Gets What||Person|Zoë"_s,
+                           u"Home(s)|Zoë Larkin|Attachment|Deed of Zoë.pdf"_s}));
     EXPECT_EQ(count(), u"4 places"_s);
     EXPECT_EQ(current(), 0);
     user.type(u" chair"_s);
     EXPECT_EQ(count(), u"1 place"_s);
     user.type(u"s"_s);
     EXPECT_EQ(count(), u"Nothing found"_s);
-    EXPECT_FALSE(user.control(u"cmdOpen"_s)["enabled"_L1].toBool());
+    EXPECT_FALSE(isEnabled(u"cmdOpen"_s));
     user.fill(u"txtFind"_s, u"zoe"_s);
     user.key(u"Down"_s);
     EXPECT_EQ(focus(), u"lvFound"_s);
@@ -70,18 +60,17 @@ TEST_F(Find, WhatIsTypedIsFoundAtOnceAndOpenedByTheKeyboard) {
     EXPECT_EQ(user.text(u"txtFind"_s), u"zoe"_s);
     EXPECT_EQ(count(), u"4 places"_s);
     user.type(u"1,250"_s);
-    EXPECT_EQ(lines(), QStringList{u"Home(s), Inventory|Zoë Larkin|Cost|1,250.50"_s});
+    EXPECT_EQ(rows(u"lvFound"_s), QStringList{u"Home(s), Inventory|Zoë Larkin|Cost|1,250.50"_s});
     user.key(u"Return"_s);
     EXPECT_EQ(activeWindow() + focus(), u"frmInventorytxtFields(3)"_s);
 }
 
 TEST_F(Find, AClickOrTheButtonOpensAPlaceAndAnAttachmentsRecord) {
     makeFamily();
-    user.start();
-    user.pick(selector, u"Ann Larkin"_s);
+    startFor(u"Ann Larkin"_s);
     user.menu(u"mFind"_s);
     user.type(u"ames"_s);
-    EXPECT_EQ(lines(), (QStringList{u"Home(s)|Ann Larkin|City|Ames"_s, u"Home(s)|Zoë Larkin|City|Ames"_s}));
+    EXPECT_EQ(rows(u"lvFound"_s), (QStringList{u"Home(s)|Ann Larkin|City|Ames"_s, u"Home(s)|Zoë Larkin|City|Ames"_s}));
     user.select(u"lvFound"_s, 1);
     user.click(u"cmdOpen"_s);
     EXPECT_EQ(activeWindow() + focus() + user.text(selector), u"frmHomesOwnedtxtFields(5)Zoë Larkin"_s);
@@ -99,9 +88,7 @@ TEST_F(Find, AClickOrTheButtonOpensAPlaceAndAnAttachmentsRecord) {
 
 TEST_F(Find, ItLeavesAllAsItWasWhenClosedOrRefused) {
     makeFamily();
-    user.start();
-    user.pick(selector, u"Ann Larkin"_s);
-    openNode(u"Home"_s);
+    openFor(u"Ann Larkin"_s, u"Home"_s);
     user.fill(u"txtFields(5)"_s, u"Boone"_s);
     for (const QString& way : {u"Escape"_s, u"Alt+C"_s}) {
         user.key(u"Ctrl+F"_s);

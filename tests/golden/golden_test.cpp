@@ -153,7 +153,7 @@ protected:
         QStringList lines;
         if (!title.isEmpty()) lines << u"title \"%1\""_s.arg(title);
         if (controls.contains(u"lblAttachments"_s) && controls[u"lblAttachments"_s]["visible"_L1].toBool())
-            lines << u"attachments \"%1\""_s.arg(user.session()["gvAttachKey"_L1].toString().chopped(3));
+            lines << u"attachments \"%1\""_s.arg(attachKey().chopped(3));
         lines << u"add \"%1\""_s.arg(controls[u"cmdAdd"_s]["text"_L1].toString());
         const QStringList checks = checksOf(table, controls);
         lines << messages.value(0) << deleteQuestion() << messages.mid(1) << framesOf(controls);

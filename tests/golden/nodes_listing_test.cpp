@@ -78,7 +78,6 @@ protected:
         return keys;
     }
 
-    bool isShown(const QString& control) { return user.control(control)["visible"_L1].toBool(); }
     bool showsLockedBoxes() {
         const QJsonArray controls = user.form()["controls"_L1].toArray();
         return std::ranges::any_of(controls, [](const QJsonValue& control) {
@@ -117,7 +116,8 @@ protected:
             // A window that opens all the same begins an add, which is refused in a box of its own.
             if (boxText().startsWith(u"This screen cannot be accessed"_s)) found << table + rows;
             if (!boxTitle().isEmpty()) user.answer(u"OK"_s);
-            if (activeWindow() != u"frmKinbook"_s) user.click(isShown(u"cmdClose"_s) ? u"cmdClose"_s : u"cmdCancel"_s);
+            if (activeWindow() != u"frmKinbook"_s)
+                user.click(isVisible(u"cmdClose"_s) ? u"cmdClose"_s : u"cmdCancel"_s);
             change(u"DELETE FROM %1; INSERT INTO %1 SELECT * FROM Kept; DROP TABLE Kept"_s.arg(table));
         }
         return found.join(u" or "_s);

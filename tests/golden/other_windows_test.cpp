@@ -70,7 +70,7 @@ protected:
     void tellList() {
         const QString window = activeWindow();
         QStringList seen{titleOfForm()};
-        const QString key = user.session()["gvAttachKey"_L1].toString();
+        const QString key = attachKey();
         if (key.contains(u"Rec_"_s)) seen << u"attachments \"%1\""_s.arg(key.section(u'_', 0, 0) + u'_');
         seen << columnsOfGrid();
         user.click(u"cmdEdit"_s);

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
-#include <QJsonObject>
-
 #include "tests/support/household.h"
 
 using namespace Qt::StringLiterals;
@@ -12,12 +9,9 @@ namespace {
 class AttachedList : public support::Household {
 protected:
     void open(const QString& node, const QString& selection = u"Whole Family"_s) {
-        addMembers({u"Ann Larkin"_s, u"Bob O'Brien"_s});
-        startFor(selection);
-        openNode(node);
+        openFor({u"Ann Larkin"_s, u"Bob O'Brien"_s}, selection, node);
     }
     void addDoctors() { exec(u"INSERT INTO Doctors (Name) VALUES ('Hale'), ('O''Neil')"_s); }
-    QString attachKey() { return user.session()["gvAttachKey"_L1].toString(); }
     QStringList row(int index) { return user.grid()["rows"_L1].toArray()[index].toVariant().toStringList(); }
 };
 
@@ -42,11 +36,9 @@ TEST_F(AttachedList, ItemsKeepTheirFilesWhoeverIsSelected) {
     user.click(u"cmdPrevious"_s);
     EXPECT_EQ(user.text(u"lblAttachments"_s), u"Attachments:  0"_s);
     EXPECT_TRUE(treeEnabled());
-    user.click(u"cmdDelete"_s);
-    user.answer(u"Yes"_s);
+    deleteRecord();
     EXPECT_EQ(attachKey(), u"WRec_2_0"_s);
-    user.click(u"cmdDelete"_s);
-    user.answer(u"Yes"_s);
+    deleteRecord();
     EXPECT_EQ(status(), u"Record: 0"_s);
     EXPECT_EQ(cell(u"SELECT count(*) FROM Attachments"_s), u"1"_s);
 }
@@ -57,7 +49,7 @@ TEST_F(AttachedList, ATreatmentNeedsAPatientADoctorAndGoodDates) {
     user.fill(u"cbPatientName"_s, u"Nobody"_s);
     user.key(u"Tab"_s);
     EXPECT_EQ(dismissBox(), u"No Matching Family Member"_s);
-    EXPECT_EQ(user.state()["focus"_L1].toString(), u"cbPatientName"_s);
+    EXPECT_EQ(focus(), u"cbPatientName"_s);
     user.pick(u"cbPatientName"_s, u"Ann Larkin"_s);
     user.fill(u"txtStartDate"_s, u"soon"_s);
     user.click(u"cmdOK"_s);
@@ -117,15 +109,14 @@ TEST_F(AttachedList, ATreatmentOfSomebodyWhoIsGoneSaysSo) {
     open(u"MedicalLog"_s);
     user.click(u"cmdEdit"_s);
     user.key(u"Return"_s);
-    EXPECT_TRUE(boxText().startsWith(u"The patient of this entry has been deleted from the family."_s));
-    EXPECT_EQ(dismissBox(), u"No Matching Family Member"_s);
-    EXPECT_EQ(user.state()["focus"_L1].toString(), u"cbPatientName"_s);
+    EXPECT_TRUE(
+        told().startsWith(u"No Matching Family Member: The patient of this entry has been deleted from the family."_s));
+    EXPECT_EQ(focus(), u"cbPatientName"_s);
     user.pick(u"cbPatientName"_s, u"Ann Larkin"_s);
     user.click(u"cmdOK"_s);
     EXPECT_EQ(cell(u"SELECT PersonID FROM MedicalLog"_s), u"1"_s);
     exec(u"DELETE FROM MedicalLog"_s);
-    user.click(u"cmdDelete"_s);
-    user.answer(u"Yes"_s);
+    deleteRecord();
     user.click(u"cmdAdd"_s);
     user.pick(u"cbPatientName"_s, u"Ann Larkin"_s);
     user.pick(u"cbDoctorName"_s, u"Hale"_s);
@@ -137,7 +128,7 @@ TEST_F(AttachedList, ATreatmentOfSomebodyWhoIsGoneSaysSo) {
     EXPECT_EQ(user.text(u"cbDoctorName"_s), u"Hale"_s);
     user.key(u"Escape"_s);
     EXPECT_EQ(status(), u"Record: 0"_s);
-    EXPECT_TRUE(user.control(u"cmdAdd"_s)["visible"_L1].toBool());
+    EXPECT_TRUE(isVisible(u"cmdAdd"_s));
     EXPECT_EQ(forms().last(), u"frmMedicalLog"_s);
 }
 

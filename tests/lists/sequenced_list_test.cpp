@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
-#include <QJsonObject>
 #include <algorithm>
 #include <random>
 
@@ -14,9 +12,7 @@ namespace {
 class SequencedList : public support::Household {
 protected:
     void open(const QString& node = u"AssetLiquidation"_s) {
-        addMembers({u"Ann Larkin"_s, u"Bob"_s});
-        startFor(u"Ann Larkin"_s);
-        openNode(node);
+        openFor({u"Ann Larkin"_s, u"Bob"_s}, u"Ann Larkin"_s, node);
     }
     void addRows(int count) {
         for (int i = 1; i <= count; ++i)
@@ -59,8 +55,7 @@ TEST_F(SequencedList, NumbersStayWholeThroughAnyChanges) {
             EXPECT_EQ(current(), 0);
         } else {
             model.removeAt(row);
-            user.click(u"cmdDelete"_s);
-            user.answer(u"Yes"_s);
+            deleteRecord();
             EXPECT_EQ(current(), std::min(1, rows - 2));
         }
         QStringList expected;
@@ -105,8 +100,8 @@ TEST_F(SequencedList, WhatANumberMayBe) {
         EXPECT_EQ(boxTitle(), sample.box.isEmpty() ? sample.failure : sample.box);
         if (!boxTitle().isEmpty()) user.answer(u"OK"_s);
         if (!sample.box.isEmpty()) {
-            EXPECT_EQ(user.state()["focus"_L1].toString(), u"txtSequence"_s);
-            EXPECT_EQ(user.control(u"txtSequence"_s)["selLength"_L1].toInt(), sample.typed.size());
+            EXPECT_EQ(focus(), u"txtSequence"_s);
+            EXPECT_EQ(selected(u"txtSequence"_s), sample.typed.size());
         }
         if (!sample.box.isEmpty() || !sample.failure.isEmpty()) {
             EXPECT_EQ(user.text(u"txtSequence"_s), sample.typed);
@@ -203,11 +198,11 @@ TEST_F(SequencedList, TheFamilyIsOnlyPutInOrder) {
     exec(u"UPDATE Person SET LegalName = 'Ann && Larkin', SocSecNum = '111-22-3333' WHERE ID = 1"_s);
     user.click(u"cmdClose"_s);
     user.menu(u"mFamilySequence"_s);
-    EXPECT_FALSE(user.control(u"cmdAdd"_s)["visible"_L1].toBool());
-    EXPECT_EQ(user.state()["focus"_L1].toString(), u"grdDataGrid"_s);
+    EXPECT_FALSE(isVisible(u"cmdAdd"_s));
+    EXPECT_EQ(focus(), u"grdDataGrid"_s);
     user.click(u"cmdEdit"_s);
-    EXPECT_EQ(user.control(u"txtSequence"_s)["selLength"_L1].toInt(), 1);
-    EXPECT_FALSE(user.control(u"txtLegalName"_s)["enabled"_L1].toBool());
+    EXPECT_EQ(selected(u"txtSequence"_s), 1);
+    EXPECT_FALSE(isEnabled(u"txtLegalName"_s));
     user.fill(u"txtSequence"_s, u"2"_s);
     user.key(u"Return"_s);
     EXPECT_EQ(cell(u"SELECT group_concat(Seq || LegalName || ifnull(SocSecNum, '-'), '|') FROM (SELECT * FROM Person "

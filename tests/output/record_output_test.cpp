@@ -71,12 +71,10 @@ TEST_F(RecordOutput, NeverTakesThePlaceOfTheBook) {
     user.menu(u"mBackup"_s);
     user.choose(path(u"FamilyInfo_Empty.mdb"_s));
     user.answer(u"Yes"_s);
-    EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
-    EXPECT_EQ(dismissBox(), u"BackupDB Error"_s);
+    EXPECT_EQ(told(), u"BackupDB Error: 70 - Permission denied"_s);
     openNode(u"AssetLiquidation"_s);
     save(u"tbSave"_s, u"FamilyInfo.mdb"_s);
-    EXPECT_EQ(boxText(), u"70 - Permission denied"_s);
-    EXPECT_EQ(dismissBox(), u"Kinbook"_s);
+    EXPECT_EQ(told(), u"Kinbook: 70 - Permission denied"_s);
     EXPECT_EQ(cell(u"SELECT COUNT(*) || LegalName FROM Person"_s), before);
     EXPECT_EQ(saved(u"Attachments/deed.pdf"_s), u"deed"_s);
     EXPECT_EQ(saved(u"FamilyInfo_Empty.mdb"_s), u"empty"_s);
@@ -172,8 +170,7 @@ TEST_F(RecordOutput, AScreenWithAnOwnerAddsNoEndingToTheName) {
     addMembers({u"Ann Larkin"_s});
     exec(u"INSERT INTO HomeOwned (PersonID, Description, State) VALUES (1, 'Cabin', 'Vermont')"_s);
     exec(u"INSERT INTO HomeOwned (PersonID, Description) VALUES (1, 'Flat')"_s);
-    startFor(u"Whole Family"_s);
-    openNode(u"Home"_s);
+    openFor(u"Whole Family"_s, u"Home"_s);
     ASSERT_EQ(status(), u"Record: 1 of 2"_s);
     user.tool(u"tbSaveAll"_s);
     user.cancel();
@@ -190,7 +187,7 @@ TEST_F(RecordOutput, ASaveThatFailsHalfWayLeavesTheOldFileAndTheScreenWhereItSto
     startWith({u"Ann Larkin"_s, u"Bob Larkin"_s, u"Cy Larkin"_s});
     exec(u"UPDATE Person SET Comment = '%1' WHERE ID = 2"_s.arg((QString(70, u'x') + u"\r\n"_s).repeated(5'000)));
     user.click(u"cmdNext"_s);
-    exec(u"INSERT INTO Attachments (BugNum) VALUES ('%1')"_s.arg(user.session()["gvAttachKey"_L1].toString()));
+    exec(u"INSERT INTO Attachments (BugNum) VALUES ('%1')"_s.arg(attachKey()));
     user.click(u"cmdFirst"_s);
     const SmallDisk disk;
     const QString all = disk.folder() + u"/all.txt"_s;
@@ -199,8 +196,7 @@ TEST_F(RecordOutput, ASaveThatFailsHalfWayLeavesTheOldFileAndTheScreenWhereItSto
     old.close();
     user.tool(u"tbSaveAll"_s);
     user.choose(all);
-    EXPECT_EQ(boxText(), u"61 - Disk full"_s);
-    EXPECT_EQ(dismissBox(), u"SaveAll Error"_s);
+    EXPECT_EQ(told(), u"SaveAll Error: 61 - Disk full"_s);
     EXPECT_EQ(status(), u"Record: 2 of 3"_s);
     EXPECT_EQ(user.text(u"txtFields(0)"_s), u"Bob Larkin"_s);
     EXPECT_EQ(user.text(u"lblAttachments"_s), u"Attachments:  1"_s);
@@ -319,8 +315,7 @@ TEST_F(RecordOutput, ARefusedJobIsToldInTheWordsOfTheQueue) {
     queue.refused = 3;
     openNode(u"AssetLiquidation"_s);
     user.tool(u"tbPrint"_s);
-    EXPECT_EQ(boxText(), u"The queue is closed for today."_s);
-    EXPECT_EQ(dismissBox(), u"No Printer"_s);
+    EXPECT_EQ(told(), u"No Printer: The queue is closed for today."_s);
     EXPECT_TRUE(queue.titles[2].contains(u" Listing As Of "_s));
 }
 
@@ -357,8 +352,7 @@ TEST_F(RecordOutput, AListWithoutRowsSaysSoInsteadOfPrinting) {
     user.setPrinter(path(u"list.pdf"_s));
     openNode(u"AssetLiquidation"_s);
     user.tool(u"tbPrint"_s);
-    EXPECT_EQ(boxText(), u"There are no entries to print."_s);
-    EXPECT_EQ(dismissBox(), u"No Entries"_s);
+    EXPECT_EQ(told(), u"No Entries: There are no entries to print."_s);
     EXPECT_TRUE(user.jobs().isEmpty());
 }
 

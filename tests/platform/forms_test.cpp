@@ -170,13 +170,11 @@ TEST_F(FormsTest, AVetoKeepsTheForm) {
     EXPECT_FALSE(user.state()[u"running"_s].toBool()) << "without a child the host's own menu stands in the bar";
 }
 
-TEST_F(FormsTest, AFailureThatNoRoutineHandlesIsShown) {
+TEST_F(FormsTest, AFailureThatNobodyHandlesOrForesawIsShownAndTheSessionGoesOn) {
     user.click(u"cmdFail"_s);
     EXPECT_EQ(user.dialog()[u"text"_s].toString(), u"91 - Object variable or With block variable not set"_s);
     EXPECT_EQ(user.dialog()[u"title"_s].toString(), u"Kinbook"_s);
-}
-
-TEST_F(FormsTest, AFailureThatNobodyForesawIsShownAndTheSessionGoesOn) {
+    user.answer(u"OK"_s);
     user.menu(u"mThrow"_s);
     EXPECT_EQ(user.dialog()[u"text"_s].toString(), u"51 - Internal error (nobody foresaw it)"_s);
     EXPECT_EQ(user.dialog()[u"icon"_s].toString(), u"critical"_s);

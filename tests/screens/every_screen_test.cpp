@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QJsonObject>
 #include <QSet>
 
 #include "app/category_nodes.h"
@@ -83,8 +82,7 @@ protected:
         user.click(u"cmdClose"_s);
         // What the screen shows of a row is worth as much as the row.
         openNode(node);
-        user.click(u"cmdEdit"_s);
-        user.click(u"cmdUpdate"_s);
+        saveUnchanged();
         for (const Field& field : fields)
             EXPECT_EQ(stored(screen, field), field.stored) << "second save: " << field.control.toStdString();
         user.click(u"cmdClose"_s);

@@ -28,8 +28,7 @@ protected:
         exec(
             u"INSERT INTO HomeOwned (PersonID, Description, Zip, Comment) "
             "VALUES (1, 'The Riverside house with the long red brick barn o', '68154-1234', '1')"_s);
-        startFor(u"Whole Family"_s);
-        openNode(node);
+        openFor(u"Whole Family"_s, node);
     }
     void resize(int width, int height) {
         gui_.act([=] { host()->resize(width, height); });

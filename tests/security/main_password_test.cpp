@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QJsonObject>
-
 #include "platform/base/files.h"
 #include "tests/support/household.h"
 
@@ -39,14 +37,13 @@ TEST_F(MainPassword, LoggingInUnlocksEveryOpenScreenAtOnce) {
     openNode(u"CDs"_s);
     EXPECT_EQ(dismissBox(), u"Invalid Login"_s);
     openNode(u"Home"_s);
-    EXPECT_TRUE(user.control(u"txtFields(2)"_s)["locked"_L1].toBool());
+    EXPECT_TRUE(isLocked(u"txtFields(2)"_s));
     openNode(u"LogIn"_s);
     for (const QString& wrong : {u""_s, u"tea time"_s, u"Tea time "_s}) {
         user.fill(u"txtPassword"_s, wrong);
         user.click(u"cmdOK"_s);
-        EXPECT_EQ(boxText(), u"Invalid Password, try again!"_s);
-        EXPECT_EQ(dismissBox(), u"Login"_s);
-        EXPECT_EQ(user.control(u"txtPassword"_s)["selLength"_L1].toInt(), wrong.size());
+        EXPECT_EQ(told(), u"Login: Invalid Password, try again!"_s);
+        EXPECT_EQ(selected(u"txtPassword"_s), wrong.size());
     }
     user.key(u"Escape"_s);
     EXPECT_FALSE(canEdit());
@@ -55,7 +52,7 @@ TEST_F(MainPassword, LoggingInUnlocksEveryOpenScreenAtOnce) {
     user.type(u"Tea time"_s);
     user.key(u"Return"_s);
     EXPECT_TRUE(canEdit());
-    EXPECT_FALSE(user.control(u"txtFields(2)"_s)["locked"_L1].toBool());
+    EXPECT_FALSE(isLocked(u"txtFields(2)"_s));
     EXPECT_TRUE(forms().contains(u"frmLogin"_s));
     user.click(u"cmdEdit"_s);
     EXPECT_TRUE(boxTitle().isEmpty());
@@ -90,17 +87,19 @@ TEST_F(MainPassword, WhatIsTypedWrongChangesNothing) {
     start(storedOld);
     const QByteArray before = definition();
     changeTo(u"fresh"_s, u"Old"_s, u"fresh"_s);
-    EXPECT_EQ(boxText(), u"The old password does not match your current password.  No changes can be made."_s);
-    EXPECT_EQ(dismissBox(), u"Invalid Old Password"_s);
+    EXPECT_EQ(
+        told(),
+        u"Invalid Old Password: The old password does not match your current password.  No changes can be made."_s);
     EXPECT_EQ(user.text(u"txtNew"_s) + user.text(u"txtConfirm"_s), u""_s);
-    EXPECT_EQ(user.control(u"txtOld"_s)["selLength"_L1].toInt(), 3);
+    EXPECT_EQ(selected(u"txtOld"_s), 3);
     user.type(u"old"_s);
     user.fill(u"txtNew"_s, u"fresh"_s);
     user.fill(u"txtConfirm"_s, u"flesh"_s);
     user.click(u"cmdOK"_s);
-    EXPECT_EQ(boxText(), u"The new password does not match your confirmation password.  No changes can be made."_s);
-    EXPECT_EQ(dismissBox(), u"Invalid Old Password"_s);
-    EXPECT_EQ(user.control(u"txtNew"_s)["selLength"_L1].toInt(), 3);
+    EXPECT_EQ(
+        told(),
+        u"Invalid Old Password: The new password does not match your confirmation password.  No changes can be made."_s);
+    EXPECT_EQ(selected(u"txtNew"_s), 3);
     EXPECT_EQ(user.text(u"txtConfirm"_s), u""_s);
     user.key(u"Escape"_s);
     EXPECT_EQ(definition(), before);

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonObject>
 
 #include "tests/support/household.h"
 
@@ -17,8 +15,7 @@ protected:
 
     void start() {
         addMembers({u"Ann Larkin"_s, u"Bob"_s});
-        user.start();
-        select(u"Ann Larkin"_s);
+        startFor(u"Ann Larkin"_s);
     }
     void select(const QString& name) { user.pick(u"MDIHost.cbPerson"_s, name); }
     void open(const QString& password) {
@@ -85,7 +82,7 @@ TEST_F(PinList, SecretsArePlainInTheFileOnlyWhileTheListIsOpen) {
     user.select(u"grdDataGrid"_s, 0);
     user.click(u"cmdEdit"_s);
     EXPECT_EQ(user.text(u"txtUsername"_s), u"me & you"_s);
-    EXPECT_EQ(user.control(u"txtSequence"_s)["selLength"_L1].toInt(), 1);
+    EXPECT_EQ(selected(u"txtSequence"_s), 1);
     user.fill(u"txtSequence"_s, u"2"_s);
     user.click(u"cmdOK"_s);
     user.click(u"cmdClose"_s);
@@ -129,8 +126,7 @@ TEST_F(PinList, APasswordChangedAfterAKillOpensTheList) {
     changePassword({}, u"bobs"_s);
     open(u"bobs"_s);
     kill();
-    user.start();
-    select(u"Ann Larkin"_s);
+    startFor(u"Ann Larkin"_s);
     changePassword(u"bobs"_s, u"both"_s);
     EXPECT_EQ(stored(1), u"1 PINs And Passwords Screen={C38CC3A5C3A2C3BB}"_s);
     // Also while the row is still plain.
@@ -205,7 +201,7 @@ TEST_F(PinList, NothingIsKeptUnderNobody) {
     start();
     exec(u"DELETE FROM Person"_s);
     user.click(u"cmdFirst"_s);
-    EXPECT_EQ(user.session()["gPersonID"_L1].toInt(), 0);
+    EXPECT_EQ(personID(), 0);
     EXPECT_FALSE(user.session()["gbWholeFamily"_L1].toBool());
     for (const QString& node : {u"PINsPasswords"_s, u"ChangePINPassword"_s}) {
         openNode(node);
@@ -239,7 +235,7 @@ TEST_F(PinList, ASecretIsWhatItsCipherCanBringBack) {
     add(u"1"_s, u"A"_s, u"1\u20AC \u041F\u0430\u0440"_s);
     EXPECT_TRUE(boxText().startsWith(u"The character \"\u041F\" (U+041F) can't be used in a PIN or password."_s));
     user.answer(u"OK"_s);
-    EXPECT_EQ(user.state()["focus"_L1].toString(), u"txtPINPass"_s);
+    EXPECT_EQ(focus(), u"txtPINPass"_s);
     EXPECT_EQ(user.text(u"txtAccount"_s), u"A"_s);
     // Of these the cipher makes the codes 0, 10 and 39.
     const QString odd = u"\u00AE\u20AC\u00B1"_s;
@@ -286,8 +282,7 @@ TEST_F(PinList, OneChangeOfThePasswordCountsForEveryList) {
     openNode(u"ChangePINPassword"_s);
     EXPECT_EQ(dismissBox(), u"Close PINs and Passwords Screen"_s);
     user.select(u"grdDataGrid"_s, 1);
-    user.click(u"cmdDelete"_s);
-    user.answer(u"Yes"_s);
+    deleteRecord();
     EXPECT_EQ(stored(1), u"1 PINs And Passwords Screen=both"_s);
     EXPECT_EQ(stored(2), u"1 "_s + row + u"C38CC3A5C3A2C3BB}|3 B={}|3 C={}"_s);
 }

@@ -44,6 +44,93 @@ QString Household::dismissBox() {
     return title;
 }
 
+QString Household::told() {
+    const QString words = boxTitle() + u": "_s + boxText();
+    user.answer(u"OK"_s);
+    return words;
+}
+
+void Household::openFor(const QString& selection, const QString& node) {
+    startFor(selection);
+    openNode(node);
+}
+
+void Household::openFor(const QStringList& members, const QString& selection, const QString& node) {
+    addMembers(members);
+    openFor(selection, node);
+}
+
+void Household::save(const QString& box, const QString& text) {
+    user.fill(box, text);
+    user.click(u"cmdUpdate"_s);
+}
+
+void Household::add(const QString& box, const QString& text) {
+    user.click(u"cmdAdd"_s);
+    save(box, text);
+}
+
+void Household::change(const QString& box, const QString& text) {
+    user.click(u"cmdEdit"_s);
+    save(box, text);
+}
+
+void Household::saveUnchanged() {
+    user.click(u"cmdEdit"_s);
+    user.click(u"cmdUpdate"_s);
+}
+
+void Household::cancelEdit() {
+    user.click(u"cmdEdit"_s);
+    user.click(u"cmdCancel"_s);
+}
+
+void Household::deleteRecord() {
+    user.click(u"cmdDelete"_s);
+    user.answer(u"Yes"_s);
+}
+
+QString Household::focus() {
+    return user.state()["focus"_L1].toString();
+}
+
+bool Household::is(const QString& control, const char* what) {
+    return user.control(control)[QLatin1StringView(what)].toBool();
+}
+
+int Household::selected(const QString& control) {
+    return user.control(control)["selLength"_L1].toInt();
+}
+
+QStringList Household::items(const QString& combo) {
+    return user.control(combo)["items"_L1].toVariant().toStringList();
+}
+
+QStringList Household::rows(const QString& view) {
+    QStringList lines;
+    const QJsonArray found = user.grid(view)["rows"_L1].toArray();
+    for (const QJsonValue& row : found)
+        lines << row.toVariant().toStringList().join(u'|');
+    return lines;
+}
+
+int Household::personID() {
+    return user.session()["gPersonID"_L1].toInt();
+}
+
+QString Household::attachKey() {
+    return user.session()["gvAttachKey"_L1].toString();
+}
+
+QString Household::selectedNode() {
+    QStringList keys;
+    const QJsonArray nodes = user.tree()["nodes"_L1].toArray();
+    for (const QJsonValue& node : nodes) {
+        if (node["selected"_L1].toBool()) keys << node["key"_L1].toString();
+    }
+    return keys.join(u' ');
+}
+
 bool Household::running() {
     return user.state()["running"_L1].toBool();
 }
