@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QImage>
 #include <QJsonObject>
 #include <algorithm>
@@ -19,6 +20,10 @@ protected:
 
     /// Longer than the arrows rest on a node before it opens.
     static void rest() { std::this_thread::sleep_for(std::chrono::milliseconds(900)); }
+    /// Longer than the letters of one name may lie apart.
+    static void pause() {
+        std::this_thread::sleep_for(std::chrono::milliseconds(QApplication::keyboardInputInterval() + 80));
+    }
     /// Across the left edge of the button that stands alone at the first start; 0 if all there is grey.
     int mostColourLeftOfFirstButton() {
         const QString picture = path(u"start.png"_s);
@@ -226,21 +231,21 @@ TEST_F(Keyboard, TheTreeOpensANodeByEnterOrAfterAPauseAndKeepsItsLetters) {
     EXPECT_EQ(focus(), u"tvTree"_s);
     EXPECT_FALSE(forms().contains(u"frmParents"_s)) << "letters open nothing";
     for (const QString& key : {u"Return"_s, u"Space"_s}) {
-        rest();
+        pause();
         user.key(key);
         EXPECT_EQ(activeWindow(), u"frmParents"_s);
         EXPECT_NE(focus(), u"tvTree"_s);
         user.click(u"cmdClose"_s);
         user.key(u"Shift+F6"_s);
         user.key(u"Home"_s);
-        rest();
+        pause();
         user.type(u"Pare"_s);
     }
-    rest();
+    pause();
     user.type(u"Medical I"_s);
     EXPECT_EQ(selectedNode(), u"Medical Information"_s) << "a blank within a name opens nothing";
     EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
-    rest();
+    pause();
     user.type(u"Pare"_s);
     user.key(u"Down"_s);
     EXPECT_EQ(activeWindow(), u"frmKinbook"_s) << "nothing opens while the arrows go on";

@@ -3,8 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QSet>
+#include <QDir>
 #include <QTemporaryDir>
 #include <algorithm>
 
