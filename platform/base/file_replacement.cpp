@@ -70,6 +70,11 @@ void FileReplacement::keepMode() {
     if (::stat(target_.constData(), &old) == 0) setMode(old.st_mode & 0777);
 }
 
+void FileReplacement::beginFlush() {
+    // Whatever comes of it, flush() tells.
+    ::sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
+}
+
 void FileReplacement::flush() {
     if (::fsync(descriptor_) != 0) throwSystemError(errno, Error::PathNotFound);
 }

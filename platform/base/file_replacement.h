@@ -30,6 +30,8 @@ public:
     void setMode(unsigned mode);
     /// Gives the file the permission bits of the one that it replaces, if there is one.
     void keepMode();
+    /// Has the disk begin with what is written so far, and doesn't wait: the flush() that has to follow is sooner over.
+    void beginFlush();
     /// Waits until the file is on the disk; error 57 for a failing device.
     void flush();
     enum class Flush { Now, Later };

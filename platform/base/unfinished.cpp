@@ -54,7 +54,7 @@ bool claim(int descriptor) {
 
 void discardUnfinished(const QString& folder) {
     const QDir inside(folder);
-    const QString unfinished = unfinishedPrefix + u"?"_s.repeated(32);
+    const QString unfinished = unfinishedPrefix + u"[0-9a-f]"_s.repeated(32);
     const QStringList names =
         inside.entryList({unfinished}, QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
     for (const QString& name : names)

@@ -170,6 +170,39 @@ TEST_F(DatabaseCommands, WithoutAUsableNameNothingIsCopied) {
     EXPECT_EQ(namesIn(u"b"_s), QStringList());
 }
 
+TEST_F(DatabaseCommands, ABackupClearsAwayWhatAnEarlierOneLeftAndNothingElse) {
+    const QString left = u"b/.kinbook-0123456789abcdef0123456789abcdef"_s;
+    makeFolder(left + u"/sub"_s);
+    write(left + u"/FI_1.txt"_s, "old");
+    files::setReadOnly(path(left + u"/FI_1.txt"_s));
+    const QStringList others{u"b/.kinbook-notes"_s, u"b/.kinbook-my letters to the tax office no1"_s,
+                             u"b/kinbook-0123456789abcdef0123456789abcdef"_s};
+    for (const QString& other : others)
+        write(other + u"/letter.txt"_s, "kept");
+    startWithAnn();
+    backUp(path(u"b/Mon.mdb"_s));
+    EXPECT_EQ(dismissBox(), u"Backup Database Information"_s);
+    EXPECT_FALSE(files::folderExists(path(left)));
+    for (const QString& other : others)
+        EXPECT_EQ(bytesOf(other + u"/letter.txt"_s), "kept") << other.toStdString();
+}
+
+TEST_F(DatabaseCommands, ADiskThatCanOnlyBeReadBehindARestoreIsTold) {
+    const QString target = path(u"b/Mon.mdb"_s);
+    const support::OrdinaryFamily family(path({}));
+    startWithAnn();
+    backUp(target);
+    dismissBox();
+    restore(target);
+    // As a failing disk does, it takes no more once all is written.
+    ASSERT_EQ(::chmod(qPrintable(path({})), 0555), 0);
+    EXPECT_EQ(dismissBox(), u"Database Restored"_s);
+    EXPECT_TRUE(boxText().contains(u"can only be read"_s)) << boxText().toStdString();
+    EXPECT_EQ(dismissBox(), u"Read-Only Database"_s);
+    EXPECT_EQ(boxTitle(), QString());
+    ASSERT_EQ(::chmod(qPrintable(path({})), 0755), 0);
+}
+
 TEST_F(DatabaseCommands, ARefusedRestoreLeavesTheOldFileOpen) {
     const QByteArray whole = bytesOf(u"FamilyInfo.mdb"_s);
     write(u"b/short.mdb"_s, whole.chopped(4096));

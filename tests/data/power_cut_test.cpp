@@ -12,7 +12,9 @@
 #include "data/template.h"
 #include "platform/base/files.h"
 #include "platform/base/folder_replacement.h"
+#include "platform/base/runtime_error.h"
 #include "platform/base/text_writer.h"
+#include "platform/base/unfinished.h"
 #include "tests/support/test_folder.h"
 #include "tests/support/watched_disk.h"
 
@@ -162,6 +164,52 @@ TEST_F(PowerCut, WhereverARunDiesOneBookIsLiveAndTheOtherOneCanBeRestored) {
         EXPECT_EQ(bytesOf(u"Backup/"_s + kept[0] + u"Attachments/a.txt"_s), "old");
     }
     EXPECT_GT(begun, 10) << "no death ever met the files on their way";
+}
+
+TEST_F(PowerCut, AFileThatDoesNotReachTheDiskIsToldAndTakesNoOldOnesPlace) {
+    makeFolder(u"many"_s);
+    makeFolder(u"target"_s);
+    constexpr int oneBatch = 128;
+    QStringList names;
+    for (int i = 0; i <= oneBatch; ++i) {
+        names << QString::number(1000 + i);
+        write(u"many/"_s + names.back(), "new");
+    }
+    write(u"target/1002"_s, "old");
+    support::WatchedDisk disk;
+    disk.failFlushAfter(2);
+    try {
+        files::copyAllFiles(path(u"many"_s), path(u"target"_s));
+        ADD_FAILURE() << "nobody is told";
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.error(), platform::Error::DeviceFailure);
+    }
+    // The others of its batch are there, whole; those behind it were not begun.
+    names.removeLast();
+    EXPECT_EQ(namesIn(u"target"_s), names);
+    EXPECT_EQ(bytesOf(u"target/1002"_s), "old");
+    EXPECT_EQ(bytesOf(u"target/1003"_s), "new");
+    EXPECT_EQ(disk.operations().filter(u"rename "_s).size(), oneBatch - 1);
+}
+
+TEST_F(PowerCut, AnOldFolderThatCannotBeRemovedGoesWithTheNextBackup) {
+    const auto backUp = [&] {
+        files::FolderReplacement companion(path(u"TueAttachments"_s));
+        files::copyFolder(path(u"Attachments"_s), companion.path());
+        companion.place();
+    };
+    backUp();
+    write(u"TueAttachments/old.txt"_s, "old");
+    const QStringList before = namesIn({});
+    {
+        support::WatchedDisk disk;
+        disk.refuseRemovals();
+        backUp();
+    }
+    EXPECT_EQ(namesIn({}).size(), before.size() + 1) << "the test leaves nothing behind";
+    EXPECT_EQ(namesIn(u"TueAttachments"_s), namesIn(u"Attachments"_s)) << "the new one is whole";
+    files::discardUnfinished(path());
+    EXPECT_EQ(namesIn({}), before);
 }
 
 TEST_F(PowerCut, ASavedTextIsOnTheDiskWithItsName) {

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QFile>
+#include <cerrno>
 #include <mutex>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +17,8 @@ std::mutex guard;
 QStringList seen;
 bool watching = false;
 int operationsToLive = -1;
+int flushesToFailure = -1;
+bool refusing = false;
 
 void note(const QString& operation) {
     const std::lock_guard lock(guard);
@@ -35,6 +38,18 @@ void noteWrite(int descriptor) {
 
 void noteFlush(int descriptor) {
     if (watching) note(u"flush "_s + nameOf(descriptor));
+}
+
+bool flushFails() {
+    const std::lock_guard lock(guard);
+    if (flushesToFailure < 0 || flushesToFailure-- > 0) return false;
+    errno = EIO;
+    return true;
+}
+
+bool removalFails() {
+    if (refusing) errno = EBUSY;
+    return refusing;
 }
 
 void noteRename(const char* from, const char* to) {
@@ -66,12 +81,12 @@ ssize_t copy_file_range(int from, off64_t* fromAt, int to, off64_t* toAt, std::s
 
 int fsync(int descriptor) {
     noteFlush(descriptor);
-    return static_cast<int>(::syscall(SYS_fsync, descriptor));
+    return flushFails() ? -1 : static_cast<int>(::syscall(SYS_fsync, descriptor));
 }
 
 int fdatasync(int descriptor) {
     noteFlush(descriptor);
-    return static_cast<int>(::syscall(SYS_fdatasync, descriptor));
+    return flushFails() ? -1 : static_cast<int>(::syscall(SYS_fdatasync, descriptor));
 }
 
 int rename(const char* from, const char* to) noexcept {
@@ -91,12 +106,12 @@ int mkdir(const char* name, mode_t mode) noexcept {
 
 int rmdir(const char* name) noexcept {
     if (watching) note(u"remove "_s + QFile::decodeName(name));
-    return static_cast<int>(::syscall(SYS_rmdir, name));
+    return removalFails() ? -1 : static_cast<int>(::syscall(SYS_rmdir, name));
 }
 
 int unlink(const char* name) noexcept {
     if (watching) note(u"remove "_s + QFile::decodeName(name));
-    return static_cast<int>(::syscall(SYS_unlink, name));
+    return removalFails() ? -1 : static_cast<int>(::syscall(SYS_unlink, name));
 }
 
 }  // extern "C"
@@ -112,11 +127,23 @@ WatchedDisk::WatchedDisk() {
 WatchedDisk::~WatchedDisk() {
     const std::lock_guard lock(guard);
     watching = false;
+    flushesToFailure = -1;
+    refusing = false;
 }
 
 QStringList WatchedDisk::operations() const {
     const std::lock_guard lock(guard);
     return seen;
+}
+
+void WatchedDisk::failFlushAfter(int flushes) {
+    const std::lock_guard lock(guard);
+    flushesToFailure = flushes;
+}
+
+void WatchedDisk::refuseRemovals() {
+    const std::lock_guard lock(guard);
+    refusing = true;
 }
 
 void WatchedDisk::dieAfter(int operations) {

@@ -19,6 +19,10 @@ public:
     [[nodiscard]] QStringList operations() const;
     /// From here on the process dies instead of the operation that follows so many others.
     void dieAfter(int operations);
+    /// From here on the flush that follows so many others fails, as on a failing device; only that one.
+    void failFlushAfter(int flushes);
+    /// From here on nothing can be removed.
+    void refuseRemovals();
     /// Place of the last operation of that kind before `end`; -1 for none.
     [[nodiscard]] qsizetype last(const QString& operation, qsizetype end = -1) const;
 };
