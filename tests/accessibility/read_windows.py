@@ -1,9 +1,10 @@
 #!/usr/bin/python3
-"""Walks through every window of a running Kinbook with the keyboard and the mouse, and asks each what a screen reader asks.
+"""Starts a Kinbook, walks through its windows with the keyboard and the mouse, and asks each what a screen reader asks.
 
-Prints a line for each window. Its exit status is 1 if one of them breaks a rule.
+read_windows.py PROGRAM prints a line for each window. Its exit status is 1 if one of them breaks a rule.
 """
 
+import subprocess
 import sys
 import time
 
@@ -13,6 +14,7 @@ from reader import (Ear, GLib, Lost, Role, State, application, children, click, 
 
 # The host takes eleven windows; the member's own stays open throughout.
 MOST_OPEN = 7
+FOCUS = "object:state-changed:focused"
 # What tells that a status line changed: its own name, and the note in it that comes up.
 OF_STATUS = ("object:property-change:accessible-name", "object:state-changed:showing")
 PASSWORDS = "PINs And Passwords"
@@ -21,12 +23,12 @@ CHILDREN = ("Inventory", "Improvements", "Outbuildings")
 
 
 class Walk:
-    def __init__(self, expected):
+    def __init__(self, ear, expected):
         self.expected = expected
         self.rows = []
         self.broken = []
         self.opened = []
-        self.ear = Ear("object:state-changed:focused")
+        self.ear = ear
         self.app = application()
         self.host = wait_for(lambda: self.top(Role.FRAME), "the host window")
         self.pane = wait_for(lambda: find(self.host, Role.LAYERED_PANE), "the room of the windows")
@@ -101,7 +103,8 @@ class Walk:
     def close_window(self):
         title = self.front()
         for button in ("Cancel", "Close"):
-            shown = find(self.child(title), Role.PUSH_BUTTON, button)
+            window = self.child(title)
+            shown = window and find(window, Role.PUSH_BUTTON, button)
             if shown:
                 click(shown)
                 settle(0.1)
@@ -121,7 +124,7 @@ class Walk:
         shown = rules.controls(things)
         general = (rules.names, rules.combos, rules.tables)
         broken = [line for rule in (*general, *further) for line in rule(things)] + list(own)
-        broken.extend(rules.focus(self.ear.take()))
+        broken.extend(rules.focus(focused(self.ear.take())))
         self.broken.extend(f"{title}: {line}" for line in broken)
         row = (title, len(shown), sum(has(each, State.FOCUSABLE) for each in shown), len(rules.nameless(things)),
                len(broken))
@@ -139,6 +142,34 @@ class Walk:
 
     def say(self, line):
         self.broken.append(line)
+
+    def say_missing(self, window, heard):
+        """Of a window that moved to another record: what was heard must tell the last text of its status line."""
+        line = line_of(window)
+        for _ in missing(heard, line):
+            self.say(f"{name(window)}: nothing tells that the status line says '{line}'")
+
+
+# What was heard -------------------------------------------------------------------------------------------------------
+
+
+def focused(heard):
+    return [source for kind, source in heard if kind.startswith(FOCUS)]
+
+
+def rows_read(heard):
+    return [name(source) for source in focused(heard) if source.get_role() == Role.TABLE_ROW]
+
+
+def line_of(window):
+    return name(find(window, Role.STATUS_BAR))
+
+
+def missing(heard, line):
+    """The ways to tell of a status line's text in which it was not told."""
+    told_so = {(kind, source.get_role()) for kind, source in heard if name(source) == line}
+    return [kind for kind, role in zip(OF_STATUS, (Role.STATUS_BAR, Role.NOTIFICATION))
+            if not any(each.startswith(kind) and its == role for each, its in told_so)]
 
 
 # The walk ------------------------------------------------------------------------------------------------------------
@@ -178,35 +209,27 @@ def walk_list(walk, window):
         return
     rows = children(table)
     click(rows[0])
+    wait_for(lambda: has(rows[0], State.SELECTED, State.FOCUSED), f"the row {told(rows[0])}")
+    has(table, State.FOCUSED)  # Its answer comes behind what it still had to tell of the click.
     walk.ear.take()
-    status = Ear(*OF_STATUS)
     for place in range(1, len(rows)):
         press("Down")
         wait_for(lambda: has(rows[place], State.SELECTED), f"the row {told(rows[place])}")
-    settle(0.1)
-    read = [name(source) for _, source in walk.ear.take() if source.get_role() == Role.TABLE_ROW]
-    if read != [name(row) for row in rows[1:]]:
-        walk.say(f"{name(window)}: going down reads {read}")
-    walk_status(walk, window, status.stop())
+    names = [name(row) for row in rows[1:]]
+    heard = walk.ear.take(lambda heard: rows_read(heard) == names and not missing(heard, line_of(window)))
+    if rows_read(heard) != names:
+        walk.say(f"{name(window)}: going down reads {rows_read(heard)}")
+    walk.say_missing(window, heard)
     button = find(window, Role.PUSH_BUTTON, "Add") or find(window, Role.PUSH_BUTTON, "Edit")
     if button:
         walk_boxes(walk, lambda: click(button), told(button))
 
 
-def walk_status(walk, window, heard):
-    """What was heard of moves tells the status line's last text as a change and as a note that came up."""
-    said = name(find(window, Role.STATUS_BAR))
-    for kind, role in zip(OF_STATUS, (Role.STATUS_BAR, Role.NOTIFICATION)):
-        if not any(each.startswith(kind) and source.get_role() == role and name(source) == said for each, source in heard):
-            walk.say(f"{name(window)}: nothing tells that the status line says '{said}'")
-
-
 def walk_moves(walk, window):
-    """The move to the next record is told by the status line."""
-    status = Ear(*OF_STATUS)
+    """A move is told by the status line, also one that ends where it began, at the last record."""
+    walk.ear.take()
     click(find(window, Role.PUSH_BUTTON, "Next Record"))
-    settle(0.3)
-    walk_status(walk, window, status.stop())
+    walk.say_missing(window, walk.ear.take(lambda heard: not missing(heard, line_of(window))))
 
 
 def walk_tools(walk, window):
@@ -277,10 +300,11 @@ def report(walk, seconds):
         print(line)
 
 
-def main():
+def take(ear):
+    """The whole walk; 1 if a rule was broken."""
     began = time.monotonic()
     print(f"{'window':66} {'controls':>8} {'focusable':>9} {'no name':>7} {'broken':>6}", flush=True)
-    walk = Walk({"Treasury Notes": False, "Education": True, "Banking": True, "Security": False, "Kinbook": True})
+    walk = Walk(ear, {"Treasury Notes": False, "Education": True, "Banking": True, "Security": False, "Kinbook": True})
     try:
         walk_host(walk)
         member = walk.choose_member(2)
@@ -292,6 +316,15 @@ def main():
         walk.say(f"after '{walk.rows[-1][0]}' the walk ends: {lost}")
     report(walk, time.monotonic() - began)
     return 1 if walk.broken else 0
+
+
+def main():
+    ear = Ear(FOCUS, *OF_STATUS)
+    program = subprocess.Popen(sys.argv[1])
+    try:
+        return take(ear)
+    finally:
+        program.terminate()
 
 
 if __name__ == "__main__":

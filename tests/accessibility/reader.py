@@ -9,7 +9,9 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 State = Atspi.StateType
 Role = Atspi.Role
-PATIENCE = 20  # seconds
+# Seconds for what must come, and for what is to be told of it.
+PATIENCE = 20
+HEARING = 5
 
 KEYS = {"Down": 0xFF54, "Up": 0xFF52, "Return": 0xFF0D, "Escape": 0xFF1B, "Home": 0xFF50, "F6": 0xFFC3,
         "Right": 0xFF53}
@@ -31,9 +33,9 @@ def settle(seconds=0.0):
         time.sleep(0.005)
 
 
-def wait_for(condition, what):
+def wait_for(condition, what, patience=PATIENCE):
     """What the condition gives, as soon as it is more than nothing."""
-    end = time.monotonic() + PATIENCE
+    end = time.monotonic() + patience
     while time.monotonic() < end:
         settle()
         try:
@@ -125,11 +127,14 @@ def click(thing):
 
 
 class Ear:
-    """Hears what the program tells; each event with what its source said of itself just then."""
+    """Hears what the program tells; each event with what its source said of itself just then.
+
+    It must be there before the program starts: in the moment between the toolkit's question who listens and its wish
+    to be told of later listeners, one who comes is overlooked until the next does.
+    """
 
     def __init__(self, *kinds):
         self.heard = []
-        self._kinds = kinds
         self._listener = Atspi.EventListener.new(self._hear)
         for kind in kinds:
             self._listener.register(kind)
@@ -143,12 +148,13 @@ class Ear:
         except GLib.Error:
             pass  # Its source has gone since.
 
-    def take(self):
+    def take(self, complete=None):
+        """What was heard since it was last taken, as soon as it is complete; what came if that doesn't come."""
+        if complete:
+            try:
+                wait_for(lambda: complete(self.heard), "what completes it", HEARING)
+            except Lost:
+                pass  # Then what was heard shows what is missing.
         settle()
         heard, self.heard = self.heard, []
         return heard
-
-    def stop(self):
-        for kind in self._kinds:
-            self._listener.deregister(kind)
-        return self.take()

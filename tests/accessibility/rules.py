@@ -83,7 +83,7 @@ def front(window, pane):
 
 def focus(heard):
     """Of where the focus was heard to be."""
-    for _, source in heard:
+    for source in heard:
         if source.get_role() in BOXES and not has(source, State.SHOWING):
             yield f"the focus is said to be in {told(source)}, which is hidden"
         if not name(source):
