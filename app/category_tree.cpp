@@ -2,6 +2,7 @@
 
 #include "app/category_nodes.h"
 #include "app/host_rows.h"
+#include "app/tree_pictures.h"
 #include "platform/base/runtime_error.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/tree_view.h"
@@ -13,8 +14,6 @@ namespace app {
 
 namespace {
 
-constexpr int withoutData = 1;
-constexpr int withData = 2;
 /// What a picture can't tell who doesn't see it. It goes by the rows alone, not by what is selected.
 const QString ofRows = u"has records"_s;
 

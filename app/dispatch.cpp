@@ -7,6 +7,7 @@
 #include "app/family_selector.h"
 #include "app/information_dialogs.h"
 #include "app/open_windows.h"
+#include "app/tree_pictures.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/form_window.h"
 #include "platform/forms/mdi_frame.h"
@@ -25,7 +26,6 @@ using namespace Qt::StringLiterals;
 namespace app {
 
 namespace {
-constexpr int withData = 2;
 constexpr int mostForms = 10;
 const QString pinList = u"frmPinsAndPasswords"_s;
 }  // namespace

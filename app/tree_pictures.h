@@ -5,8 +5,11 @@
 
 namespace app {
 
-/// The tree's two pictures: 1 an empty ring, 2 a filled disc with a tick. They differ in shape, so that nobody has to
-/// tell them by their colours.
+constexpr int withoutData = 1;
+constexpr int withData = 2;
+
+/// The tree's two pictures, from 1 on: an empty ring, and a filled disc with a tick. They differ in shape, so that
+/// nobody has to tell them by their colours.
 [[nodiscard]] std::vector<QIcon> treePictures();
 
 }  // namespace app

@@ -12,6 +12,10 @@ target_compile_definitions(kinbook_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(kinbook_options INTERFACE -fpch-preprocess)
 endif()
+# Where files are joined, it takes every nameless namespace for one of a header.
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(kinbook_options INTERFACE -Wno-subobject-linkage)
+endif()
 # Some sixty programs are linked, twice for a whole check: with mold a matter of seconds.
 find_program(MOLD mold)
 if(MOLD)

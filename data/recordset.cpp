@@ -22,13 +22,6 @@ using platform::ColumnKind;
 
 namespace {
 
-/// Where a cancelled new row leads back to.
-struct Standpoint {
-    RowPosition position;
-    std::optional<StoredRow> current;
-    EditMode mode = EditMode::None;
-};
-
 ColumnKind kindOf(const QVariant& stored) {
     const bool isNumber = stored.typeId() == QMetaType::LongLong || stored.typeId() == QMetaType::Double;
     return isNumber ? ColumnKind::Number : ColumnKind::Text;
@@ -52,7 +45,12 @@ struct Recordset::Private final : HeldRows {
     std::optional<StoredRow> current;
     EditMode mode = EditMode::None;
     StoredChanges pending;
-    Standpoint beforeAdd;
+    /// Where a cancelled new row leads back to.
+    struct {
+        RowPosition position;
+        std::optional<StoredRow> current;
+        EditMode mode = EditMode::None;
+    } beforeAdd;
     bool isAnnouncing = false;
 
     void requireOpen() const;

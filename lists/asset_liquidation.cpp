@@ -32,7 +32,7 @@ const ListDefinition assetList{
     .closesTree = true,
 };
 
-const RequiredText required{
+const RequiredText requiredAsset{
     u"txtAsset"_s, u"Invalid Asset Information"_s,
     u"The Asset field is empty.  An asset must be entered in order to have it saved into the grid."_s};
 
@@ -46,7 +46,8 @@ const ListDefinition& AssetLiquidation::list() {
 }
 
 std::unique_ptr<EditDialog> AssetLiquidation::makeDialog() {
-    return std::make_unique<SequencedDialog>(desktop(), assetList.form, session().gConnection, sequence(), required);
+    return std::make_unique<SequencedDialog>(desktop(), assetList.form, session().gConnection, sequence(),
+                                             requiredAsset);
 }
 
 }  // namespace lists

@@ -12,9 +12,6 @@ namespace lists {
 
 namespace {
 
-const QString cbPatientName = u"cbPatientName"_s;
-const QString cbDoctorName = u"cbDoctorName"_s;
-
 const ListDefinition logList{
     .window = u"frmMedicalLog"_s,
     .caption = u"Medical Log -- "_s,

@@ -12,9 +12,6 @@ namespace lists {
 
 namespace {
 
-const QString cbPatientName = u"cbPatientName"_s;
-const QString cbDoctorName = u"cbDoctorName"_s;
-
 void tellNoDoctors(platform::Desktop& desktop) {
     desktop.notice(
         u"No doctors have been entered through the Doctors screen.  So no doctor can be entered here.\r\n\r\n"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include "lists/edit_dialog.h"
 
 namespace data {
@@ -7,6 +9,9 @@ class Connection;
 }
 
 namespace lists {
+
+inline const QString cbPatientName = QStringLiteral("cbPatientName");
+inline const QString cbDoctorName = QStringLiteral("cbDoctorName");
 
 /// The edit dialog of the medical log: the patient is a member of the family, the doctor one who was entered before.
 class MedicalLogDialog : public EditDialog {

@@ -39,7 +39,7 @@ const ListDefinition pinList{
     .closesTree = true,
 };
 
-const RequiredText required{
+const RequiredText requiredAccount{
     u"txtAccount"_s, u"Invalid Account Information"_s,
     u"The Account field is empty.  An account must be entered in order to have it saved into the grid."_s};
 
@@ -78,7 +78,7 @@ Sequence PinsAndPasswords::sequence() const {
 }
 
 std::unique_ptr<EditDialog> PinsAndPasswords::makeDialog() {
-    return std::make_unique<PinDialog>(desktop(), pinList.form, session().gConnection, sequence(), required);
+    return std::make_unique<PinDialog>(desktop(), pinList.form, session().gConnection, sequence(), requiredAccount);
 }
 
 void PinsAndPasswords::writeRow(data::Recordset& row) {

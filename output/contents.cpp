@@ -2,7 +2,6 @@
 
 #include "output/document.h"
 #include "platform/base/text_positions.h"
-#include "platform/print/printer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,7 +10,7 @@ namespace output {
 namespace {
 
 constexpr qsizetype lineWidth = 80;
-constexpr qsizetype indent = 6;
+constexpr qsizetype firstIndent = 6;
 constexpr qsizetype indentOfLevel = 3;
 /// Between the title and the number: a blank, some dots, a blank.
 constexpr qsizetype leastLeader = 5;
@@ -19,7 +18,7 @@ constexpr qsizetype leastLeader = 5;
 /// A title from right to left would take the dots and the number along, were they one text with it.
 ListingLine contentsLine(const BookEntry& entry) {
     const QString number = QString::number(entry.page);
-    const qsizetype start = indent + indentOfLevel * entry.level;
+    const qsizetype start = firstIndent + indentOfLevel * entry.level;
     const qsizetype room = lineWidth - start - number.size();
     const QString title = platform::fitting(entry.title, room - leastLeader).toString();
     const qsizetype width = platform::positionsOf(title);

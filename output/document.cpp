@@ -1,6 +1,7 @@
 #include "output/document.h"
 
 #include "output/field_entry.h"
+#include "output/line_end.h"
 #include "output/printable_screen.h"
 #include "platform/base/date_text.h"
 
@@ -10,7 +11,6 @@ namespace output {
 
 namespace {
 
-const QString lineEnd = u"\r\n"_s;
 constexpr int emptyLinesAtHead = 6;
 
 QString titleBlock(const QString& title, const QDate& today) {

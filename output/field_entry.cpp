@@ -4,6 +4,7 @@
 #include <iterator>
 #include <vector>
 
+#include "output/line_end.h"
 #include "output/printable_screen.h"
 #include "platform/base/text_positions.h"
 
@@ -18,8 +19,6 @@ constexpr qsizetype pageWidth = 80;
 constexpr qsizetype firstLineWidth = 85;
 /// How far back from the end of a line a blank is looked for.
 constexpr qsizetype blankReach = 20;
-
-const QString lineEnd = u"\r\n"_s;
 
 /// A value by the positions that it takes on a line, which count from 1.
 class Value {

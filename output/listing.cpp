@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "output/line_end.h"
 #include "output/segments.h"
 #include "platform/base/date_text.h"
 #include "platform/base/text_positions.h"
@@ -15,7 +16,6 @@ namespace {
 constexpr int pageCharacters = 80;
 constexpr std::size_t fullPage = 50;
 const QString margin(10, u' ');
-const QString lineEnd = u"\r\n"_s;
 
 /// Cuts all cells of a row. Gives the lines that the highest of them takes.
 int cut(Segments& segments, const std::vector<GridColumn>& columns, const QStringList& cells) {

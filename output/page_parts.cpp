@@ -9,7 +9,7 @@ namespace output {
 namespace {
 
 // In twips from the top of the sheet.
-constexpr double headingDown = 1440;
+constexpr double titleDown = 1440;
 constexpr double pageNumberDown = 14400;
 constexpr double fontSize = 10;
 
@@ -24,7 +24,7 @@ void useDocumentFont(platform::Printer& printer) {
 void printListingHeadings(platform::Printer& printer, const QString& title, const QString& heading) {
     printer.setFontUnderline(true);
     printer.setCurrentX(printer.width() / 2 - printer.textWidth(title) / 2);
-    printer.setCurrentY(headingDown);
+    printer.setCurrentY(titleDown);
     printer.print(title);
     printer.print();
     printer.print();

@@ -80,7 +80,7 @@ constexpr Column moneyMarkets[] = {
     {"Comment"_L1,         "Comment/Statement Locations:"_L1, LongText},
 };
 
-constexpr Table tables[] = {
+constexpr Table bankingGroup[] = {
     {"CheckingAccounts"_L1, Keys::Owner, checkingAccounts},
     {"SavingsAccounts"_L1,  Keys::Owner, savingsAccounts},
     {"CDs"_L1,              Keys::Owner, cds},
@@ -92,7 +92,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> bankingTables() {
-    return tables;
+    return bankingGroup;
 }
 
 }  // namespace data

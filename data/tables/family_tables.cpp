@@ -156,7 +156,7 @@ constexpr Column safetyDeposit[] = {
     {"Comment"_L1,       "Comment/Contents of Box:"_L1, LongText},
 };
 
-constexpr Table tables[] = {
+constexpr Table familyGroup[] = {
     {"Parents"_L1,       Keys::Owner, parents},
     {"Marriage"_L1,      Keys::Owner, marriage},
     {"Organizations"_L1, Keys::Owner, organizations},
@@ -171,7 +171,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> familyTables() {
-    return tables;
+    return familyGroup;
 }
 
 }  // namespace data

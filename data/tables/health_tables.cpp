@@ -61,7 +61,7 @@ constexpr Column medicalLog[] = {
     {"Description"_L1,        "Description:"_L1, LongText},
 };
 
-constexpr Table tables[] = {
+constexpr Table healthGroup[] = {
     {"ShotRecords"_L1, Keys::Owner,          shotRecords},
     {"Doctors"_L1,     Keys::Counter,        doctors},
     {"MedicalLog"_L1,  Keys::OwnerAndDoctor, medicalLog},
@@ -72,7 +72,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> healthTables() {
-    return tables;
+    return healthGroup;
 }
 
 }  // namespace data

@@ -145,7 +145,7 @@ constexpr Column otherInsurance[] = {
     {"LifeInsurance"_L1,    "Life Insurance"_L1,     YesNo},
 };
 
-constexpr Table tables[] = {
+constexpr Table insuranceGroup[] = {
     {"MedicalInsurance"_L1,      Keys::Owner, medicalInsurance},
     {"LifeInsurance"_L1,         Keys::Owner, lifeInsurance},
     {"AutoInsurance"_L1,         Keys::Owner, autoInsurance},
@@ -161,7 +161,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> insuranceTables() {
-    return tables;
+    return insuranceGroup;
 }
 
 }  // namespace data

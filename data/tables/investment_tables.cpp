@@ -144,7 +144,7 @@ constexpr Column otherSecurities[] = {
     {"Comment"_L1,       "Comment/Documents Location:"_L1, LongText},
 };
 
-constexpr Table tables[] = {
+constexpr Table investmentGroup[] = {
     {"InvestmentStrategy"_L1, Keys::Owner, investmentStrategy},
     {"BrokerageAccount"_L1,   Keys::Owner, brokerageAccount},
     {"Stocks"_L1,             Keys::Owner, stocks},
@@ -161,7 +161,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> investmentTables() {
-    return tables;
+    return investmentGroup;
 }
 
 }  // namespace data

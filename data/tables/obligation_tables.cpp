@@ -68,7 +68,7 @@ constexpr Column creditCards[] = {
     {"Insurance"_L1,       "Insurance"_L1,                 YesNo},
 };
 
-constexpr Table tables[] = {
+constexpr Table obligationGroup[] = {
     {"Obligations"_L1,         Keys::Owner, obligations},
     {"AlimonyChildSupport"_L1, Keys::Owner, alimonyChildSupport},
     {"CreditCards"_L1,         Keys::Owner, creditCards},
@@ -79,7 +79,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> obligationTables() {
-    return tables;
+    return obligationGroup;
 }
 
 }  // namespace data

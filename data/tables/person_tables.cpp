@@ -128,7 +128,7 @@ constexpr Column residences[] = {
     {"PrimaryResidence"_L1, "Primary Residence:"_L1, YesNo},
 };
 
-constexpr Table tables[] = {
+constexpr Table personGroup[] = {
     {"Person"_L1,              Keys::Counter, person},
     {"Education"_L1,           Keys::Owner,   education},
     {"Employers"_L1,           Keys::Owner,   employers},
@@ -143,7 +143,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> personTables() {
-    return tables;
+    return personGroup;
 }
 
 }  // namespace data

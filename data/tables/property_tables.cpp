@@ -114,7 +114,7 @@ constexpr Column otherProperty[] = {
     {"Comment"_L1,       "Comment/Documents Locations/Description:"_L1, LongText},
 };
 
-constexpr Table tables[] = {
+constexpr Table propertyGroup[] = {
     {"Inventory"_L1,     Keys::Parent, inventory},
     {"Improvements"_L1,  Keys::Parent, improvements},
     {"Outbuildings"_L1,  Keys::Parent, outbuildings},
@@ -129,7 +129,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> propertyTables() {
-    return tables;
+    return propertyGroup;
 }
 
 }  // namespace data

@@ -162,7 +162,7 @@ constexpr Column otherRealEstate[] = {
     {"WaterRights"_L1,   "Water Rights"_L1,     YesNo},
 };
 
-constexpr Table tables[] = {
+constexpr Table realEstateGroup[] = {
     {"HomeOwned"_L1,             Keys::Owner, homeOwned},
     {"HomeRented"_L1,            Keys::Owner, homeRented},
     {"BusinessRealEstate"_L1,    Keys::Owner, businessRealEstate},
@@ -177,7 +177,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> realEstateTables() {
-    return tables;
+    return realEstateGroup;
 }
 
 }  // namespace data

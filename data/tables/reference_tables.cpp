@@ -48,7 +48,7 @@ constexpr Column assetLiquidation[] = {
     {"Directions"_L1, "Directions:"_L1, LongText},
 };
 
-constexpr Table tables[] = {
+constexpr Table referenceGroup[] = {
     {"Contacts"_L1,         Keys::Counter, contacts},
     {"CoverPage"_L1,        Keys::Counter, coverPage},
     {"WhoGetsWhat"_L1,      Keys::Counter, whoGetsWhat},
@@ -60,7 +60,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> referenceTables() {
-    return tables;
+    return referenceGroup;
 }
 
 }  // namespace data

@@ -56,7 +56,7 @@ constexpr Column taxes[] = {
     {"OutstandingTaxes"_L1, "Outstanding Taxes"_L1,   YesNo},
 };
 
-constexpr Table tables[] = {
+constexpr Table retirementGroup[] = {
     {"RetirementAccounts"_L1, Keys::Owner, retirementAccounts},
     {"SocialSecurity"_L1,     Keys::Owner, socialSecurity},
     {"Taxes"_L1,              Keys::Owner, taxes},
@@ -67,7 +67,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> retirementTables() {
-    return tables;
+    return retirementGroup;
 }
 
 }  // namespace data

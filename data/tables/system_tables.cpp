@@ -36,7 +36,7 @@ constexpr Column luStates[] = {
     {"Name"_L1, {}, Text},
 };
 
-constexpr Table tables[] = {
+constexpr Table systemGroup[] = {
     {"PIN_Password"_L1, Keys::Owner, pinPassword},
     {"Attachments"_L1,  Keys::None,  attachments},
     {"LUStates"_L1,     Keys::None,  luStates},
@@ -47,7 +47,7 @@ constexpr Table tables[] = {
 }  // namespace
 
 std::span<const Table> systemTables() {
-    return tables;
+    return systemGroup;
 }
 
 }  // namespace data

@@ -5,6 +5,8 @@
 #include <QTextBoundaryFinder>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -63,6 +65,11 @@ bool runsRightToLeft(UChar32 point) {
 }
 
 }  // namespace
+
+QStringList printedLines(QString text) {
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    return text.split(u'\n');
+}
 
 bool isLatin(QStringView text) {
     return std::ranges::all_of(text, isLatinUnit);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace platform {
@@ -22,6 +23,9 @@ struct Grapheme {
 [[nodiscard]] QStringView fitting(QStringView text, qsizetype positions);
 /// The text with blanks behind it, up to so many positions.
 [[nodiscard]] QString paddedTo(const QString& text, qsizetype positions);
+
+/// The lines that a text prints as: CR LF, and either alone, ends one.
+[[nodiscard]] QStringList printedLines(QString text);
 
 /// Only characters for which every font of one width has a glyph of that width: they are measured by counting.
 [[nodiscard]] bool isLatin(QStringView text);

@@ -11,14 +11,14 @@ namespace platform {
 
 namespace {
 /// What the toolkit leaves free at either side of a line's text.
-constexpr int sideMargin = 2;
+constexpr int innerMargin = 2;
 }  // namespace
 
 QRect LineEdit::textRect() const {
     QStyleOptionFrame panel;
     initStyleOption(&panel);
     const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &panel, this);
-    return inside.marginsRemoved(textMargins()).adjusted(sideMargin, 0, -sideMargin, 0);
+    return inside.marginsRemoved(textMargins()).adjusted(innerMargin, 0, -innerMargin, 0);
 }
 
 QString LineEdit::cutText() const {
@@ -29,7 +29,7 @@ QString LineEdit::cutText() const {
 int LineEdit::widthFor(int textPixels) const {
     QStyleOptionFrame panel;
     initStyleOption(&panel);
-    const QSize text(textPixels + 2 * sideMargin, fontMetrics().height());
+    const QSize text(textPixels + 2 * innerMargin, fontMetrics().height());
     return style()->sizeFromContents(QStyle::CT_LineEdit, &panel, text, this).width();
 }
 

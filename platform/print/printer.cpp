@@ -22,11 +22,6 @@ bool isBlank(const PrintedPage& page) {
 
 }  // namespace
 
-QStringList printedLines(QString text) {
-    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-    return text.split(u'\n');
-}
-
 Printer::Printer(PrintDevice& device, QString title) : device_(device), title_(std::move(title)), area_(device.page()) {
     const double scale = pageScale(area_);
     for (double* length : {&area_.width, &area_.height, &area_.scaleWidth, &area_.scaleHeight})

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringList>
+#include <QString>
 
 #include "platform/print/print_job.h"
 
@@ -13,9 +13,6 @@ struct PlacedText {
     double x = 0;
     QString text{};
 };
-
-/// The lines that a text prints as: CR LF, and either alone, ends one.
-[[nodiscard]] QStringList printedLines(QString text);
 
 /// Puts lines of text on pages and sends them as one job. Text that would begin below the page's end goes to the next
 /// page; text wider than the page runs off. A sheet too small for pageScale() is taken for a larger one.

@@ -80,7 +80,7 @@ constexpr ScreenDefinition cds{
     .frames = cdsFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition bankingGroup[] = {
     moneyMarkets,
     savingsAcct,
     checkingAcct,
@@ -92,7 +92,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> bankingEntries() {
-    return entries;
+    return bankingGroup;
 }
 
 }  // namespace screens

@@ -61,7 +61,7 @@ constexpr ScreenDefinition outbuildings{
     .frames = outbuildingsFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition childGroup[] = {
     inventory,
     improvements,
     outbuildings,
@@ -72,7 +72,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> childEntries() {
-    return entries;
+    return childGroup;
 }
 
 }  // namespace screens

@@ -142,7 +142,7 @@ constexpr ScreenDefinition memberships{
     .frames = membershipsFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition familyGroup[] = {
     funeral,
     marriage,
     legal,
@@ -157,7 +157,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> familyEntries() {
-    return entries;
+    return familyGroup;
 }
 
 }  // namespace screens

@@ -26,7 +26,7 @@ constexpr ScreenDefinition shotRecords{
     .frames = shotRecordsFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition healthGroup[] = {
     shotRecords,
 };
 
@@ -35,7 +35,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> healthEntries() {
-    return entries;
+    return healthGroup;
 }
 
 }  // namespace screens

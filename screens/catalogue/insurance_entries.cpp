@@ -147,7 +147,7 @@ constexpr ScreenDefinition otherInsurance{
     .frames = otherInsuranceFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition insuranceGroup[] = {
     homeInsurance,
     autoInsurance,
     supplementalInsurance,
@@ -163,7 +163,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> insuranceEntries() {
-    return entries;
+    return insuranceGroup;
 }
 
 }  // namespace screens

@@ -162,7 +162,7 @@ constexpr ScreenDefinition bonds{
     .frames = bondsFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition investmentGroup[] = {
     brokerageAcct,
     otherSecurities,
     annuity,
@@ -179,7 +179,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> investmentEntries() {
-    return entries;
+    return investmentGroup;
 }
 
 }  // namespace screens

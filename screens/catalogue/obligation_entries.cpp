@@ -136,7 +136,7 @@ constexpr ScreenDefinition theyOweYou{
     .frames = theyOweYouFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition obligationGroup[] = {
     loans,
     mortgages,
     childSupport,
@@ -150,7 +150,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> obligationEntries() {
-    return entries;
+    return obligationGroup;
 }
 
 }  // namespace screens

@@ -119,7 +119,7 @@ constexpr ScreenDefinition religion{
     .frames = religionFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition personGroup[] = {
     education,
     employment,
     passport,
@@ -133,7 +133,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> personEntries() {
-    return entries;
+    return personGroup;
 }
 
 }  // namespace screens

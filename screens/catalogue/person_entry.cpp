@@ -6,7 +6,7 @@ namespace screens {
 
 namespace {
 
-constexpr Frame frames[] = {
+constexpr Frame personFrames[] = {
     {""_L1, "LegalName"_L1},
     {"Birth Information"_L1, "BirthDate"_L1, "SocSecNumChange"_L1},
     {"Birth Certificate/Organ Donor Card Location"_L1, "BirthCertLoc"_L1},
@@ -22,7 +22,7 @@ constexpr ScreenDefinition entry{
     .saveAllHint = "Save all records to a file"_L1,
     .reportsLoadFailure = true,
     .soleCombo = true,
-    .frames = frames,
+    .frames = personFrames,
 };
 
 }  // namespace

@@ -85,7 +85,7 @@ constexpr ScreenDefinition collectibles{
     .frames = collectiblesFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition propertyGroup[] = {
     vehicles,
     otherProperty,
     antiques,
@@ -97,7 +97,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> propertyEntries() {
-    return entries;
+    return propertyGroup;
 }
 
 }  // namespace screens

@@ -186,7 +186,7 @@ constexpr ScreenDefinition undeveloped{
     .children = undevelopedChildren,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition realEstateGroup[] = {
     homesRented,
     rentals,
     homesOwned,
@@ -201,7 +201,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> realEstateEntries() {
-    return entries;
+    return realEstateGroup;
 }
 
 }  // namespace screens

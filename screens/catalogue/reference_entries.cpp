@@ -62,7 +62,7 @@ constexpr ScreenDefinition coverPage{
     .inOneColumn = true,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition referenceGroup[] = {
     doctors,
     contacts,
     coverPage,
@@ -73,7 +73,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> referenceEntries() {
-    return entries;
+    return referenceGroup;
 }
 
 }  // namespace screens

@@ -60,7 +60,7 @@ constexpr ScreenDefinition taxes{
     .frames = taxesFrames,
 };
 
-constexpr ScreenDefinition entries[] = {
+constexpr ScreenDefinition retirementGroup[] = {
     socialSecurity,
     retirementAccounts,
     taxes,
@@ -71,7 +71,7 @@ constexpr ScreenDefinition entries[] = {
 }  // namespace
 
 std::span<const ScreenDefinition> retirementEntries() {
-    return entries;
+    return retirementGroup;
 }
 
 }  // namespace screens

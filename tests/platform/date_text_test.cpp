@@ -4,22 +4,13 @@
 
 #include <cmath>
 
-#include "platform/base/clock.h"
 #include "tests/platform/error_number.h"
+#include "tests/platform/fixed_clock.h"
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
 namespace {
-
-class FixedClock : public Clock {
-public:
-    explicit FixedClock(const QDate& day) : day_(day) {}
-    [[nodiscard]] QDate today() const override { return day_; }
-
-private:
-    QDate day_;
-};
 
 struct DateCase {
     QStringView text;

@@ -6,10 +6,10 @@
 #include <cmath>
 #include <optional>
 
-#include "platform/base/clock.h"
 #include "platform/base/conversions.h"
 #include "platform/base/date_text.h"
 #include "platform/base/display_format.h"
+#include "tests/platform/fixed_clock.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,11 +65,6 @@ TEST(Region, ReadsNumbersByItsOwnSeparatorsAndDigits) {
     }
 }
 
-class FixedClock : public Clock {
-public:
-    [[nodiscard]] QDate today() const override { return {2023, 8, 1}; }
-};
-
 TEST(Region, ReadsDatesInItsOwnOrderWithItsOwnNames) {
     struct {
         QString locale;
@@ -108,7 +103,7 @@ TEST(Region, ReadsDatesInItsOwnOrderWithItsOwnNames) {
         {u"ar"_s, u"31/12/2001", u"2001-12-31"},
         {u"ar"_s, u"\u0661/\u0662/\u0662\u0660\u0660\u0661 \u0663:\u0663\u0660 \u0645", u"2001-02-01 15:30"},
     };
-    const FixedClock clock;
+    const FixedClock clock(QDate(2023, 8, 1));
     const ClockInPlace inPlace(clock);
     for (const auto& [locale, text, date] : cases) {
         SCOPED_TRACE((locale + u' ' + text.toString()).toStdString());
