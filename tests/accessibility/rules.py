@@ -1,11 +1,11 @@
 """What must hold of everything that the program shows. Each rule gives a line for each thing that breaks it.
 
-`things`: all that stands in a window.
+`things`: all that stands in a window, looked at together.
 """
 
 import re
 
-from reader import Role, State, children, has, name, told, within
+from reader import ACCESSIBLE, TABLE, GLib, Role, State, ask, children, get_property, look, within
 
 # What only arranges others, or is a part of one.
 ARRANGING = {Role.FILLER, Role.PANEL, Role.SCROLL_BAR, Role.SEPARATOR, Role.SPLIT_PANE, Role.LAYERED_PANE, Role.LIST,
@@ -16,91 +16,90 @@ KEYS = {"ID", "PersonID", "Encrypted"}
 
 
 def controls(things):
-    return [each for each in things if each.get_role() not in ARRANGING and has(each, State.SHOWING)]
+    return [each for each in things if each.role not in ARRANGING and each.has(State.SHOWING)]
 
 
 def nameless(things):
     """Also what is hidden just now must have its name when it comes up; an empty entry or cell is no control."""
-    return [each for each in things if has(each, State.FOCUSABLE) and not name(each)
-            and each.get_role() not in (Role.LIST_ITEM, Role.TABLE_CELL)]
+    return [each for each in things if each.has(State.FOCUSABLE) and not each.name
+            and each.role not in (Role.LIST_ITEM, Role.TABLE_CELL)]
 
 
 def names(things):
     for each in nameless(things):
-        yield f"a {each.get_role_name()} in '{name(each.get_parent())}' has no name"
+        yield f"{each} in '{each.parent.name}' has no name"
 
 
 def combos(things):
     for combo in things:
-        if combo.get_role() != Role.COMBO_BOX:
+        if combo.role != Role.COMBO_BOX:
             continue
-        lines = [part for part in children(combo) if part.get_role() == Role.TEXT]
-        if not lines:
+        if not any(part.role == Role.TEXT for part in combo.below):
             continue  # Called by what is chosen in it, as the toolkit's own are; its label is a thing beside it.
-        yield from (f"the {part.get_role_name()} of {told(combo)} is called '{name(part)}'"
-                    for part in children(combo) if name(part) != name(combo))
+        yield from (f"{part} of {combo} is called so" for part in combo.below if part.name != combo.name)
 
 
 def tables(things):
     for table in things:
-        if table.get_role() != Role.TABLE:
+        if table.role != Role.TABLE:
             continue
-        if not name(table):
+        if not table.name:
             yield "a table has no name"
-        grid = table.get_table_iface()
-        columns = range(grid.get_n_columns())
-        captions = [grid.get_column_description(column) for column in columns]
-        yield from (f"{told(table)} shows the column {caption}" for caption in captions if caption in KEYS or not caption)
-        for place, row in enumerate(children(table)):
-            texts = [name(grid.get_accessible_at(place, column)) for column in columns]
-            if name(row) != ", ".join(text for text in texts if text) or not re.search("[A-Za-z]", name(row)):
-                yield f"row {place} of {told(table)} is read as '{name(row)}', its cells as {texts}"
-            if [name(cell) for cell in children(row)] != texts:
-                yield f"row {place} of {told(table)} holds other cells than the table"
+        captions = [caption for caption, in ask([(table.place, TABLE, "GetColumnDescription", GLib.Variant("(i)", (column,)))
+                                                 for column in range(*get_property([table], TABLE, "NColumns"))])]
+        yield from (f"{table} shows the column {caption}" for caption in captions if caption in KEYS or not caption)
+        for place, row in enumerate(table.below):
+            cells = look([cell for cell, in ask([(table.place, TABLE, "GetAccessibleAt", GLib.Variant("(ii)", (place, column)))
+                                                 for column in range(len(captions))])])
+            texts = [cell.name for cell in cells]
+            if row.name != ", ".join(text for text in texts if text) or not re.search("[A-Za-z]", row.name):
+                yield f"row {place} of {table} is read as '{row.name}', its cells as {texts}"
+            if [cell.name for cell in row.below] != texts:
+                yield f"row {place} of {table} holds other cells than the table"
 
 
 def status(things):
-    bars = [each for each in things if each.get_role() == Role.STATUS_BAR]
-    if len(bars) != 1 or not name(bars[0]):
-        yield f"it has {len(bars)} status lines: {[name(bar) for bar in bars]}"
+    bars = [each for each in things if each.role == Role.STATUS_BAR]
+    if len(bars) != 1 or not bars[0].name:
+        yield f"it has {len(bars)} status lines: {[bar.name for bar in bars]}"
 
 
 def dialog(window):
-    if window.get_role() not in (Role.DIALOG, Role.ALERT, Role.FILE_CHOOSER):
-        yield f"its role is {window.get_role_name()}"
-    if not name(window):
+    if window.role not in (Role.DIALOG, Role.ALERT, Role.FILE_CHOOSER):
+        yield f"it is told as {window}"
+    if not window.name:
         yield "it has no title"
 
 
 def front(window, pane):
     """Of the host's child windows that one alone shows, and nothing in the others can be come upon."""
-    if not has(window, State.SHOWING):
+    if not window.has(State.SHOWING):
         yield "it is in front and doesn't show"
     for other in children(pane):
-        if name(other) != name(window):
-            yield from (f"behind it {told(each)} shows" for each in [other, *within(other)] if has(each, State.SHOWING))
+        if other.name != window.name:
+            yield from (f"behind it {each} shows" for each in [other, *within(other)] if each.has(State.SHOWING))
 
 
 def focus(heard):
     """Of where the focus was heard to be."""
     for source in heard:
-        if source.get_role() in BOXES and not has(source, State.SHOWING):
-            yield f"the focus is said to be in {told(source)}, which is hidden"
-        if not name(source):
-            yield f"the focus is said to be in {told(source)}"
+        if source.role in BOXES and not source.has(State.SHOWING):
+            yield f"the focus is said to be in {source}, which is hidden"
+        if not source.name:
+            yield f"the focus is said to be in {source}"
 
 
 def tree(nodes, expected):
     """`expected`: for some of the nodes, by name, if they have records."""
     level = 0
-    for node in nodes:
-        said = re.fullmatch(r"(has records, )?level (\d+)", node.get_description())
+    for node, description in zip(nodes, get_property(nodes, ACCESSIBLE, "Description")):
+        said = re.fullmatch(r"(has records, )?level (\d+)", description)
         if not said:
-            yield f"node {told(node)} is described as '{node.get_description()}'"
+            yield f"node {node} is described as '{description}'"
             continue
         deeper = int(said[2]) - level
         if deeper > 1 or (level == 0 and deeper != 1):
-            yield f"node {told(node)} is said to be on level {said[2]}, below level {level}"
+            yield f"node {node} is said to be on level {said[2]}, below level {level}"
         level = int(said[2])
-        if bool(said[1]) != expected.get(name(node), bool(said[1])):
-            yield f"node {told(node)} is described as '{node.get_description()}'"
+        if bool(said[1]) != expected.get(node.name, bool(said[1])):
+            yield f"node {node} is described as '{description}'"
