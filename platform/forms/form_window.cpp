@@ -56,6 +56,8 @@ void FormWindow::showModal() {
     setWindowModality(Qt::ApplicationModal);
     QWidget::show();
     activateWindow();
+    // What has the focus is seen from the start, as in the host.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     QEventLoop loop;
     modalLoop_ = &loop;
     loop.exec();

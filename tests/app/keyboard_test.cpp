@@ -160,6 +160,23 @@ TEST_F(Keyboard, EnterPressesTheButtonThatHasTheFocus) {
     EXPECT_EQ(status(), u"Edit record"_s);
 }
 
+TEST_F(Keyboard, WhatHasTheFocusInADialogIsSeenFromTheStart) {
+    addMembers({u"Ann Larkin"_s});
+    startFor(u"Ann Larkin"_s);
+    const auto picture = [&](const QString& name) {
+        user.shot(path(name));
+        return QImage(path(name));
+    };
+    for (const bool box : {false, true}) {
+        box ? user.key(u"Alt+D"_s) : user.menu(u"mnuAbout"_s);
+        const QImage start = picture(u"start.png"_s);
+        keys({u"Tab"_s, u"Shift+Tab"_s});
+        EXPECT_EQ(start, picture(u"back.png"_s)) << box << ": the ring comes with the first Tab only";
+        user.key(u"Escape"_s);
+        EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
+    }
+}
+
 TEST_F(Keyboard, AQuestionThatDestroysIsAnsweredNoByEnterAndByEsc) {
     addMembers({u"Ann Larkin"_s});
     exec(u"INSERT INTO Taxes (PersonID, Company) VALUES (1, 'one')"_s);

@@ -65,7 +65,7 @@ TEST_F(Find, WhatIsTypedIsFoundAtOnceAndOpenedByTheKeyboard) {
     EXPECT_EQ(activeWindow() + focus(), u"frmInventorytxtFields(3)"_s);
 }
 
-TEST_F(Find, AClickOrTheButtonOpensAPlaceAndAnAttachmentsRecord) {
+TEST_F(Find, ADoubleClickOrTheButtonOpensAPlaceAndAnAttachmentsRecord) {
     makeFamily();
     startFor(u"Ann Larkin"_s);
     user.menu(u"mFind"_s);
@@ -74,6 +74,10 @@ TEST_F(Find, AClickOrTheButtonOpensAPlaceAndAnAttachmentsRecord) {
     user.select(u"lvFound"_s, 1);
     user.click(u"cmdOpen"_s);
     EXPECT_EQ(activeWindow() + focus() + user.text(selector), u"frmHomesOwnedtxtFields(5)Zoë Larkin"_s);
+    user.menu(u"mFind"_s);
+    user.type(u"ames"_s);
+    user.selectTwice(u"lvFound"_s, 1);
+    EXPECT_EQ(activeWindow() + focus() + user.text(selector), u"frmHomesOwnedtxtFields(5)Ann Larkin"_s);
     user.menu(u"mFind"_s);
     user.type(u"deed"_s);
     user.click(u"cmdOpen"_s);
