@@ -1,6 +1,7 @@
 #include "app/help_viewer.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -109,6 +110,12 @@ void HelpViewer::open() {
         showContents();
     } else {
         tellMissing();
+    }
+    // An open dialog would keep the keys from a window that isn't modal too.
+    const bool overDialog = QApplication::activeModalWidget() && QApplication::activeModalWidget() != this;
+    if (overDialog || !isVisible()) {
+        hide();  // It may be open behind the dialog; how it stands to others changes while it is hidden.
+        setWindowModality(overDialog ? Qt::ApplicationModal : Qt::NonModal);
     }
     showNormal();
     raise();

@@ -100,6 +100,9 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     }
     if (button && button->isEnabled()) {
         button->press();
+    } else if (isDialog() && event->matches(QKeySequence::HelpContents) && desktop().host()) {
+        // The host's own key doesn't reach into a dialog.
+        desktop().run([this] { desktop().host()->showHelp(); });
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -32,6 +32,8 @@ public:
     void bringToFront(QMdiSubWindow& frame);
     /// Unloads a child and takes its frame away; the child that was in front before it comes to the front.
     void removeChild(QMdiSubWindow& frame, const std::function<void()>& unload);
+    /// Brings the program's help up, before an open modal dialog too.
+    virtual void showHelp() {}
 
 protected:
     void setPanel(QWidget& panel);

@@ -346,6 +346,13 @@ TEST_F(Keyboard, HelpComesByItsKeyAndGoesByEsc) {
     user.key(u"Escape"_s);
     EXPECT_EQ(focus(), u"txtFields(0)"_s);
     EXPECT_EQ(activeWindow(), u"frmKinbook"_s);
+    user.menu(u"mFind"_s);
+    user.key(u"F1"_s);
+    EXPECT_EQ(focus(), QString()) << "the help has the keys before a dialog too";
+    user.key(u"Escape"_s);
+    EXPECT_EQ(focus(), u"txtFind"_s);
+    user.type(u"ann"_s);
+    EXPECT_EQ(user.text(u"txtFind"_s), u"ann"_s);
 }
 
 TEST_F(Keyboard, TheLetterOfTwoCommandsIsTheButtonsAndTheMenuBarHasItsOwnKeys) {
