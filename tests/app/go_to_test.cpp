@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QThread>
 #include <QTimer>
+#include <QWidget>
 #include <atomic>
 
 #include "app/shown_rows.h"
