@@ -40,7 +40,7 @@ public:
     explicit Willing(QString name) : name_(std::move(name)) {}
     platform::Answer messageBox(const QString& text, platform::Icon icon, const QString& title,
                                 platform::Buttons buttons) override {
-        if (buttons == platform::Buttons::YesNo) return platform::Answer::Yes;
+        if (buttons != platform::Buttons::Ok) return platform::Answer::Yes;
         std::fprintf(stderr, "%s: %s\n", qPrintable(title), qPrintable(text));
         std::exit(icon == platform::Icon::None ? 1 : 2);
     }
