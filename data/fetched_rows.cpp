@@ -10,8 +10,10 @@ namespace data {
 
 namespace {
 
-/// SQLiteCpp takes a column without a declaration, that is an expression, for an error.
+/// SQLiteCpp takes a column without a declaration for an error. An expression, such as the count that every move looks
+/// up, isn't asked for one: a caught error costs more than the rest of its reading.
 std::optional<ColumnType> typeOf(const SQLite::Statement& statement, int column) {
+    if (!statement.getColumnOriginName(column)) return std::nullopt;
     try {
         return declaredType(QString::fromUtf8(statement.getColumnDeclaredType(column)));
     } catch (const SQLite::Exception&) {

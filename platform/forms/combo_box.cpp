@@ -84,7 +84,7 @@ void ComboBox::setText(const QString& text) {
     if (stands && (text.isEmpty() ? currentIndex() < 0 : list(currentIndex()) == text)) return;
     const QSignalBlocker quiet(this);
     // The arrow keys go on from the entry that reads like the text.
-    setCurrentIndex(findData(text, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setCurrentIndex(static_cast<int>(entries_.indexOf(text)));
     showText(text);
 }
 
@@ -110,8 +110,9 @@ void ComboBox::setListIndex(int index) {
 void ComboBox::addItems(const QStringList& texts) {
     const QSignalBlocker quiet(this);
     const QString kept = currentText();
+    entries_ += texts;
     for (const QString& text : texts)
-        QComboBox::addItem(text.first(shownLength(text, mostInCombo)), text);
+        QComboBox::addItem(text.first(shownLength(text, mostInCombo)));
     // The first entry of a list would choose itself.
     if (listIndex_ < 0) {
         setCurrentIndex(-1);
@@ -128,6 +129,7 @@ void ComboBox::removeEntry(int index) {
     } else if (index < listIndex_) {
         --listIndex_;
     }
+    entries_.removeAt(index);
     removeItem(index);
     setCurrentIndex(listIndex_);
     showText(kept);
@@ -136,6 +138,7 @@ void ComboBox::removeEntry(int index) {
 void ComboBox::clearList() {
     const QSignalBlocker quiet(this);
     listIndex_ = -1;
+    entries_.clear();
     clear();
     showText({});
 }

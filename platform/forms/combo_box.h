@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QStringList>
 #include <functional>
 #include <optional>
 
@@ -31,7 +32,7 @@ public:
     void setListIndex(int index);
     [[nodiscard]] int listCount() const { return count(); }
     /// Text of an entry; empty outside the list.
-    [[nodiscard]] QString list(int index) const { return itemData(index).toString(); }
+    [[nodiscard]] QString list(int index) const { return entries_.value(index); }
     void addItem(const QString& text) { addItems({text}); }
     /// The same as addItem() for each of them, in less time.
     void addItems(const QStringList& texts);
@@ -81,6 +82,7 @@ private:
     LineEdit* line_;
     std::function<void()> handler_;
     std::function<void()> enter_;
+    QStringList entries_;  ///< whole, where the list has their beginnings
     int listIndex_ = -1;
     std::optional<QString> held_;
     QString long_;  ///< the whole of a text whose beginning is shown; what is typed takes its place

@@ -71,6 +71,7 @@ void MemoBox::beginningChanged(int position, int removed) {
 
 /// A line below the text says what isn't shown.
 void MemoBox::tellRest() {
+    if (rest_.isEmpty() && beginning_.isEmpty()) return;
     beginning_ = rest_.isEmpty() ? QString() : toPlainText();
     restNote_->setVisible(!rest_.isEmpty());
     restNote_->setText(u"%L1 more characters are kept, but not shown."_s.arg(rest_.size()));
